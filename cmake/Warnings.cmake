@@ -1,0 +1,14 @@
+# The compiler flags of every target of ours.
+add_library(orvanta_flags INTERFACE)
+target_compile_features(orvanta_flags INTERFACE cxx_std_20)
+if(MSVC)
+    target_compile_options(orvanta_flags INTERFACE /W4 /WX /permissive- /utf-8)
+else()
+    target_compile_options(orvanta_flags INTERFACE -Wall -Wextra -Wpedantic -Werror -Wshadow=local
+        -Wnon-virtual-dtor -Woverloaded-virtual=1 -Wimplicit-fallthrough)
+    if(ORVANTA_SANITIZE)
+        target_compile_options(orvanta_flags INTERFACE -fsanitize=address,undefined -fno-omit-frame-pointer
+            -fno-sanitize-recover=undefined)
+        target_link_options(orvanta_flags INTERFACE -fsanitize=address,undefined)
+    endif()
+endif()

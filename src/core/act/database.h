@@ -1,0 +1,63 @@
+#pragma once
+
+#include "act/activity.h"
+
+#include <memory>
+#include <string>
+
+namespace act {
+
+// The contact fields by position. Positions have gaps, and a gap gives the id -1. The other members take a
+// field's id; one that there is not fails with 381.
+class Fields {
+public:
+    virtual ~Fields() = default;
+    virtual int Count() const = 0;
+    virtual int ID(int position) const = 0;
+    virtual std::string Label(int id) const = 0;
+    virtual std::string Type(int id) const = 0; // the store's own number for the kind of field, as text
+    virtual bool HasPopupList(int id) const = 0;
+};
+
+class Contact {
+public:
+    virtual ~Contact() = default;
+    virtual class Fields& Fields() = 0;
+    virtual bool Goto(const std::string& id) = 0; // false, and no current record, when it doesn't exist
+    virtual Value Data(int field) const = 0; // nothing without a record, or for a field that there is not
+};
+
+class Group {
+public:
+    virtual ~Group() = default;
+    virtual bool Goto(const std::string& id) = 0;
+    virtual Value Data(int field) const = 0; // 1 the id, 25 the name
+};
+
+// The database's users, by index from 1. An index outside 1 to Count fails with 9.
+class Users {
+public:
+    virtual ~Users() = default;
+    virtual int Count() const = 0;
+    virtual std::string uniqueID(int index) const = 0; // 12 characters, the last can be a blank
+    virtual std::string name(int index) const = 0;
+    virtual std::string Security(int index) const = 0;
+    virtual std::string Access(int index) const = 0;
+};
+
+// The data access root. The tables belong to it and live until Close, but for the activity lists: each call of
+// Activity makes a new one.
+class Database {
+public:
+    virtual ~Database() = default;
+    // Opens the database at a path, or with "" the one that the running application has open. Fails with 440
+    // and a sentence that says why.
+    virtual void OpenEx(const std::string& path) = 0;
+    virtual void Close() = 0;
+    virtual class Contact& Contact() = 0;
+    virtual std::unique_ptr<class Activity> Activity() = 0;
+    virtual class Users& Users() = 0;
+    virtual class Group& Group() = 0;
+};
+
+} // namespace act

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace host {
+
+// The per-user store: a tree of named text values. A branch is a path of names joined with "\", such as
+// "Orvanta\Settings". Several processes use it at once; a read sees the last write of any of them.
+class UserStore {
+public:
+    virtual ~UserStore() = default;
+    virtual std::optional<std::string> read(const std::string& branch, const std::string& name) const = 0;
+    virtual bool write(const std::string& branch, const std::string& name, const std::string& value) = 0;
+    // False when the value, or the branch, isn't there.
+    virtual bool remove(const std::string& branch, const std::string& name) = 0;
+    virtual bool remove_branch(const std::string& branch) = 0;
+    // Names and values in the order they were first written.
+    virtual std::vector<std::pair<std::string, std::string>> list(const std::string& branch) const = 0;
+};
+
+} // namespace host

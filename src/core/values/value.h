@@ -1,0 +1,25 @@
+#pragma once
+
+#include "values/date_time.h"
+#include "values/locale.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <variant>
+
+namespace values {
+
+// What a field of a record holds: nothing, a whole number, a text, or a date and time.
+using Value = std::variant<std::monostate, std::int64_t, std::string, DateTime>;
+
+// The value as text: "" for nothing, decimal digits, the text itself, the default text form of a date.
+std::string text_of(const Value& value, const Locale& locale);
+// The value as a date; a text is read in the locale. Absent when it holds none.
+std::optional<DateTime> date_of(const Value& value, const Locale& locale);
+// The value as a whole number. Fails with 13 when it is nothing or a text that is no number, with 6 when it
+// doesn't fit.
+std::int16_t int16_of(const Value& value);
+std::int32_t int32_of(const Value& value);
+
+} // namespace values

@@ -1,0 +1,87 @@
+#pragma once
+
+#include "store/records.h"
+
+#include <cstdint>
+#include <memory>
+#include <set>
+#include <string>
+#include <vector>
+
+namespace store {
+
+// Which activities a list holds, and in which order nobody has to ask: by start, then by id.
+struct ActivityQuery {
+    std::optional<DateTime> from; // starts at or after this
+    std::optional<DateTime> to; // starts before this
+    std::set<ActivityType> without_types;
+    std::set<Priority> without_priorities;
+    bool without_cleared = false;
+    std::optional<std::string> contact; // that this contact takes part in
+    std::optional<std::string> user;
+};
+
+// A contact manager's database: one file, shared by any number of processes, each with a Store of its own. It is
+// used by one thread. Failures are values::Failure with 440 and a sentence for the user: the file is missing, is
+// no database, comes from a newer version, can't be written, is damaged, or stays locked for over four seconds.
+// Each writing member is one durable transaction: when it returns, a crash of the machine doesn't undo it.
+class Store {
+public:
+    // Makes a new empty database. Fails when a file stands at the path already.
+    static std::unique_ptr<Store> create(const std::string& path);
+    // Opens a database, bringing one of an older version up to date. A file that can't be written is opened for
+    // reading alone.
+    static std::unique_ptr<Store> open(const std::string& path);
+    virtual ~Store() = default;
+
+    virtual const std::string& path() const = 0;
+    virtual bool is_read_only() const = 0;
+
+    // A number that rises whenever any process changes the database. Costs no query of a table.
+    virtual std::int64_t revision() = 0;
+
+    virtual std::vector<User> users() = 0; // by name
+    virtual std::string add(const User& user) = 0; // gives the new id; an id that the record brings is kept
+    virtual std::vector<Group> groups() = 0; // by name
+    virtual std::optional<Group> group(const std::string& id) = 0;
+    virtual std::string add(const Group& group) = 0;
+    virtual void update(const Group& group) = 0;
+
+    virtual std::vector<Contact> contacts() = 0; // by company, then by contact name
+    virtual std::optional<Contact> contact(const std::string& id) = 0;
+    virtual std::string add(const Contact& contact) = 0;
+    virtual void update(const Contact& contact) = 0; // as below for activities
+
+    virtual std::vector<Note> notes(const std::string& contact) = 0; // newest first
+    virtual std::string add(const Note& note) = 0;
+
+    virtual std::vector<Activity> activities(const ActivityQuery& query) = 0;
+    virtual std::optional<Activity> activity(const std::string& id) = 0;
+    virtual std::string add(const Activity& activity) = 0;
+    // Stores the record when nobody changed it since it was read (its revision tells); else fails and changes
+    // nothing.
+    virtual void update(const Activity& activity) = 0;
+    virtual void remove_activity(const std::string& id) = 0; // an absent one is no failure
+    virtual void add_exception(const std::string& activity, DateTime date) = 0; // the date counts, not the time
+    virtual void remove_exception(const std::string& activity, DateTime date) = 0;
+
+    // Several writes as one transaction: all of them or, when the block throws, none.
+    template <typename Block>
+    void together(Block&& block) {
+        begin();
+        try {
+            block();
+        } catch (...) {
+            roll_back();
+            throw;
+        }
+        commit();
+    }
+
+protected:
+    virtual void begin() = 0;
+    virtual void commit() = 0;
+    virtual void roll_back() = 0;
+};
+
+} // namespace store

@@ -1,0 +1,150 @@
+"""The desktop of one test: an empty home folder, and our programs started there as a user would start them.
+
+The test looks at them from outside: the accessibility tree, D-Bus, files, pictures, real key and mouse events. It
+runs inside a virtual display and a private D-Bus session (see CMakeLists.txt).
+"""
+
+import os
+import shutil
+import subprocess
+import tempfile
+import time
+
+import gi
+
+gi.require_version("Atspi", "2.0")
+from gi.repository import Atspi  # noqa: E402
+
+PROGRAMS = os.environ["ORVANTA_PROGRAMS"]
+
+
+def wait_for(look, what, seconds=10):
+    """The first true answer of look(), asked every 50 ms; fails with what was waited for."""
+    end = time.monotonic() + seconds
+    while time.monotonic() < end:
+        answer = look()
+        if answer:
+            return answer
+        time.sleep(0.05)
+    raise AssertionError(f"{what}: not within {seconds} seconds")
+
+
+class Desktop:
+    """Makes its folder in __enter__, ends every program and removes the folder in __exit__."""
+
+    def __init__(self, scale=1):
+        self.scale = scale
+        self.processes = []
+
+    def __enter__(self):
+        self.folder = tempfile.mkdtemp(prefix="orvanta-system-")
+        self.environment = dict(os.environ, HOME=self.folder, XDG_CONFIG_HOME=self.path("config"),
+                                XDG_DATA_HOME=self.path("data"), XDG_RUNTIME_DIR=self.path("runtime"),
+                                QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1", QT_SCALE_FACTOR=str(self.scale))
+        os.mkdir(self.path("runtime"), 0o700)
+        # The programs run from a copy, away from the place where they were built.
+        shutil.copytree(PROGRAMS, self.path("programs"), ignore=shutil.ignore_patterns("test_*", "bench_*", "*.ini"))
+        return self
+
+    def __exit__(self, *failure):
+        for process in reversed(self.processes):
+            if process.poll() is None:
+                process.kill()
+            process.wait()
+        shutil.rmtree(self.folder, ignore_errors=True)
+
+    def path(self, *names):
+        return os.path.join(self.folder, *names)
+
+    def program(self, name):
+        return self.path("programs", name)
+
+    def start(self, name, *arguments):
+        process = subprocess.Popen([self.program(name), *arguments], env=self.environment, cwd=self.folder)
+        self.processes.append(process)
+        return process
+
+    def run(self, *command):
+        """Runs a command on this desktop to its end and gives what it printed."""
+        return subprocess.run(command, env=self.environment, cwd=self.folder, check=True, text=True,
+                              stdout=subprocess.PIPE, timeout=60).stdout
+
+    def sample(self):
+        database = self.path("sample.desk")
+        self.run(self.program("contact-desk"), "--new-sample", database)
+        return database
+
+    def start_desk(self, *arguments):
+        desk = self.start("contact-desk", *arguments)
+        wait_for(self.desk_is_on_the_bus, "the contact desk on the bus")
+        return desk
+
+    def desk_is_on_the_bus(self):
+        return "boolean true" in self.run("dbus-send", "--session", "--print-reply", "--dest=org.freedesktop.DBus", "/",
+                                          "org.freedesktop.DBus.NameHasOwner", "string:org.orvanta.ContactDesk")
+
+    def windows(self, title, process):
+        """The ids of a process's visible windows whose title matches."""
+        found = subprocess.run(["xdotool", "search", "--all", "--onlyvisible", "--pid", str(process.pid), "--name", title],
+                               env=self.environment, text=True, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL)
+        return found.stdout.split()
+
+    def wait_for_window(self, title, process):
+        return wait_for(lambda: self.windows(title, process), f"a window '{title}'")[0]
+
+    def picture(self, path, window="root"):
+        self.run("import", "-silent", "-window", window, path)
+
+
+# The accessibility tree -----------------------------------------------------------------------------------------------
+
+def application_of(process):
+    def look():
+        tree = Atspi.get_desktop(0)
+        for index in range(tree.get_child_count()):
+            child = tree.get_child_at_index(index)
+            if child and child.get_process_id() == process.pid:
+                return child
+        return None
+    return wait_for(look, "the program in the accessibility tree")
+
+
+def descendants(node):
+    for index in range(node.get_child_count()):
+        child = node.get_child_at_index(index)
+        if child:
+            yield child
+            if child.get_role() != Atspi.Role.TABLE:
+                yield from descendants(child)
+
+
+def find(process, role, name=None):
+    """The first object of that role, and name where one is given, in the program's tree; None if there is none."""
+    for node in descendants(application_of(process)):
+        if node.get_role() == role and (name is None or node.get_name() == name):
+            return node
+    return None
+
+
+def wait_to_find(process, role, name=None):
+    return wait_for(lambda: find(process, role, name), f"an object of role {role.value_nick} named {name!r}")
+
+
+def press(process, role, name):
+    """Does the default action of an object: a button's press, a menu entry's choice."""
+    wait_to_find(process, role, name).get_action_iface().do_action(0)
+
+
+class Grid:
+    """The calendar's grid as the accessibility bus tells it."""
+
+    def __init__(self, calendar):
+        self.table = wait_to_find(calendar, Atspi.Role.TABLE).get_table_iface()
+        self.rows = self.table.get_n_rows()
+        self.columns = self.table.get_n_columns()
+
+    def text(self, row, column):
+        return self.table.get_accessible_at(row, column).get_name()
+
+    def column(self, column):
+        return [self.text(row, column) for row in range(self.rows)]

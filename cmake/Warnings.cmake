@@ -5,7 +5,7 @@ if(MSVC)
     target_compile_options(orvanta_flags INTERFACE /W4 /WX /permissive- /utf-8)
 else()
     target_compile_options(orvanta_flags INTERFACE -Wall -Wextra -Wpedantic -Werror -Wshadow=local
-        -Wnon-virtual-dtor -Woverloaded-virtual=1 -Wimplicit-fallthrough)
+        -Wnon-virtual-dtor -Woverloaded-virtual -Wimplicit-fallthrough)
     if(ORVANTA_SANITIZE)
         target_compile_options(orvanta_flags INTERFACE -fsanitize=address,undefined -fno-omit-frame-pointer
             -fno-sanitize-recover=undefined)

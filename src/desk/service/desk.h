@@ -1,0 +1,59 @@
+#pragma once
+
+#include "act/application.h"
+#include "store/records.h"
+
+#include <functional>
+#include <string>
+#include <vector>
+
+// What other programs may do with the running contact manager, as far as its windows have to do it. All calls
+// come on the windows' thread, between its events. A member that can't do what it is asked throws
+// values::Failure with 440 and a sentence for the user, which the caller gets to read.
+namespace service {
+
+// The desk's contact page and its list of activities. It is called only while a database is open.
+class ContactView {
+public:
+    virtual ~ContactView() = default;
+
+    virtual std::string active_tab() const = 0;               // the tab's name, not translated: "Activities"
+    virtual void set_active_tab(const std::string& name) = 0; // a name that there is not fails
+    // Makes these contacts the current lookup and shows the first. Ids that the database doesn't know are left
+    // out.
+    virtual void create_lookup(const std::vector<std::string>& contacts) = 0;
+    virtual int contact_count() const = 0; // of the current lookup
+    // Shows the contact, also one outside the current lookup, and gives the id of the one that is shown then: the
+    // one before when the database doesn't have it, "" for none.
+    virtual std::string go_to(const std::string& contact) = 0;
+
+    // The filter in the encoding that other programs know (windows/activity_filter.h reads and writes it). A
+    // filter that can't be read fails and changes nothing.
+    virtual act::ListFilter activity_filter() const = 0;
+    virtual void set_activity_filter(const act::ListFilter& filter) = 0; // the list shows its result on return
+    virtual int activity_count() const = 0;              // rows of the list of the contact that is shown
+    virtual store::Activity activity(int row) const = 0; // rows from 0 to activity_count() - 1, as they are shown
+    virtual void select_activity(int row, bool selected) = 0; // the one that the activity commands work on
+};
+
+class Desk {
+public:
+    virtual ~Desk() = default;
+
+    virtual std::string database_path() const = 0; // absolute; "" when no database is open
+    virtual ContactView& contact_view() = 0;
+
+    // Begins a command of the menus and returns at once: a dialog is opened, not executed, or from a later event.
+    // `finished` is called once, when the dialog has closed and its changes are stored, and at once by a command
+    // without a dialog. close_application calls it and then ends the desk, with both events below. Throws when
+    // the command can't begin; `finished` is not called then. A second command isn't begun before the first has
+    // finished.
+    virtual void run_command(act::CommandNumber number, std::function<void()> finished) = 0;
+
+    // The two events, set by the service. The windows call them; an unset one is skipped by
+    // `if (on_database_closed)`.
+    std::function<void()> on_user_wants_to_close; // before the desk ends, whichever way it was asked to
+    std::function<void()> on_database_closed;     // after its database has closed, also when it opens another one
+};
+
+} // namespace service

@@ -9,7 +9,7 @@ namespace store {
 struct ContactField {
     int number;
     std::string_view label;
-    std::string_view type; // the store's own kinds: "1" text, "3" date, "4" phone, "5" number, "14" memo, ...
+    std::string_view type; // "1" text, "2" capitals, "3" date, "4" phone, "9" e-mail, "10" web address
     bool has_popup_list;
 };
 

@@ -62,8 +62,8 @@ struct Activity {
     Priority priority = Priority::low;
     std::string regarding;
     std::optional<DateTime> start; // absent when imported data had none that could be read
-    DateTime end;
-    int duration = 0; // minutes
+    DateTime end; // stored as start plus duration where it lies before the start
+    int duration = 0; // minutes; the store never keeps less than 0
     bool is_private = false;
     bool alarm = false;
     int alarm_lead = 0; // minutes

@@ -3,6 +3,7 @@
 #include "store/records.h"
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <set>
 #include <string>
@@ -10,7 +11,15 @@
 
 namespace store {
 
-// Which activities a list holds, and in which order nobody has to ask: by start, then by id.
+class ActivityReading;
+class ToolbarCommands;
+
+// Tells the present moment. The store stamps each changed activity with it.
+using Clock = std::function<DateTime()>;
+DateTime wall_clock(); // the machine's own, in its time zone
+
+// Which activities a list holds, and in which order nobody has to ask: by start, then by id; activities without
+// a start come first. A bound keeps those without a start out.
 struct ActivityQuery {
     std::optional<DateTime> from; // starts at or after this
     std::optional<DateTime> to; // starts before this
@@ -24,20 +33,24 @@ struct ActivityQuery {
 // A contact manager's database: one file, shared by any number of processes, each with a Store of its own. It is
 // used by one thread. Failures are values::Failure with 440 and a sentence for the user: the file is missing, is
 // no database, comes from a newer version, can't be written, is damaged, or stays locked for over four seconds.
-// Each writing member is one durable transaction: when it returns, a crash of the machine doesn't undo it.
+// A record that names a contact, a user or a group that there is not can't be stored either.
+//
+// Each writing member is one durable transaction: when it returns, a crash of the machine doesn't undo it; when
+// it fails, it has changed nothing. Ids are 12 characters of plain ASCII, of which the last can be a blank; a
+// text of 11 given as an id counts with a blank behind it.
 class Store {
 public:
     // Makes a new empty database. Fails when a file stands at the path already.
-    static std::unique_ptr<Store> create(const std::string& path);
+    static std::unique_ptr<Store> create(const std::string& path, Clock clock = wall_clock);
     // Opens a database, bringing one of an older version up to date. A file that can't be written is opened for
     // reading alone.
-    static std::unique_ptr<Store> open(const std::string& path);
+    static std::unique_ptr<Store> open(const std::string& path, Clock clock = wall_clock);
     virtual ~Store() = default;
 
     virtual const std::string& path() const = 0;
     virtual bool is_read_only() const = 0;
 
-    // A number that rises whenever any process changes the database. Costs no query of a table.
+    // A number that rises whenever any process changes the database. Costs no query of a table unless it has.
     virtual std::int64_t revision() = 0;
 
     virtual std::vector<User> users() = 0; // by name
@@ -47,10 +60,11 @@ public:
     virtual std::string add(const Group& group) = 0;
     virtual void update(const Group& group) = 0;
 
-    virtual std::vector<Contact> contacts() = 0; // by company, then by contact name
+    // A contact field that isn't in contact_fields() can't be stored and fails with 381.
+    virtual std::vector<Contact> contacts() = 0; // by company, then by contact name, upper and lower case alike
     virtual std::optional<Contact> contact(const std::string& id) = 0;
     virtual std::string add(const Contact& contact) = 0;
-    virtual void update(const Contact& contact) = 0; // as below for activities
+    virtual std::int64_t update(const Contact& contact) = 0; // as below for activities
 
     virtual std::vector<Note> notes(const std::string& contact) = 0; // newest first
     virtual std::string add(const Note& note) = 0;
@@ -58,14 +72,17 @@ public:
     virtual std::vector<Activity> activities(const ActivityQuery& query) = 0;
     virtual std::optional<Activity> activity(const std::string& id) = 0;
     virtual std::string add(const Activity& activity) = 0;
-    // Stores the record when nobody changed it since it was read (its revision tells); else fails and changes
-    // nothing.
-    virtual void update(const Activity& activity) = 0;
+    // Stores the record when nobody changed it since it was read (its revision tells) and gives its new
+    // revision; else fails and changes nothing.
+    virtual std::int64_t update(const Activity& activity) = 0;
     virtual void remove_activity(const std::string& id) = 0; // an absent one is no failure
     virtual void add_exception(const std::string& activity, DateTime date) = 0; // the date counts, not the time
     virtual void remove_exception(const std::string& activity, DateTime date) = 0;
 
-    // Several writes as one transaction: all of them or, when the block throws, none.
+    virtual ActivityReading& reading() = 0; // for those who keep what they have read (activity_reading.h)
+    virtual ToolbarCommands& toolbar_commands() = 0; // buttons of other programs (toolbar_commands.h)
+
+    // Several writes as one transaction: all of them or, when the block throws, none. Blocks may contain blocks.
     template <typename Block>
     void together(Block&& block) {
         begin();
@@ -80,7 +97,7 @@ public:
 
 protected:
     virtual void begin() = 0;
-    virtual void commit() = 0;
+    virtual void commit() = 0; // rolls back when it fails
     virtual void roll_back() = 0;
 };
 

@@ -1,0 +1,103 @@
+#pragma once
+
+#include "store/records.h"
+
+#include <array>
+#include <compare>
+#include <cstdint>
+#include <functional>
+#include <limits>
+#include <string>
+#include <string_view>
+#include <vector>
+
+// Reading for a process that keeps what it has read in memory and brings it up to date by what has changed since,
+// instead of reading it again.
+namespace store {
+
+// An id in 12 bytes. All zero means none.
+struct Id {
+    std::array<char, 12> characters{};
+
+    Id() = default;
+    explicit Id(std::string_view text) { text.copy(characters.data(), characters.size()); }
+    bool empty() const { return characters.front() == 0; }
+    std::string text() const { return empty() ? std::string() : std::string(characters.data(), characters.size()); }
+    auto operator<=>(const Id&) const = default;
+};
+
+// The place of an activity in the list.
+struct ActivityKey {
+    static constexpr std::int64_t no_start = std::numeric_limits<std::int64_t>::min(); // sorts first
+
+    std::int64_t start = no_start; // DateTime::seconds
+    Id id;
+
+    auto operator<=>(const ActivityKey&) const = default;
+};
+
+// What a walk over the whole list needs of each activity.
+struct ActivityEntry {
+    ActivityKey key;
+    std::int64_t edited = 0;
+    ActivityType type = ActivityType::meeting;
+    Priority priority = Priority::low;
+    bool cleared = false;
+    bool recurring = false;
+};
+
+// An activity without the texts and lists that are seldom asked for.
+struct ActivityRow {
+    ActivityEntry entry;
+    std::int64_t end = 0;
+    std::int64_t revision = 0;
+    Id user, group, contact; // the contact is the activity's own
+    int contact_count = 0;
+    int duration = 0;
+    int alarm_lead = 0;
+    std::optional<std::uint32_t> colour;
+    bool is_private = false;
+    bool alarm = false;
+    bool has_details = false;
+    Recurrence recurrence;
+    std::string regarding;
+};
+
+struct ActivityChanges {
+    std::vector<ActivityRow> changed; // added or changed
+    std::vector<Id> removed;
+    std::vector<std::string> contacts; // changed or added
+};
+
+// Rows come in the list's order. Failures as the store's.
+class ActivityReading {
+public:
+    virtual ~ActivityReading() = default;
+
+    virtual void each_entry(const std::function<void(const ActivityEntry&)>& take) = 0; // all activities
+    virtual void each_series(const std::function<void(const ActivityRow&)>& take) = 0; // all recurring ones
+    // Starts at or after `from` and before `to`.
+    virtual void each_in_scope(DateTime from, DateTime to, const std::function<void(const ActivityRow&)>& take) = 0;
+    // From this place on, at most so many; among those without a start all.
+    virtual void each_from(const ActivityKey& first, int count, const std::function<void(const ActivityRow&)>& take) = 0;
+    // Every exception of every series, those of a series together and rising.
+    virtual void each_exception(const std::function<void(const Id& activity, DateTime date)>& take) = 0;
+
+    virtual std::optional<ActivityRow> row(const Id& id) = 0;
+    virtual std::vector<DateTime> exceptions(const Id& id) = 0;
+    virtual std::string details(const Id& id) = 0; // empty also when the activity is gone
+    virtual std::vector<std::string> contacts(const Id& id) = 0;
+
+    // What changed behind a revision. Read the store's revision before: what changes in between is told again by
+    // the next call.
+    virtual ActivityChanges changes_since(std::int64_t revision) = 0;
+};
+
+} // namespace store
+
+template <>
+struct std::hash<store::Id> {
+    std::size_t operator()(const store::Id& id) const noexcept {
+        return std::hash<std::string_view>{}({id.characters.data(), id.characters.size()});
+    }
+};

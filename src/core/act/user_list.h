@@ -1,0 +1,46 @@
+#pragma once
+
+#include "act/item_list.h"
+#include "act/populate_lists.h"
+#include "act/session.h"
+#include "host/guard.h"
+
+#include <string>
+#include <unordered_map>
+
+namespace settings {
+class IniLib;
+}
+
+namespace act {
+
+// The users whom the calendar shows, and all users by id and name.
+class UserList {
+public:
+    UserList(Session& session, ListPopulator& lists, settings::IniLib& settings, const host::Guard& guarded)
+        : session_(session), lists_(lists), settings_(settings), guarded_(guarded) {}
+
+    // The ids of the chosen users and a blank, or a blank alone, which stands for all users.
+    std::string UsersFilter;
+    int NumUsers = 0;  // how many the calendar shows
+    ItemList cboUsers; // their names; the item data is the position in ActUsers
+    std::unordered_map<std::string, std::string> UserIdToName;
+    std::unordered_map<std::string, std::string> UserNameToId;
+
+    // Reads the filter and fills cboUsers. A filter that names nobody falls back to all users.
+    void Initialize_Users(bool all_users);
+    // Fills both maps with every user of the database. Has no failure handler.
+    void map_users();
+    // Whether activities of that user are shown.
+    bool passes_filter(const std::string& user_id) const {
+        return UsersFilter == " " || UsersFilter.find(user_id) != std::string::npos;
+    }
+
+private:
+    Session& session_;
+    ListPopulator& lists_;
+    settings::IniLib& settings_;
+    const host::Guard& guarded_;
+};
+
+} // namespace act

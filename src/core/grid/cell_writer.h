@@ -1,0 +1,76 @@
+#pragma once
+
+#include "grid/grid_model.h"
+#include "grid/layout.h"
+#include "host/folders.h"
+#include "host/guard.h"
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+
+namespace grid {
+
+// What Write_Cell writes. Anything left at its default leaves the cell as it is, but for fore_color, which goes
+// with the text.
+struct CellContent {
+    std::string_view activity_id = {};
+    std::optional<std::string_view> text = {};
+    int bold = 0; // 1 not bold, 2 bold
+    Colour back_color = 0;
+    Colour fore_color = 0;
+    Alignment alignment = Alignment::left_top;
+    int type = 0; // 1 call, 2 meeting, 3 to-do
+    bool recurring = false;
+    bool strike_through = false;
+    bool has_details = false;
+};
+
+// What Add_toGridID stores in a cell's record. What is absent, or an empty text, leaves the field as it was.
+struct CellDetails {
+    std::optional<std::string_view> activity_id = {};
+    std::optional<std::string_view> contact_id = {};
+    std::optional<int> recurring = {}; // 1 is true
+    std::optional<int> cleared = {};
+    std::optional<Colour> back_color = {};
+    std::optional<Colour> fore_color = {};
+    std::optional<int> icon_index = {};
+    std::string_view sort_text = {};
+    std::string_view text = {};
+    std::optional<int> has_details = {};
+};
+
+// Writes single cells of a grid and the records behind the main one.
+class CellWriter {
+public:
+    CellWriter(Layout& layout, const host::Folders& folders, const host::Guard& guarded)
+        : layout_(layout), folders_(folders), guarded_(guarded) {}
+
+    bool ShowIcons = false; // read at each full refresh
+    // Activity id to "row|column" of the cell that was last written for it.
+    std::unordered_map<std::string, std::string> ActivityCells;
+
+    // Makes the cell current and writes it. With the usual failure handler.
+    void Write_Cell(GridModel& grid, int row, int col, const CellContent& content);
+    void Add_toGridID(int row, int col, const CellDetails& details);
+    // The file of an activity's picture; a type that there is not gives the program's folder alone.
+    std::string GetPicture(int type, bool recurring, bool has_details) const;
+    // The picture of a cell that hides further activities.
+    std::string plus_picture() const;
+
+    // Remembers that a cell shows an activity.
+    void record_place(std::string_view activity_id, int row, int col);
+
+    Layout& layout() const { return layout_; }
+
+    // Leading blanks that keep a text clear of the picture.
+    static constexpr std::string_view picture_room = "       ";
+
+private:
+    Layout& layout_;
+    const host::Folders& folders_;
+    const host::Guard& guarded_;
+};
+
+} // namespace grid

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "grid/cell.h"
+
+namespace grid {
+
+// The cells that mouse and commands speak of. Both are unset until the program has come up. Giving one a cell of
+// the grid makes it that very record: "SelectedCell = layout.Cells.reference(row, col)".
+struct Selection {
+    CellReference SelectedCell;   // the cell of the last press
+    CellReference DragSourceCell; // the cell on which a drag began
+
+    // The record; fails with 91 while there is none.
+    clsMsgSchedCell& selected() const { return set(SelectedCell); }
+    clsMsgSchedCell& drag_source() const { return set(DragSourceCell); }
+
+private:
+    static clsMsgSchedCell& set(const CellReference& cell);
+};
+
+} // namespace grid

@@ -1,0 +1,104 @@
+#pragma once
+
+#include "host/guard.h"
+#include "values/date_time.h"
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace grid {
+
+class GridModel;
+class Layout;
+struct Drawing;
+
+// One activity of a slot. Flags are "1" and "0", colours and the type are decimal text, as SetCell gets them.
+struct SlotRecord {
+    bool InUse = false; // off: the entry is free and may be filled again
+    std::string ActivityID;
+    std::string ContactID;
+    std::string Recurring;
+    std::string Cleared;
+    std::string BackColor; // empty: the cell keeps its background
+    std::string ForeColor;
+    std::string Type; // "1" call, "2" meeting, "3" to-do
+    std::string Text;
+    std::string Detail; // the user's name, two bars, and the rest of the sort key
+    std::string HasDetails;
+    int GoesBeyond = 0; // further slots into which it runs on
+};
+
+// A time slot of one day: the activities that fall into it, in order of arrival, and how they are drawn.
+class clsMsgSchedSlot {
+public:
+    clsMsgSchedSlot(const Layout& layout, const host::Guard& guarded) : layout_(&layout), guarded_(&guarded) {}
+
+    void Initialize(int slot_number, int col);
+    // Fills the first free record, or one more at the end.
+    void SetCell(std::string activity_id, std::string contact_id, std::string recurring, std::string cleared,
+                 std::string back_color, std::string fore_color, std::string type, std::string text,
+                 std::string detail, std::string has_details, int goes_beyond);
+    // Frees the first record of that id, if there is one.
+    void DeleteCell(std::string_view activity_id);
+    // Back to CellsPerSlot free records. Changed stays as it is.
+    void ClearCells();
+
+    values::DateTime Time() const;            // the slot's start, as the settings now say
+    values::DateTime Day() const;             // the date of the column when the slot was initialised
+    bool Changed() const { return changed_; } // records changed since the last whole Write_To_Grid
+
+    // Draws the records in order of their Detail. `result` becomes "column,row" of the cell that shows the
+    // activity sought, and is left alone when none does. A row off the grid shows the failure box and leaves
+    // Changed on.
+    void Write_To_Grid(Drawing& drawing, std::string_view activity_id_sought, bool one_row_per_user,
+                       std::string& result);
+    static std::string ExtractUserName(std::string_view detail);
+    // The row of the slot, from first_row on, that belongs to the user, in the grid's current column; -1 if none.
+    int GetCorrectCell(const GridModel& grid, std::string_view user_name, int first_row) const;
+
+    int SlotNo() const { return slot_number_; }
+    int Col() const { return col_; }
+    int FirstRow() const { return cells_per_slot_ * slot_number_ + 1; }
+    int LastRow() const { return FirstRow() + cells_per_slot_ - 1; }
+    // Records, the free ones included; a free one that was never filled is empty.
+    int record_count() const;
+    const SlotRecord& record(int index) const;
+
+private:
+    void draw(Drawing& drawing, std::string_view activity_id_sought, bool one_row_per_user, std::string& result,
+              host::Step& step);
+
+    const Layout* layout_;
+    const host::Guard* guarded_;
+    std::int16_t slot_number_ = 0, col_ = 0, fixed_cols_ = 0, cells_per_slot_ = 0;
+    bool changed_ = false;
+    values::DateTime start_date_;
+    // The records up to the last that was ever filled; those behind it, up to cells_per_slot_, are free and
+    // empty and take no room.
+    std::vector<SlotRecord> records_;
+};
+
+// All slots by slot number and grid column, from FixedCols on. An index outside fails with 9.
+class Slots {
+public:
+    // Replaces all slots by new, initialised ones.
+    void rebuild(const Layout& layout, const host::Guard& guarded, int slots, int first_col, int cols);
+    int count() const { return slots_; } // slot numbers go from 0 to count - 1
+    int first_col() const { return first_col_; }
+    int last_col() const { return cols_ - 1; }
+    clsMsgSchedSlot& operator()(int slot, int col) { return records_[index(slot, col)]; }
+    const clsMsgSchedSlot& operator()(int slot, int col) const { return records_[index(slot, col)]; }
+
+    std::vector<clsMsgSchedSlot>::iterator begin() { return records_.begin(); }
+    std::vector<clsMsgSchedSlot>::iterator end() { return records_.end(); }
+
+private:
+    std::size_t index(int slot, int col) const;
+
+    std::vector<clsMsgSchedSlot> records_;
+    int slots_ = 0, first_col_ = 0, cols_ = 0;
+};
+
+} // namespace grid

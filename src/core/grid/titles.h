@@ -1,0 +1,37 @@
+#pragma once
+
+#include "grid/cell_writer.h"
+#include "grid/layout.h"
+
+#include <string>
+
+namespace act {
+class UserList;
+}
+
+namespace grid {
+
+// Writes the title row and the title columns.
+class Titles {
+public:
+    Titles(Layout& layout, CellWriter& writer, act::UserList& users, const Surroundings& surroundings)
+        : layout_(layout), writer_(writer), users_(users), here_(surroundings) {}
+
+    void Write_ColTitles();
+    // Row titles, RowTimes and FirstPMRow. The user names go to column 1 whatever the row scheme is.
+    void Write_RowTitles();
+
+    static std::string GetMonth(int month);              // 1 to 12: "Jan." to "Dec."
+    bool isMilitary() const;                             // times are shown from 0 to 23
+    std::string FormatTime(values::DateTime time) const; // "13:00" or "01:00 PM"
+
+private:
+    void write_row(int row, int position, values::DateTime start);
+
+    Layout& layout_;
+    CellWriter& writer_;
+    act::UserList& users_;
+    Surroundings here_;
+};
+
+} // namespace grid

@@ -1,4 +1,5 @@
 # Reads FILES and fails when one includes anything but the standard library's headers or a header of ROOMS.
+cmake_policy(VERSION 3.25)
 set(standard
     algorithm any array atomic barrier bit bitset charconv chrono codecvt compare complex concepts
     condition_variable coroutine deque exception execution filesystem format forward_list fstream functional

@@ -52,9 +52,9 @@ public:
 private:
     using Values = std::vector<std::pair<std::string, std::string>>;
 
-    template <typename List> static auto find(List& values, const std::string& name) {
-        return std::find_if(values.begin(), values.end(),
-                            [&](const auto& value) { return value.first == name; });
+    template <typename List>
+    static auto find(List& values, const std::string& name) {
+        return std::find_if(values.begin(), values.end(), [&](const auto& value) { return value.first == name; });
     }
 
     std::map<std::string, Values> branches_;

@@ -10,8 +10,8 @@ namespace host {
 
 // What tells one state of a file from another, at the cost of a look into its folder.
 struct FileStamp {
-    std::uint64_t size = 0; // bytes
-    std::int64_t modified = 0; // as finely as the platform tells it
+    std::uint64_t size = 0;     // bytes
+    std::int64_t modified = 0;  // as finely as the platform tells it
     std::uint64_t identity = 0; // the file's number on its disk, new after a replacement; 0 where there is none
 
     friend bool operator==(const FileStamp&, const FileStamp&) = default;

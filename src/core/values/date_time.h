@@ -7,7 +7,8 @@
 namespace values {
 
 // A wall-clock date and time: whole seconds since 1899-12-30 00:00. It knows no time zone, so daylight saving
-// can't move an activity. The default value is the empty date, shown as 12:00:00 AM.
+// can't move an activity. The default value is the empty date, shown as 12:00:00 AM. Dates run from the year 100
+// to 9999; reckoning that leaves them fails with 5.
 class DateTime {
 public:
     constexpr DateTime() = default;
@@ -26,17 +27,17 @@ public:
 
     constexpr std::int64_t seconds() const { return seconds_; }
 
-    DateTime date() const; // without its time of day
-    DateTime time() const; // the time of day on the empty date
+    DateTime date() const;               // without its time of day
+    DateTime time() const;               // the time of day on the empty date
     DateTime time_to_the_minute() const; // the same without its seconds
 
     int year() const;
     int month() const; // 1 to 12
-    int day() const; // 1 to 31
+    int day() const;   // 1 to 31
     int hour() const;
     int minute() const;
     int second() const;
-    int weekday() const; // 1 Sunday to 7 Saturday
+    int weekday() const;               // 1 Sunday to 7 Saturday
     int weekday_from(int first) const; // 1 for the weekday `first` (1 Sunday) to 7 for the one before it
 
     DateTime plus_days(std::int64_t days) const;

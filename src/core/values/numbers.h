@@ -5,14 +5,17 @@
 #include <string>
 #include <string_view>
 
-// Numbers from text and back, as the platform converts them: blanks round a number are allowed, "&H" texts are
-// hexadecimal, halves round to even, a text that is no number fails with 13 and one out of range with 6.
+// Numbers from text and back, as the platform converts them: blanks round a number are allowed, halves round to
+// even, a text that is no number fails with 13 and one out of range with 6. "&H" texts are hexadecimal: up to four
+// digits make a signed number of 16 bits, up to eight one of 32 bits, so that "&HFFFF" is -1; with "&" behind them
+// the 16-bit form isn't taken and "&HFFFF&" is 65535.
 namespace values {
 
 // Absent when the text isn't a number. The decimal point is ".".
 std::optional<double> parse_number(std::string_view text);
 inline bool is_numeric(std::string_view text) { return parse_number(text).has_value(); }
-// The number at the start of the text, 0 if there is none. Never fails.
+// The number at the start of the text, 0 if there is none. Blanks, tabs and line feeds don't count, not even
+// between digits. Never fails; a number beyond the range of double is infinite.
 double leading_number(std::string_view text);
 
 double to_double(std::string_view text);

@@ -1,22 +1,20 @@
 #pragma once
 
 #include "service/desk.h"
+#include "store/toolbar_commands.h"
+#include "values/locale.h"
 
 #include <QDBusConnection>
 
 #include <memory>
 
-namespace store {
-class ToolbarCommands;
-}
-
 namespace service {
 
 // Offers a desk to other programs over D-Bus, under its well-known name. It sets the desk's events and belongs to
-// the thread of the desk's windows. Desk and toolbar commands outlive it.
+// the thread of the desk's windows. What it is given outlives it.
 class Service {
 public:
-    Service(Desk& desk, store::ToolbarCommands& toolbar_commands);
+    Service(Desk& desk, store::ToolbarCommands& toolbar_commands, const values::Locale& locale);
     ~Service(); // leaves the bus
     Service(const Service&) = delete;
     Service& operator=(const Service&) = delete;

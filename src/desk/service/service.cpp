@@ -1,0 +1,97 @@
+#include "service/service.h"
+
+#include "application_adaptor.h"
+#include "aux_commands_adaptor.h"
+#include "contact_view_adaptor.h"
+#include "contract/names.h"
+
+#include <QDBusConnectionInterface>
+#include <QDBusMessage>
+
+#include <array>
+#include <optional>
+#include <utility>
+
+namespace service {
+namespace {
+
+constexpr int farewell_milliseconds = 1000;
+
+// Returns when the bus has everything that was sent before, so that a signal leaves a process that ends next.
+void wait_until_sent(const QDBusConnection& bus) {
+    bus.call(QDBusMessage::createMethodCall("org.freedesktop.DBus", "/org/freedesktop/DBus",
+                                            "org.freedesktop.DBus.Peer", "Ping"),
+             QDBus::Block, farewell_milliseconds);
+}
+
+} // namespace
+
+class Service::Objects {
+public:
+    Objects(Desk& desk, store::ToolbarCommands& toolbar_commands, const values::Locale& locale)
+        : desk_(desk), application_(desk), contact_view_(desk, locale), aux_commands_(toolbar_commands) {
+        desk_.on_database_closed = [this] {
+            emit application_.DatabaseClosed();
+            settle();
+        };
+        desk_.on_user_wants_to_close = [this] {
+            emit application_.UserWantsToClose();
+            settle();
+        };
+    }
+
+    ~Objects() {
+        desk_.on_database_closed = nullptr;
+        desk_.on_user_wants_to_close = nullptr;
+        leave();
+    }
+
+    Registration enter(const QDBusConnection& bus) {
+        if (!bus.isConnected())
+            return Registration::no_bus;
+        bus_ = bus;
+        for (const auto& [path, object] : exported_)
+            bus_->registerObject(path, object, QDBusConnection::ExportAdaptors);
+        const auto reply = bus_->interface()->registerService(contract::bus_name);
+        if (reply == QDBusConnectionInterface::ServiceRegistered)
+            return Registration::done;
+        leave();
+        return reply.isValid() ? Registration::name_taken : Registration::no_bus;
+    }
+
+private:
+    void settle() {
+        if (bus_)
+            wait_until_sent(*bus_);
+    }
+
+    void leave() {
+        if (!bus_)
+            return;
+        bus_->unregisterService(contract::bus_name);
+        for (const auto& [path, object] : exported_)
+            bus_->unregisterObject(path);
+        bus_.reset();
+    }
+
+    Desk& desk_;
+    ApplicationObject application_;
+    ContactViewObject contact_view_;
+    AuxCommandsObject aux_commands_;
+    ApplicationAdaptor application_adaptor_{&application_};
+    ContactViewAdaptor contact_view_adaptor_{&contact_view_};
+    AuxCommandsAdaptor aux_commands_adaptor_{&aux_commands_};
+    std::array<std::pair<QString, QObject*>, 3> exported_{{{contract::application_path, &application_},
+                                                           {contract::contact_view_path, &contact_view_},
+                                                           {contract::aux_commands_path, &aux_commands_}}};
+    std::optional<QDBusConnection> bus_;
+};
+
+Service::Service(Desk& desk, store::ToolbarCommands& toolbar_commands, const values::Locale& locale)
+    : objects_(std::make_unique<Objects>(desk, toolbar_commands, locale)) {}
+
+Service::~Service() = default;
+
+Service::Registration Service::register_on(const QDBusConnection& bus) { return objects_->enter(bus); }
+
+} // namespace service

@@ -1,0 +1,4 @@
+#include <string>
+
+#include <QString>
+#include <sqlite3.h>

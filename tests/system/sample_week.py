@@ -1,0 +1,46 @@
+"""What the grid has to show of a database's plain activities, computed from the file itself."""
+
+import datetime
+import sqlite3
+
+EMPTY_DATE = datetime.datetime(1899, 12, 30)
+
+
+def seconds(moment):
+    return int((moment - EMPTY_DATE).total_seconds())
+
+
+def week_of(day):
+    """The Sunday that begins the week."""
+    return day - datetime.timedelta(days=(day.weekday() + 1) % 7)
+
+
+def us_text(moment):
+    """A date with its time as the calendar writes it in the United States."""
+    hour = moment.hour % 12 or 12
+    return f"{moment.month}/{moment.day}/{moment.year} {hour}:{moment:%M:%S} {'AM' if moment.hour < 12 else 'PM'}"
+
+
+def users(database):
+    with sqlite3.connect(f"file:{database}?mode=ro", uri=True) as connection:
+        return [name for name, in connection.execute("SELECT name FROM users ORDER BY name")]
+
+
+def cells_of_week(database, first_day, one_row_per_user=True, first_hour=8, slots=9):
+    """{(slot, day, user): contact names in the order they are sorted}; user is None where users share the rows."""
+    start = datetime.datetime.combine(first_day, datetime.time())
+    with sqlite3.connect(f"file:{database}?mode=ro", uri=True) as connection:
+        rows = connection.execute(
+            "SELECT activities.starts_at, users.name, contacts.name, activities.id FROM activities"
+            " JOIN users ON users.id = activities.scheduled_for JOIN contacts ON contacts.id = activities.contact"
+            " WHERE recurrence = 0 AND cleared = 0 AND starts_at >= ? AND starts_at < ?",
+            (seconds(start), seconds(start + datetime.timedelta(days=7)))).fetchall()
+    cells = {}
+    for starts_at, user, contact, _ in rows:
+        moment = EMPTY_DATE + datetime.timedelta(seconds=starts_at)
+        slot = moment.hour - first_hour
+        # The last minute of a slot belongs to none.
+        if 0 <= slot < slots and moment.minute < 59:
+            key = (slot, (moment.date() - first_day).days, user if one_row_per_user else None)
+            cells.setdefault(key, []).append((f"{user}||{us_text(moment)}{contact}", contact))
+    return {key: [contact for _, contact in sorted(records)] for key, records in cells.items()}

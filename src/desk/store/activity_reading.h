@@ -22,7 +22,9 @@ struct Id {
     Id() = default;
     explicit Id(std::string_view text) { text.copy(characters.data(), characters.size()); }
     bool empty() const { return characters.front() == 0; }
-    std::string text() const { return empty() ? std::string() : std::string(characters.data(), characters.size()); }
+    std::string text() const {
+        return empty() ? std::string() : std::string(characters.data(), characters.size());
+    }
     auto operator<=>(const Id&) const = default;
 };
 
@@ -75,11 +77,13 @@ public:
     virtual ~ActivityReading() = default;
 
     virtual void each_entry(const std::function<void(const ActivityEntry&)>& take) = 0; // all activities
-    virtual void each_series(const std::function<void(const ActivityRow&)>& take) = 0; // all recurring ones
+    virtual void each_series(const std::function<void(const ActivityRow&)>& take) = 0;  // all recurring ones
     // Starts at or after `from` and before `to`.
-    virtual void each_in_scope(DateTime from, DateTime to, const std::function<void(const ActivityRow&)>& take) = 0;
+    virtual void each_in_scope(DateTime from, DateTime to,
+                               const std::function<void(const ActivityRow&)>& take) = 0;
     // From this place on, at most so many; among those without a start all.
-    virtual void each_from(const ActivityKey& first, int count, const std::function<void(const ActivityRow&)>& take) = 0;
+    virtual void each_from(const ActivityKey& first, int count,
+                           const std::function<void(const ActivityRow&)>& take) = 0;
     // Every exception of every series, those of a series together and rising.
     virtual void each_exception(const std::function<void(const Id& activity, DateTime date)>& take) = 0;
 

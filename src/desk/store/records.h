@@ -18,7 +18,7 @@ struct User {
     std::string id;
     std::string name;
     std::string security; // "Administrator", "Standard" or "Browse"
-    std::string access; // "Enabled" or "Disabled"
+    std::string access;   // "Enabled" or "Disabled"
 };
 
 struct Contact {
@@ -46,10 +46,10 @@ enum class RecurrenceKind { none = 0, daily = 1, weekly = 2, days_of_month = 3, 
 
 struct Recurrence {
     RecurrenceKind kind = RecurrenceKind::none;
-    int frequency = 1; // days, weeks or months; the store never keeps less than 1
-    std::optional<DateTime> until; // the last date; absent for a series without an end
-    int days_of_week = 0; // bit 0 Sunday to bit 6 Saturday
-    int weeks_of_month = 0; // bit 0 the first week to bit 4 the fifth
+    int frequency = 1;               // days, weeks or months; the store never keeps less than 1
+    std::optional<DateTime> until;   // the last date; absent for a series without an end
+    int days_of_week = 0;            // bit 0 Sunday to bit 6 Saturday
+    int weeks_of_month = 0;          // bit 0 the first week to bit 4 the fifth
     std::uint32_t days_of_month = 0; // bit 0 the 1st to bit 30 the 31st
 
     bool operator==(const Recurrence&) const = default;
@@ -62,13 +62,13 @@ struct Activity {
     Priority priority = Priority::low;
     std::string regarding;
     std::optional<DateTime> start; // absent when imported data had none that could be read
-    DateTime end; // stored as start plus duration where it lies before the start
-    int duration = 0; // minutes; the store never keeps less than 0
+    DateTime end;                  // stored as start plus duration where it lies before the start
+    int duration = 0;              // minutes; the store never keeps less than 0
     bool is_private = false;
     bool alarm = false;
-    int alarm_lead = 0; // minutes
+    int alarm_lead = 0;                  // minutes
     std::optional<std::uint32_t> colour; // blue, green, red from the high byte down
-    std::string user; // for whom it is scheduled
+    std::string user;                    // for whom it is scheduled
     std::string group;
     std::vector<std::string> contacts; // the first is the activity's own contact
     bool cleared = false;
@@ -76,7 +76,7 @@ struct Activity {
     std::string details;
     Recurrence recurrence;
     std::vector<DateTime> exceptions; // dates without an occurrence, rising
-    std::int64_t revision = 0; // rises with each change of any record; compares for changes since a read
+    std::int64_t revision = 0;        // rises with each change of any record; compares for changes since a read
 };
 
 } // namespace store

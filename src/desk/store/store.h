@@ -22,7 +22,7 @@ DateTime wall_clock(); // the machine's own, in its time zone
 // a start come first. A bound keeps those without a start out.
 struct ActivityQuery {
     std::optional<DateTime> from; // starts at or after this
-    std::optional<DateTime> to; // starts before this
+    std::optional<DateTime> to;   // starts before this
     std::set<ActivityType> without_types;
     std::set<Priority> without_priorities;
     bool without_cleared = false;
@@ -53,9 +53,9 @@ public:
     // A number that rises whenever any process changes the database. Costs no query of a table unless it has.
     virtual std::int64_t revision() = 0;
 
-    virtual std::vector<User> users() = 0; // by name
+    virtual std::vector<User> users() = 0;         // by name
     virtual std::string add(const User& user) = 0; // gives the new id; an id that the record brings is kept
-    virtual std::vector<Group> groups() = 0; // by name
+    virtual std::vector<Group> groups() = 0;       // by name
     virtual std::optional<Group> group(const std::string& id) = 0;
     virtual std::string add(const Group& group) = 0;
     virtual void update(const Group& group) = 0;
@@ -75,11 +75,11 @@ public:
     // Stores the record when nobody changed it since it was read (its revision tells) and gives its new
     // revision; else fails and changes nothing.
     virtual std::int64_t update(const Activity& activity) = 0;
-    virtual void remove_activity(const std::string& id) = 0; // an absent one is no failure
+    virtual void remove_activity(const std::string& id) = 0;                    // an absent one is no failure
     virtual void add_exception(const std::string& activity, DateTime date) = 0; // the date counts, not the time
     virtual void remove_exception(const std::string& activity, DateTime date) = 0;
 
-    virtual ActivityReading& reading() = 0; // for those who keep what they have read (activity_reading.h)
+    virtual ActivityReading& reading() = 0;          // for those who keep what they have read (activity_reading.h)
     virtual ToolbarCommands& toolbar_commands() = 0; // buttons of other programs (toolbar_commands.h)
 
     // Several writes as one transaction: all of them or, when the block throws, none. Blocks may contain blocks.

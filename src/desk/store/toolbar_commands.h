@@ -19,7 +19,7 @@ enum class CommandPlace { toolbar, tools_menu };
 class ToolbarCommands {
 public:
     virtual ~ToolbarCommands() = default;
-    virtual std::vector<ToolbarCommand> all() = 0; // by name
+    virtual std::vector<ToolbarCommand> all() = 0;                            // by name
     virtual std::vector<ToolbarCommand> at(CommandPlace place, int view) = 0; // by name
     virtual bool exists(const std::string& name) = 0;
     virtual void add(const ToolbarCommand& command) = 0; // one of the same name is replaced and keeps its places

@@ -1,0 +1,125 @@
+#include "store/activity_columns.h"
+#include "store/sql.h"
+#include "store/sqlite_store.h"
+
+namespace store {
+
+namespace {
+
+// The first seven columns of every statement for entries and rows.
+ActivityEntry entry_of(const Rows& rows) {
+    return {.key = {.start = rows.is_null(0) ? ActivityKey::no_start : rows.number(0), .id = Id(rows.view(1))},
+            .edited = rows.number(2),
+            .type = type_of(rows.number(3)),
+            .priority = priority_of(rows.number(4)),
+            .cleared = rows.flag(5),
+            .recurring = recurrence_of(rows.number(6)) != RecurrenceKind::none};
+}
+
+ActivityRow row_of(const Rows& rows) {
+    return {.entry = entry_of(rows),
+            .end = rows.number(7),
+            .revision = rows.number(8),
+            .user = Id(rows.view(9)),
+            .group = Id(rows.view(10)),
+            .contact = Id(rows.view(11)),
+            .contact_count = rows.small_number(12),
+            .duration = rows.small_number(13),
+            .alarm_lead = rows.small_number(14),
+            .colour = colour_of(rows, 15),
+            .is_private = rows.flag(16),
+            .alarm = rows.flag(17),
+            .has_details = rows.flag(18),
+            .recurrence = recurrence_of(rows, recurrence_of(rows.number(6)), 19),
+            .regarding = rows.text(24)};
+}
+
+class SqliteActivityReading final : public ActivityReading {
+public:
+    explicit SqliteActivityReading(Connection& connection) : connection_(connection) {}
+
+    void each_entry(const std::function<void(const ActivityEntry&)>& take) override {
+        Rows rows = connection_.query(sql::entries);
+        while (rows.step())
+            take(entry_of(rows));
+    }
+
+    void each_series(const std::function<void(const ActivityRow&)>& take) override {
+        each(connection_.query(sql::series_rows()), take);
+    }
+
+    void each_in_scope(DateTime from, DateTime to, const std::function<void(const ActivityRow&)>& take) override {
+        each(connection_.query(sql::rows_in_scope(), from.seconds(), to.seconds()), take);
+    }
+
+    void each_from(const ActivityKey& first, int count,
+                   const std::function<void(const ActivityRow&)>& take) override {
+        if (first.start == ActivityKey::no_start)
+            each(connection_.query(sql::rows_without_start()), take);
+        else
+            each(connection_.query(sql::rows_from(), first.start, first.id.text(), count), take);
+    }
+
+    void each_exception(const std::function<void(const Id&, DateTime)>& take) override {
+        Rows rows = connection_.query(sql::all_exceptions);
+        while (rows.step())
+            take(Id(rows.view(0)), DateTime::from_seconds(rows.number(1)));
+    }
+
+    std::optional<ActivityRow> row(const Id& id) override {
+        Rows rows = connection_.query(sql::row(), id.text());
+        return rows.step() ? std::optional(row_of(rows)) : std::nullopt;
+    }
+
+    std::vector<DateTime> exceptions(const Id& id) override {
+        std::vector<DateTime> result;
+        Rows rows = connection_.query(sql::exceptions, id.text());
+        while (rows.step())
+            result.push_back(DateTime::from_seconds(rows.number(0)));
+        return result;
+    }
+
+    std::string details(const Id& id) override {
+        Rows rows = connection_.query(sql::details, id.text());
+        return rows.step() ? rows.text(0) : std::string();
+    }
+
+    std::vector<std::string> contacts(const Id& id) override {
+        std::vector<std::string> result;
+        if (Rows first = connection_.query(sql::first_contact, id.text()); first.step() && !first.is_null(0))
+            result.push_back(first.text(0));
+        Rows further = connection_.query(sql::further_contacts, id.text());
+        while (further.step())
+            result.push_back(further.text(0));
+        return result;
+    }
+
+    ActivityChanges changes_since(std::int64_t revision) override {
+        ActivityChanges changes;
+        each(connection_.query(sql::changed_rows(), revision),
+             [&](const ActivityRow& row) { changes.changed.push_back(row); });
+        Rows removed = connection_.query(sql::removed_activities, revision);
+        while (removed.step())
+            changes.removed.emplace_back(removed.view(0));
+        Rows contacts = connection_.query(sql::changed_contacts, revision);
+        while (contacts.step())
+            changes.contacts.push_back(contacts.text(0));
+        return changes;
+    }
+
+private:
+    static void each(Rows rows, const std::function<void(const ActivityRow&)>& take) {
+        while (rows.step())
+            take(row_of(rows));
+    }
+
+    Connection& connection_;
+};
+
+} // namespace
+
+std::unique_ptr<ActivityReading> make_activity_reading(Connection& connection) {
+    return std::make_unique<SqliteActivityReading>(connection);
+}
+
+} // namespace store

@@ -1,0 +1,193 @@
+#include "store/activity_columns.h"
+#include "store/sql.h"
+#include "store/sqlite_store.h"
+#include "values/failure.h"
+#include "values/ids.h"
+
+#include <algorithm>
+
+namespace store {
+
+namespace {
+
+constexpr int contact_count_column = 16;
+
+std::optional<std::string> optional_id(const std::string& id) {
+    return id.empty() ? std::nullopt : std::optional(values::whole_id(id));
+}
+
+// The record as it is stored: without what can't be.
+Activity in_order(const Activity& given) {
+    Activity activity = given;
+    activity.duration = std::max(activity.duration, 0);
+    if (activity.start && activity.end < *activity.start)
+        activity.end = activity.start->plus_minutes(activity.duration);
+    std::erase(activity.contacts, "");
+    activity.recurrence.frequency = std::max(activity.recurrence.frequency, 1);
+    for (DateTime& date : activity.exceptions)
+        date = date.date();
+    std::sort(activity.exceptions.begin(), activity.exceptions.end());
+    const auto doubles = std::unique(activity.exceptions.begin(), activity.exceptions.end());
+    activity.exceptions.erase(doubles, activity.exceptions.end());
+    return activity;
+}
+
+// All columns behind the id, of which the revision and the edit date are the store's.
+void bind_record(Rows& statement, const Activity& activity, std::int64_t revision, DateTime edited) {
+    const auto seconds = [](const std::optional<DateTime>& date) {
+        return date ? std::optional(date->seconds()) : std::nullopt;
+    };
+    const Recurrence& recurrence = activity.recurrence;
+    const std::string first_contact = activity.contacts.empty() ? "" : activity.contacts.front();
+    statement.bind_all(
+        revision, edited.seconds(), static_cast<int>(activity.type), static_cast<int>(activity.priority),
+        activity.regarding, seconds(activity.start), activity.end.seconds(), activity.duration,
+        activity.is_private, activity.alarm, activity.alarm_lead, activity.colour, optional_id(activity.user),
+        optional_id(activity.group), optional_id(first_contact), activity.contacts.size(), activity.cleared,
+        activity.result, activity.details, static_cast<int>(recurrence.kind), recurrence.frequency,
+        seconds(recurrence.until), recurrence.days_of_week, recurrence.weeks_of_month, recurrence.days_of_month);
+}
+
+Activity activity_of(const Rows& rows) {
+    Activity activity{.id = rows.text(0),
+                      .edited = DateTime::from_seconds(rows.number(2)),
+                      .type = type_of(rows.number(3)),
+                      .priority = priority_of(rows.number(4)),
+                      .regarding = rows.text(5),
+                      .start = date_of(rows, 6),
+                      .end = DateTime::from_seconds(rows.number(7)),
+                      .duration = rows.small_number(8),
+                      .is_private = rows.flag(9),
+                      .alarm = rows.flag(10),
+                      .alarm_lead = rows.small_number(11),
+                      .colour = colour_of(rows, 12),
+                      .user = rows.text(13),
+                      .group = rows.text(14),
+                      .contacts = {},
+                      .cleared = rows.flag(17),
+                      .result = rows.text(18),
+                      .details = rows.text(19),
+                      .recurrence = recurrence_of(rows, recurrence_of(rows.number(20)), 21),
+                      .exceptions = {},
+                      .revision = rows.number(1)};
+    if (!rows.is_null(15))
+        activity.contacts.push_back(rows.text(15));
+    return activity;
+}
+
+} // namespace
+
+std::vector<Activity> SqliteStore::activities(const ActivityQuery& query) {
+    Rows rows = connection_->query(sql::activities(query));
+    if (query.from)
+        rows.bind_all(query.from->seconds());
+    if (query.to)
+        rows.bind_all(query.to->seconds());
+    if (query.user)
+        rows.bind_all(values::whole_id(*query.user));
+    if (query.contact)
+        rows.bind_all(values::whole_id(*query.contact), values::whole_id(*query.contact));
+    std::vector<Activity> result;
+    while (rows.step()) {
+        result.push_back(activity_of(rows));
+        read_lists(result.back(), rows.small_number(contact_count_column));
+    }
+    return result;
+}
+
+std::optional<Activity> SqliteStore::activity(const std::string& id) {
+    Rows rows = connection_->query(sql::activity(), values::whole_id(id));
+    if (!rows.step())
+        return std::nullopt;
+    Activity activity = activity_of(rows);
+    read_lists(activity, rows.small_number(contact_count_column));
+    return activity;
+}
+
+void SqliteStore::read_lists(Activity& activity, int contact_count) {
+    if (contact_count > 1) {
+        Rows contacts = connection_->query(sql::further_contacts, activity.id);
+        while (contacts.step())
+            activity.contacts.push_back(contacts.text(0));
+    }
+    if (activity.recurrence.kind != RecurrenceKind::none) {
+        Rows exceptions = connection_->query(sql::exceptions, activity.id);
+        while (exceptions.step())
+            activity.exceptions.push_back(DateTime::from_seconds(exceptions.number(0)));
+    }
+}
+
+void SqliteStore::write_lists(const Activity& activity) {
+    for (std::size_t i = 1; i < activity.contacts.size(); ++i)
+        connection_->run(sql::add_further_contact, activity.id, i, values::whole_id(activity.contacts[i]));
+    for (const DateTime date : activity.exceptions)
+        connection_->run(sql::add_exception, activity.id, date.seconds());
+}
+
+std::string SqliteStore::add(const Activity& given) {
+    Activity activity = in_order(given);
+    together([&] {
+        activity.id = id_for(given.id, "activities", 'A');
+        Rows statement = connection_->query(sql::add_activity(), activity.id);
+        bind_record(statement, activity, next_revision(), clock_());
+        statement.step();
+        write_lists(activity);
+        if (!given.id.empty())
+            connection_->run(sql::forget_removal, activity.id);
+    });
+    return activity.id;
+}
+
+std::int64_t SqliteStore::update(const Activity& given) {
+    Activity activity = in_order(given);
+    activity.id = values::whole_id(given.id);
+    std::int64_t revision = 0;
+    together([&] {
+        revision = next_revision();
+        Rows statement = connection_->query(sql::update_activity());
+        bind_record(statement, activity, revision, clock_());
+        statement.bind_all(activity.id, activity.revision);
+        statement.step();
+        if (connection_->changed_rows() == 0)
+            fail_as_changed("activity", connection_->query(sql::activity_exists, activity.id).step());
+        connection_->run(sql::clear_further_contacts, activity.id);
+        connection_->run(sql::clear_exceptions, activity.id);
+        write_lists(activity);
+    });
+    return revision;
+}
+
+void SqliteStore::remove_activity(const std::string& given) {
+    const std::string id = values::whole_id(given);
+    together([&] {
+        connection_->run(sql::remove_activity, id);
+        if (connection_->changed_rows() > 0)
+            connection_->run(sql::log_removal, id, next_revision());
+    });
+}
+
+void SqliteStore::touch(const std::string& activity) {
+    connection_->run(sql::touch_activity, next_revision(), clock_().seconds(), activity);
+}
+
+void SqliteStore::add_exception(const std::string& activity, DateTime date) {
+    const std::string id = values::whole_id(activity);
+    together([&] {
+        if (!connection_->query(sql::activity_exists, id).step())
+            fail_as_changed("activity", false);
+        connection_->run(sql::add_exception, id, date.date().seconds());
+        if (connection_->changed_rows() > 0)
+            touch(id);
+    });
+}
+
+void SqliteStore::remove_exception(const std::string& activity, DateTime date) {
+    const std::string id = values::whole_id(activity);
+    together([&] {
+        connection_->run(sql::remove_exception, id, date.date().seconds());
+        if (connection_->changed_rows() > 0)
+            touch(id);
+    });
+}
+
+} // namespace store

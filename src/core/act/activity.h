@@ -56,6 +56,12 @@ public:
     virtual void MoveFirst() = 0;
     virtual void MoveNext() = 0; // beyond the last record isEOF holds
     virtual bool isEOF() const = 0;
+    // Moves on, from the current record, to the first that is a series, or to the end. A list that knows its
+    // series needn't look at the records between.
+    virtual void MoveToRecurring() {
+        while (!isEOF() && !isRecurring())
+            MoveNext();
+    }
     // Stands on the record of that id, inside the filters or not, and MoveNext goes on behind it. False when it
     // doesn't exist: there is no current record then, and Data gives nothing.
     virtual bool Goto(const std::string& id) = 0;

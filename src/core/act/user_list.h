@@ -4,21 +4,18 @@
 #include "act/populate_lists.h"
 #include "act/session.h"
 #include "host/guard.h"
+#include "settings/ini_lib.h"
 
 #include <string>
 #include <unordered_map>
-
-namespace settings {
-class IniLib;
-}
 
 namespace act {
 
 // The users whom the calendar shows, and all users by id and name.
 class UserList {
 public:
-    UserList(Session& session, ListPopulator& lists, settings::IniLib& settings, const host::Guard& guarded)
-        : session_(session), lists_(lists), settings_(settings), guarded_(guarded) {}
+    UserList(Session& session, ListPopulator& lists, const settings::IniLib& ini, const host::Guard& guarded)
+        : session_(session), lists_(lists), ini_(ini), guarded_(guarded) {}
 
     // The ids of the chosen users and a blank, or a blank alone, which stands for all users.
     std::string UsersFilter;
@@ -39,7 +36,7 @@ public:
 private:
     Session& session_;
     ListPopulator& lists_;
-    settings::IniLib& settings_;
+    const settings::IniLib& ini_;
     const host::Guard& guarded_;
 };
 

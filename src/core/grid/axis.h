@@ -15,7 +15,7 @@ public:
     bool holds(int line) const { return line >= 0 && line < count(); }
 
     int fixed() const { return fixed_; }
-    void set_fixed(int fixed) { fixed_ = fixed; }
+    void set_fixed(int fixed);
     int first() const { return first_; }
     void set_first(int line) { first_ = line; }
 
@@ -32,6 +32,8 @@ public:
     int at(int place) const;
 
 private:
+    void keep_first_inside();
+
     int standard_size_;
     int fixed_ = 1;
     int first_ = 1;

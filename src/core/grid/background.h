@@ -32,12 +32,20 @@ public:
     Colour GetBackGroundColor(int row);
 
 private:
+    static constexpr int holiday_or_inactive = 3; // the selector of Color3
+
     struct Band {
-        std::string color;
+        Colour color;
         int selector; // 1 for even slots, 2 for odd ones
     };
     Band band_of_row(int row) const;
+    void paint(int row, int col, const Band& band);
+    std::string date_text(int col) const; // the column's date as the holidays write it
     bool is_holiday(int col) const;
+    std::string weekday_of(int day, bool main_grid) const;
+    void read_ranges(const std::string& ranges); // "start|end,start|end"
+    values::DateTime time_of_row(int row);
+    values::DateTime time_of_cell(int row, int day) const;
 
     Layout& layout_;
     CellWriter& writer_;
@@ -45,6 +53,9 @@ private:
     act::UserList& users_;
     Surroundings here_;
     std::vector<values::DateTime> OffStarts, OffEnds; // the inactive ranges of one weekday
+    // The row time last read: rows of a slot have the same.
+    std::string row_time_text_;
+    values::DateTime row_time_;
 };
 
 } // namespace grid

@@ -39,7 +39,7 @@ struct GridCell {
 
 // What changed in a grid since its observers last looked.
 enum class GridChange {
-    cells,   // texts, colours, pictures, or the control-wide colour
+    cells,   // texts, colours, pictures, or a control-wide colour
     shape,   // the number of rows or columns, their sizes, or the scroll position
     current, // the current cell or the selection ends
     redraw,  // painting was switched on or off
@@ -114,9 +114,11 @@ public:
     // then. An empty range changes nothing.
     void clear_contents(int row_from, int row_to, int col_from, int col_to);
 
-    // Text colour of the cells that have none of their own.
+    // The colours of the cells that have none of their own.
     Colour ForeColor() const { return fore_colour_; }
     void ForeColor(Colour colour) { change(fore_colour_, colour); }
+    Colour BackColor() const { return back_colour_; }
+    void BackColor(Colour colour) { change(back_colour_, colour); }
 
     int RowHeight(int row) const;
     int ColWidth(int col) const;
@@ -163,7 +165,7 @@ private:
     std::vector<GridCell> cells_;       // row by row
     std::vector<std::string> pictures_; // [0] empty
     int row_ = 0, col_ = 0, row_end_ = 0, col_end_ = 0;
-    Colour fore_colour_ = default_colour;
+    Colour fore_colour_ = default_colour, back_colour_ = default_colour;
     bool redraw_ = true;
     std::vector<GridObserver*> observers_;
 };

@@ -7,6 +7,8 @@
 #include "host/clock.h"
 #include "host/guard.h"
 #include "host/window.h"
+#include "settings/ini_lib.h"
+#include "settings/per_user_store.h"
 #include "values/date_time.h"
 #include "values/locale.h"
 
@@ -16,17 +18,12 @@
 namespace act {
 class UserList;
 }
-namespace settings {
-class IniLib;
-class CRegSettings;
-} // namespace settings
-
 namespace grid {
 
 // What the grid room needs of its surroundings.
 struct Surroundings {
-    settings::IniLib& settings;
-    settings::CRegSettings& user_settings;
+    const settings::IniLib& ini;
+    const settings::PerUserStore& user_store;
     const values::Locale& locale;
     const host::Clock& clock;
     host::Window& window;
@@ -67,21 +64,23 @@ public:
 
     // Computes StartDate and EndDate for a view that holds the date.
     void Initialize_Dates(values::DateTime date);
-    // Sizes the grid for the days and rows, and builds Slots and Cells anew.
+    // Sizes the grid for the days from start to end and its rows, and builds Slots and Cells anew. Window updates
+    // stay locked.
     void Initialize_Calendar(values::DateTime start, values::DateTime end);
     // Clears the grid and gives all columns and rows their standard sizes.
     void Restore_CellDims();
     // Hides the columns of days off and shows the others.
     void Hide_DaysOff();
 
-    // The column of a date, which lies outside the grid for a date out of view. Fails with 6 far away.
+    // The column of a date, which lies outside the grid for a date out of view. A date too far away for a 16-bit
+    // column shows the failure box and gives 0.
     int GetDayCol(values::DateTime date) const;
     values::DateTime date_of_column(int col) const { return StartDate.plus_days(col - FixedCols); }
     bool is_day_off(values::DateTime date) const;
     // The date itself if it is shown, else the next one that is, in that direction; the seventh date tried when
     // all days are off.
     values::DateTime GetNextNotHiddenDay(values::DateTime date, bool backward) const;
-    // The first day of the date's week.
+    // The first day of the date's week. Fails with 5 when FirstDayOfWeek is no weekday.
     values::DateTime GetFirstDayOf(values::DateTime date) const;
     void set_year_label(values::DateTime date);
 

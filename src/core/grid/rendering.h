@@ -37,6 +37,8 @@ public:
     void Clear_Dependents(std::string_view id);
 
 private:
+    void select_selected_cell();
+
     Layout& layout_;
     CellWriter& writer_;
     Selection& selection_;

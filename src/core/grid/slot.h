@@ -40,7 +40,7 @@ public:
     void SetCell(std::string activity_id, std::string contact_id, std::string recurring, std::string cleared,
                  std::string back_color, std::string fore_color, std::string type, std::string text,
                  std::string detail, std::string has_details, int goes_beyond);
-    // Frees the first record of that id, if there is one.
+    // Frees the first record of that id, if there is one; an empty id is that of a record that was never filled.
     void DeleteCell(std::string_view activity_id);
     // Back to CellsPerSlot free records. Changed stays as it is.
     void ClearCells();
@@ -67,8 +67,13 @@ public:
     const SlotRecord& record(int index) const;
 
 private:
-    void draw(Drawing& drawing, std::string_view activity_id_sought, bool one_row_per_user, std::string& result,
-              host::Step& step);
+    void clear_cells(Drawing& drawing) const;
+    // Makes the row of the record's user current. False when there is no such row, or when it shows an activity
+    // already: then the plus picture tells of this one.
+    bool take_user_row(Drawing& drawing, const SlotRecord& record) const;
+    void draw_record(Drawing& drawing, SlotRecord& record, bool overflow) const;
+    // Lists and links the cells of the following slots into which the activity runs on.
+    void continue_below(Drawing& drawing, const SlotRecord& record) const;
 
     const Layout* layout_;
     const host::Guard* guarded_;

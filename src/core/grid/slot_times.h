@@ -1,21 +1,18 @@
 #pragma once
 
+#include "settings/ini_lib.h"
 #include "values/date_time.h"
 #include "values/locale.h"
 
 #include <string>
-#include <vector>
-
-namespace settings {
-class IniLib;
-}
+#include <unordered_map>
 
 namespace grid {
 
-// The time slots as the settings file tells them: section "Slots". Each read sees the file as it now is.
+// The time slots as the settings file tells them. Each read sees the file as it now is.
 class SlotTimes {
 public:
-    SlotTimes(settings::IniLib& settings, const values::Locale& locale) : settings_(&settings), locale_(&locale) {}
+    SlotTimes(const settings::IniLib& ini, const values::Locale& locale) : ini_(ini), locale_(locale) {}
 
     // When a slot starts; 8:00 plus so many hours when the file doesn't say. Such a start beyond midnight is on
     // the next day. Fails with 13 when the file's text is no time.
@@ -26,14 +23,17 @@ public:
     int duration(int slot) const; // fails with 13 or 6 when the text is no 16-bit number
 
 private:
-    struct Read {
-        std::string text;
+    // What belongs to one slot, kept so that thousands of reads don't make the same key and time again.
+    struct Known {
+        std::string start_name, start_default, duration_name, duration_default;
+        std::string text; // the start's text when it was last made a time
         values::DateTime time;
     };
+    Known& known(int slot) const;
 
-    settings::IniLib* settings_;
-    const values::Locale* locale_;
-    mutable std::vector<Read> read_; // by slot, what its text was when it was last made a time
+    const settings::IniLib& ini_;
+    const values::Locale& locale_;
+    mutable std::unordered_map<int, Known> known_;
 };
 
 } // namespace grid

@@ -1,0 +1,52 @@
+#include "act/user_list.h"
+
+#include "settings/catalogue.h"
+#include "values/ids.h"
+#include "values/numbers.h"
+
+namespace act {
+
+void UserList::Initialize_Users(bool all_users) {
+    guarded_("in frmMain: Sub Initialize_Users - Line # ", [&](host::Step& step) {
+        step = 10;
+        cboUsers.Clear();
+        step = 20;
+        UsersFilter = all_users ? " " : settings::read(ini_, settings::keys::filter_users) + " ";
+        if (UsersFilter != " ") {
+            step = 30;
+            NumUsers =
+                values::to_int16(static_cast<double>(UsersFilter.size()) / static_cast<double>(values::id_length));
+            for (int user = 0; user < NumUsers; ++user) {
+                step = 40;
+                std::string id =
+                    UsersFilter.substr(static_cast<std::size_t>(user) * values::id_length, values::id_length);
+                step = 50;
+                const auto [name, position] = lists_.GetUserDetails(id);
+                if (!name.empty() && values::is_numeric(position))
+                    cboUsers.AddItem(name, values::to_int16(position));
+            }
+        } else {
+            step = 60;
+            NumUsers = session_.ActUsers->Count();
+            step = 70;
+            lists_.Populate_cboUsers(cboUsers, "", false, "", "");
+        }
+        step = 80;
+        // Not again when even all users are none.
+        if (cboUsers.ListCount() == 0 && !all_users)
+            Initialize_Users(true);
+    });
+}
+
+void UserList::map_users() {
+    Users& users = *session_.ActUsers;
+    const int count = users.Count();
+    for (int user = 1; user <= count; ++user) {
+        const std::string id = users.uniqueID(user);
+        const std::string name = users.name(user);
+        UserIdToName.emplace(id, name);
+        UserNameToId.emplace(name, id);
+    }
+}
+
+} // namespace act

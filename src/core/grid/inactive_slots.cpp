@@ -1,0 +1,102 @@
+#include "grid/background.h"
+
+#include "settings/catalogue.h"
+#include "values/failure.h"
+#include "values/numbers.h"
+#include "values/text.h"
+#include "values/text_forms.h"
+
+namespace grid {
+
+using values::Failure;
+using values::FailureNumber;
+
+void Background::Color_offSlots(GridModel& grid, host::Window& owner, bool main_grid) {
+    here_.guarded("in modColorOffSlot: Sub Color_offSlots - Line # ", [&](host::Step& step) {
+        step = 10;
+        owner.show_hourglass();
+        owner.lock_updates();
+        for (int day = 1; day <= layout_.NumDays; ++day) {
+            step = 20;
+            const std::string ranges =
+                settings::read(here_.ini, settings::keys::inactive_ranges(weekday_of(day, main_grid)));
+            if (ranges.empty())
+                continue;
+            step = 30;
+            read_ranges(ranges);
+            // One column to the right of the day where there is one fixed column.
+            const int col = day + (main_grid ? 1 : 0);
+            for (int row = 1; row < grid.Rows(); ++row) {
+                step = 40;
+                if (In_Slot(grid, row, day, main_grid)) {
+                    step = 50;
+                    grid.Row(row);
+                    grid.Col(col);
+                    grid.CellBackColor(values::to_int32(layout_.Color3));
+                    if (main_grid)
+                        writer_.Add_toGridID(row, col, {.back_color = holiday_or_inactive});
+                } else if (main_grid) {
+                    step = 60;
+                    grid.Row(row);
+                    grid.Col(col);
+                    if (grid.CellBackColor() == values::to_int32(layout_.Color3) && !is_holiday(col))
+                        grid.CellBackColor(GetBackGroundColor(row));
+                }
+            }
+        }
+        step = 70;
+        owner.unlock_updates();
+        owner.show_default_pointer();
+    });
+}
+
+std::string Background::weekday_of(int day, bool main_grid) const {
+    if (main_grid)
+        return values::weekday_name(layout_.StartDate.plus_days(day - 1), here_.locale);
+    if (layout_.FirstDayOfWeek < 1 || layout_.FirstDayOfWeek > 7)
+        throw Failure(FailureNumber::invalid_procedure_call);
+    return here_.locale.weekdays[static_cast<std::size_t>((layout_.FirstDayOfWeek - 1 + day - 1) % 7)];
+}
+
+void Background::read_ranges(const std::string& ranges) {
+    OffStarts.clear();
+    OffEnds.clear();
+    for (const std::string& range : values::split(ranges, ",")) {
+        const std::vector<std::string> ends = values::split(range, "|");
+        if (ends.size() < 2)
+            throw Failure(FailureNumber::subscript_out_of_range);
+        OffStarts.push_back(values::to_date(ends[0], here_.locale));
+        OffEnds.push_back(values::to_date(ends[1], here_.locale));
+    }
+}
+
+bool Background::In_Slot(GridModel&, int row, int day, bool main_grid) {
+    return here_.guarded("in modColorOffSlot: Function In_Slot - Line # ", [&](host::Step& step) {
+        step = 10;
+        const values::DateTime time = main_grid ? time_of_row(row) : time_of_cell(row, day);
+        step = 20;
+        for (std::size_t range = 0; range < OffStarts.size(); ++range)
+            if (time >= OffStarts[range] && time < OffEnds[range])
+                return true;
+        return false;
+    });
+}
+
+values::DateTime Background::time_of_row(int row) {
+    if (row < 0 || row >= static_cast<int>(layout_.RowTimes.size()))
+        throw Failure(FailureNumber::subscript_out_of_range);
+    const std::string& text = layout_.RowTimes[static_cast<std::size_t>(row)];
+    if (text != row_time_text_) {
+        row_time_ = values::to_date(text, here_.locale);
+        row_time_text_ = text;
+    }
+    return row_time_;
+}
+
+values::DateTime Background::time_of_cell(int row, int day) const {
+    clsMsgSchedCell spare(layout_);
+    spare.Initialize(row, day);
+    return spare.Time();
+}
+
+} // namespace grid

@@ -1,0 +1,101 @@
+#include "grid/slot.h"
+
+#include "grid/layout.h"
+#include "values/failure.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace grid {
+
+void clsMsgSchedSlot::Initialize(int slot_number, int col) {
+    slot_number_ = static_cast<std::int16_t>(slot_number);
+    col_ = static_cast<std::int16_t>(col);
+    fixed_cols_ = static_cast<std::int16_t>(layout_->FixedCols);
+    cells_per_slot_ = static_cast<std::int16_t>(layout_->CellsPerSlot);
+    start_date_ = layout_->StartDate;
+    records_.clear();
+}
+
+void clsMsgSchedSlot::SetCell(std::string activity_id, std::string contact_id, std::string recurring,
+                              std::string cleared, std::string back_color, std::string fore_color,
+                              std::string type, std::string text, std::string detail, std::string has_details,
+                              int goes_beyond) {
+    (*guarded_)("in clsMsgSchedSlot: Sub SetCell - Line # ", [&](host::Step& step) {
+        step = 10;
+        auto free = std::find_if(records_.begin(), records_.end(), [](const auto& one) { return !one.InUse; });
+        if (free == records_.end())
+            free = records_.emplace(records_.end());
+        step = 20;
+        *free = {.InUse = true,
+                 .ActivityID = std::move(activity_id),
+                 .ContactID = std::move(contact_id),
+                 .Recurring = std::move(recurring),
+                 .Cleared = std::move(cleared),
+                 .BackColor = std::move(back_color),
+                 .ForeColor = std::move(fore_color),
+                 .Type = std::move(type),
+                 .Text = std::move(text),
+                 .Detail = std::move(detail),
+                 .HasDetails = std::move(has_details),
+                 .GoesBeyond = goes_beyond};
+        changed_ = true;
+    });
+}
+
+void clsMsgSchedSlot::DeleteCell(std::string_view activity_id) {
+    (*guarded_)("in clsMsgSchedSlot: Sub DeleteCell - Line # ", [&](host::Step& step) {
+        for (int index = 0; index < record_count(); ++index) {
+            step = 10;
+            if (record(index).ActivityID != activity_id)
+                continue;
+            step = 20;
+            if (index < static_cast<int>(records_.size()))
+                records_[static_cast<std::size_t>(index)].InUse = false;
+            changed_ = true;
+            return;
+        }
+    });
+}
+
+void clsMsgSchedSlot::ClearCells() {
+    (*guarded_)("in clsMsgSchedSlot: Sub ClearCells - Line # ", [&](host::Step& step) {
+        step = 10;
+        records_.clear();
+    });
+}
+
+values::DateTime clsMsgSchedSlot::Time() const { return layout_->slot_times().start(slot_number_); }
+
+values::DateTime clsMsgSchedSlot::Day() const { return start_date_.plus_days(col_ - fixed_cols_).date(); }
+
+int clsMsgSchedSlot::record_count() const {
+    return std::max(static_cast<int>(records_.size()), static_cast<int>(cells_per_slot_));
+}
+
+const SlotRecord& clsMsgSchedSlot::record(int index) const {
+    static const SlotRecord never_filled;
+    if (index < 0 || index >= record_count())
+        throw values::Failure(values::FailureNumber::subscript_out_of_range);
+    return index < static_cast<int>(records_.size()) ? records_[static_cast<std::size_t>(index)] : never_filled;
+}
+
+void Slots::rebuild(const Layout& layout, const host::Guard& guarded, int slots, int first_col, int cols) {
+    slots_ = std::max(slots, 0);
+    first_col_ = first_col;
+    cols_ = cols;
+    records_.clear();
+    records_.reserve(static_cast<std::size_t>(slots_) * static_cast<std::size_t>(cols - first_col));
+    for (int slot = 0; slot < slots_; ++slot)
+        for (int col = first_col; col < cols; ++col)
+            records_.emplace_back(layout, guarded).Initialize(slot, col);
+}
+
+std::size_t Slots::index(int slot, int col) const {
+    if (slot < 0 || slot >= slots_ || col < first_col_ || col >= cols_)
+        throw values::Failure(values::FailureNumber::subscript_out_of_range);
+    return static_cast<std::size_t>(slot) * static_cast<std::size_t>(cols_ - first_col_) +
+           static_cast<std::size_t>(col - first_col_);
+}
+
+} // namespace grid

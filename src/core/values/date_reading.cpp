@@ -222,16 +222,15 @@ std::vector<std::string> time_patterns(const Locale& locale) {
     return patterns;
 }
 
-// What the locale's patterns write is read by them, whatever separators and marks they use.
+// What the locale's patterns write is read by them, whatever separators and marks they use. Times come first: what
+// could be either, such as "9.05.00", was not written as a date with its four digits of the year.
 std::optional<DateTime> read_by_patterns(std::string_view text, const Locale& locale) {
-    if (const auto date = read(locale.short_date, text, locale))
-        return date;
     for (const std::string& time : time_patterns(locale)) {
-        for (const std::string& pattern : {locale.short_date + " " + time, time})
+        for (const std::string& pattern : {time, locale.short_date + " " + time})
             if (const auto value = read(pattern, text, locale))
                 return value;
     }
-    return std::nullopt;
+    return read(locale.short_date, text, locale);
 }
 
 } // namespace

@@ -14,7 +14,7 @@ enum class HalfDay { unknown, am, pm };
 
 // What a text says of a date and a time, not yet known to be one.
 struct DateParts {
-    std::optional<int> year; // already with its century
+    std::optional<int> year{}; // already with its century
     int month = 1;
     int day = 1;
     int hour = 0;

@@ -1,0 +1,62 @@
+#pragma once
+
+#include "act/session.h"
+#include "act/user_list.h"
+#include "engine/cell_text.h"
+#include "engine/displayed_ids.h"
+#include "engine/slot_table.h"
+#include "grid/layout.h"
+#include "host/guard.h"
+#include "settings/ini_lib.h"
+#include "values/locale.h"
+
+#include <string>
+#include <unordered_map>
+
+namespace engine {
+
+using values::DateTime;
+
+// Which colour an activity has in the grid; other numbers make it black.
+enum class ActyColors { own = 0, fixed = 1, of_user = 2 };
+
+// Puts single occurrences into the slots of the grid.
+class Placing {
+public:
+    Placing(act::Session& session, const act::UserList& users, CellText& cell_text, grid::Layout& layout,
+            const settings::IniLib& settings, const values::Locale& locale, const host::Guard& guarded)
+        : session_(session), users_(users), cell_text_(cell_text), layout_(layout), settings_(settings),
+          locale_(locale), guarded_(guarded) {}
+
+    // Read at each full refresh.
+    int ShowActyColorsMode = 0; // as ActyColors
+    std::string FixedActyColor = "&H0";
+    // The activities placed since then.
+    DisplayedIds DisplayedIDs;
+
+    // Takes from the settings what placing needs: slots, extra fields, users' colours. Each refresh begins so.
+    void read_settings();
+
+    // Places an occurrence of the current activity that starts at `date` and takes `duration` minutes. One that
+    // finds no slot is dropped.
+    void Treat_Activity(DateTime date, int duration, bool recurring);
+    // How many slots, counted from the given one, an occurrence covers that ends at that time; the date doesn't
+    // count. Has no failure handler.
+    int GetSlotSpan(int first_slot, DateTime end_time) const { return slots_.span(first_slot, end_time); }
+
+private:
+    std::string colour_of(const std::string& own_colour, const std::string& user_id);
+    std::string user_name(const std::string& user_id) const;
+
+    act::Session& session_;
+    const act::UserList& users_;
+    CellText& cell_text_;
+    grid::Layout& layout_;
+    const settings::IniLib& settings_;
+    const values::Locale& locale_;
+    const host::Guard& guarded_;
+    SlotTable slots_;
+    std::unordered_map<std::string, std::string> user_colours_; // by name, as far as they were needed
+};
+
+} // namespace engine

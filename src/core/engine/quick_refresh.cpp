@@ -1,0 +1,207 @@
+#include "engine/quick_refresh.h"
+
+#include "settings/catalogue.h"
+#include "values/ids.h"
+#include "values/numbers.h"
+#include "values/text.h"
+#include "values/text_forms.h"
+#include "values/value.h"
+
+namespace engine {
+
+namespace field = act::activity_field;
+
+namespace {
+
+template <typename Key>
+bool is_one(const settings::IniLib& settings, const Key& key) {
+    return values::leading_number(read(settings, key)) == 1;
+}
+
+std::string mark_of(int row, int col) { return "|" + std::to_string(row) + "," + std::to_string(col) + "|"; }
+
+} // namespace
+
+void QuickRefresh::Add_New(DateTime since) {
+    guarded_("in modRefresh: Sub Add_New - Line # ", [&](host::Step& step) {
+        step = 10;
+        refresh_.LastRefresh = clock_.now();
+        step = 20;
+        window_.show_hourglass();
+        step = 30;
+        std::string treated; // marks of the cells that were cleared
+        for (const std::string& id : values::ids_in(Find_New(since))) {
+            step = 40;
+            bool clear_selected = true;
+            if (grid_.writer.ActivityCells.contains(id))
+                clear_cell_of(id, treated);
+            else {
+                // An activity that no cell shows clears the selected one: its row counts as the flag.
+                const grid::clsMsgSchedCell& selected = grid_.selection.selected();
+                treated += mark_of(selected.Row(), selected.Col());
+                clear_selected = selected.Row() != 0;
+            }
+            step = 50;
+            Refresh_Activity(id, clear_selected);
+        }
+        step = 60;
+        window_.show_default_pointer();
+    });
+}
+
+void QuickRefresh::clear_cell_of(const std::string& id, std::string& treated) {
+    const auto place = values::split(grid_.writer.ActivityCells.at(id), "|");
+    const int row = values::to_int16(place.at(0)), col = values::to_int16(place.at(1));
+    const std::string mark = mark_of(row, col);
+    if (values::contains(treated, mark))
+        return;
+    grid::clsMsgSchedCell& cell = grid_.layout.Cells(row, col);
+    cell.Clear();
+    grid_.layout.Slots(cell.Slot(), cell.Col()).DeleteCell(id);
+    treated += mark;
+}
+
+std::string QuickRefresh::Find_New(DateTime since) {
+    return guarded_("in modRefresh: Function Find_New - Line # ", [&](host::Step& step) {
+        step = 10;
+        DisplayedIds missing = placing_.DisplayedIDs;
+        std::string changed;
+        act::Activity& activity = *session_.ActActivity;
+        step = 20;
+        activity.Rebuild();
+        step = 30;
+        activity.MoveFirst();
+        step = 40;
+        for (; !activity.isEOF(); activity.MoveNext()) {
+            const std::string id = text(activity, field::id);
+            const auto edited = values::date_of(activity.Data(field::edited), locale_);
+            if (edited && *edited > since)
+                changed = id;
+            missing.remove(id);
+        }
+        return changed + missing.text();
+    });
+}
+
+void QuickRefresh::Refresh_Activity(std::string id, bool clear_selected) {
+    guarded_("in modRefresh: Sub Refresh_Activity - Line # ", [&](host::Step& step) {
+        step = 10;
+        if (clear_selected)
+            grid_.selection.selected().Clear();
+        step = 20;
+        placing_.read_settings();
+        step = 30;
+        session_.ActActivity = session_.ActDatabase->Activity();
+        act::Activity& activity = *session_.ActActivity;
+        step = 40;
+        activity.Rebuild();
+        step = 50;
+        activity.Goto(id);
+        step = 60;
+        if (text(activity, field::id) == id) {
+            if (activity.isRecurring())
+                place_series(activity);
+            else
+                place_single(activity);
+        }
+        step = 70;
+        grid_.rendering.Display_Changes(id);
+    });
+}
+
+void QuickRefresh::place_single(act::Activity& activity) {
+    const auto date = values::date_of(activity.Data(field::date), locale_);
+    if (!date || !InRange(*date, {grid_.layout.StartDate, grid_.layout.EndDate}))
+        return;
+    if (!passes_filters(activity) || !users_.passes_filter(text(activity, field::scheduled_for)))
+        return;
+    const DateTime start = values::to_date(text(activity, field::start), locale_);
+    placing_.Treat_Activity(start, values::int16_of(activity.Data(field::duration)), false);
+}
+
+bool QuickRefresh::passes_filters(const act::Activity& activity) const {
+    namespace keys = settings::keys;
+    std::string types, priorities;
+    for (int number = 0; number <= 2; ++number) {
+        if (is_one(settings_, keys::filter_type(number)))
+            types += std::to_string(number);
+        if (is_one(settings_, keys::filter_priority(number)))
+            priorities += std::to_string(number);
+    }
+    const bool with_cleared = is_one(settings_, keys::filter_show_cleared);
+    const std::string cleared = text(activity, field::cleared);
+    return values::contains(priorities, text(activity, field::priority)) &&
+           values::contains(types, text(activity, field::type)) &&
+           (with_cleared || cleared.empty() || values::parse_number(cleared) == 0.0);
+}
+
+void QuickRefresh::place_series(act::Activity& activity) {
+    if (!users_.passes_filter(text(activity, field::scheduled_for)))
+        return;
+    const auto start = values::date_of(activity.Data(field::start), locale_);
+    if (!start || Form_Dat(*start) > grid_.layout.EndDate)
+        return;
+    if (activity.GetRecurringUntilDate() < grid_.layout.StartDate)
+        return;
+    recurring_.treat_series(*start, values::int16_of(activity.Data(field::duration)));
+}
+
+void QuickRefresh::Ask_Refresh(bool changed, const std::string& second_id, int row, int col) {
+    guarded_("in modRefresh: Sub Ask_Refresh - Line # ", [&](host::Step& step) {
+        step = 10;
+        window_.bring_to_front();
+        step = 20;
+        if (!changed) {
+            Add_New(refresh_.LastRefresh);
+            return;
+        }
+        step = 30;
+        const grid::clsMsgSchedCell& cell = grid_.selection.selected();
+        grid_.layout.Slots(cell.Slot(), cell.Col()).DeleteCell(cell.ActivityID());
+        step = 40;
+        // The slot's number is the flag, so a cell in the first slot isn't cleared.
+        Refresh_Activity(cell.ActivityID(), cell.Slot() != 0);
+        step = 50;
+        if (second_id.empty())
+            return;
+        grid_.selection.SelectedCell = grid_.layout.Cells.reference(row, col);
+        step = 60;
+        Refresh_Activity(second_id, true);
+    });
+}
+
+std::string QuickRefresh::AddOtherIDs(std::string ids) {
+    return guarded_("in modRefresh: Function AddOtherIDs - Line # ", [&](host::Step& step) {
+        act::Activity& activity = *session_.ActActivity;
+        step = 10;
+        std::string contact = activity.FirstScheduledWith();
+        do {
+            if (!values::contains(ids, contact))
+                ids += contact;
+            step = 20;
+            contact = activity.NextScheduledWith();
+        } while (!contact.empty());
+        return ids;
+    });
+}
+
+void QuickRefresh::Erase_Slot(std::string_view id) {
+    guarded_("in frmMain: Sub Erase_Slot - Line # ", [&](host::Step& step) {
+        step = 10;
+        for (const grid::clsMsgSchedCell& cell : grid_.layout.Cells) {
+            if (!cell.ActivityID().starts_with(id))
+                continue;
+            step = 20;
+            grid_.msgSched.clear_contents(cell.Row(), cell.Row(), cell.Col(), cell.Col());
+            step = 30;
+            placing_.DisplayedIDs.remove(id);
+            return;
+        }
+    });
+}
+
+std::string QuickRefresh::text(const act::Activity& activity, int number) const {
+    return values::text_of(activity.Data(number), locale_);
+}
+
+} // namespace engine

@@ -1,0 +1,100 @@
+#include "engine/recurring.h"
+
+#include "values/text_forms.h"
+#include "values/value.h"
+
+namespace engine {
+
+void Recurring::Treat_Recurring() {
+    guarded_("in modRefresh: Sub Treat_Recurring - Line # ", [&](host::Step& step) {
+        namespace field = act::activity_field;
+        act::Activity& activity = *session_.ActActivity;
+        step = 10;
+        activity.ClearDateScope();
+        step = 20;
+        activity.MoveFirst();
+        step = 30;
+        for (activity.MoveToRecurring(); !activity.isEOF(); activity.MoveNext(), activity.MoveToRecurring()) {
+            step = 40;
+            if (!users_.passes_filter(values::text_of(activity.Data(field::scheduled_for), locale_)))
+                continue;
+            step = 50;
+            const auto start = values::date_of(activity.Data(field::start), locale_);
+            if (!start || *start > layout_.EndDate)
+                continue;
+            step = 60;
+            if (activity.GetRecurringUntilDate() < layout_.StartDate)
+                continue;
+            step = 70;
+            treat_series(*start, values::int16_of(activity.Data(field::duration)));
+            step = 80;
+        }
+    });
+}
+
+void Recurring::treat_series(DateTime start, int duration) {
+    switch (session_.ActActivity->recurringType()) {
+    case 1:
+        return Treat_Daily(start, duration);
+    case 2:
+        return Treat_Weekly(start, duration);
+    case 3:
+        return Treat_Custom(start, duration);
+    case 4:
+        return Treat_Monthly(start, duration);
+    default:
+        return;
+    }
+}
+
+void Recurring::Treat_Daily(DateTime start, int duration) {
+    treat("in modRefresh: Sub Treat_Daily - Line # ", daily_starts, start, duration);
+}
+
+void Recurring::Treat_Weekly(DateTime start, int duration) {
+    treat("in modRefresh: Sub Treat_Weekly - Line # ", weekly_starts, start, duration);
+}
+
+void Recurring::Treat_Custom(DateTime start, int duration) {
+    treat("in modRefresh: Sub Treat_Custom - Line # ", custom_starts, start, duration);
+}
+
+void Recurring::Treat_Monthly(DateTime start, int duration) {
+    treat("in modRefresh: Sub Treat_Monthly - Line # ", monthly_starts, start, duration);
+}
+
+void Recurring::treat(std::string_view place, Walk walk, DateTime start, int duration) {
+    guarded_(place, [&](host::Step& step) {
+        act::Activity& activity = *session_.ActActivity;
+        step = 10;
+        const RecurrenceRule rule{.start = start,
+                                  .frequency = activity.GetRecurringFrequency(),
+                                  .until = activity.GetRecurringUntilDate(),
+                                  .days_of_week = activity.GetDaysOfWeekBits(),
+                                  .weeks_of_month = activity.GetWeeksOfMonthBits(),
+                                  .days_of_month = activity.GetDaysOfMonthBits()};
+        step = 20;
+        walk(rule, {layout_.StartDate, layout_.EndDate},
+             {.Exception = [this](DateTime date) { return Exception(date); },
+              .occurrence = [&](DateTime date) { placing_.Treat_Activity(date, duration, true); }});
+    });
+}
+
+bool Recurring::Exception(DateTime date) {
+    return guarded_("in modRefresh: Function Exception - Line # ", [&](host::Step& step) {
+        step = 10;
+        const act::ExceptionInfo& exceptions = session_.ActActivity->ExceptionInfo();
+        step = 20;
+        for (int index = 1; index <= exceptions.Count(); ++index) {
+            const values::Value value = exceptions.value(index);
+            const auto exception = values::date_of(value, locale_);
+            if (!exception)
+                throw values::Failure(values::FailureNumber::type_mismatch);
+            if (Form_Dat(*exception) == Form_Dat(date))
+                return true;
+        }
+        return false;
+    });
+}
+
+} // namespace engine

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "act/session.h"
+#include "act/user_list.h"
+#include "engine/placing.h"
+#include "engine/recurrence.h"
+#include "grid/layout.h"
+#include "host/guard.h"
+#include "values/locale.h"
+
+#include <string_view>
+
+namespace engine {
+
+// Expands the series of the activity list into the shown dates.
+class Recurring {
+public:
+    Recurring(act::Session& session, const act::UserList& users, Placing& placing, const grid::Layout& layout,
+              const values::Locale& locale, const host::Guard& guarded)
+        : session_(session), users_(users), placing_(placing), layout_(layout), locale_(locale),
+          guarded_(guarded) {}
+
+    // Every series of the list, with its filters and without its date scope. The list is at its end afterwards.
+    void Treat_Recurring();
+    // The current record by its kind: 1 daily, 2 weekly, 3 days of the month, 4 weekdays of it; nothing for any
+    // other. `duration` is in minutes.
+    void treat_series(DateTime start, int duration);
+
+    void Treat_Daily(DateTime start, int duration);
+    void Treat_Weekly(DateTime start, int duration);
+    void Treat_Custom(DateTime start, int duration);
+    void Treat_Monthly(DateTime start, int duration);
+    // Whether the current record has no occurrence on that date.
+    bool Exception(DateTime date);
+
+private:
+    using Walk = void (*)(const RecurrenceRule&, const ShownDates&, const RecurrenceVisitor&);
+    void treat(std::string_view place, Walk walk, DateTime start, int duration);
+
+    act::Session& session_;
+    const act::UserList& users_;
+    Placing& placing_;
+    const grid::Layout& layout_;
+    const values::Locale& locale_;
+    const host::Guard& guarded_;
+};
+
+} // namespace engine

@@ -1,0 +1,165 @@
+#include "grid_widget/accessible_grid.h"
+
+#include "grid_widget/accessible_cell.h"
+#include "grid_widget/grid_widget.h"
+#include "grid_widget/selection_range.h"
+
+#include <QAccessibleTableInterface>
+#include <QAccessibleWidget>
+#include <QHash>
+
+#include <numeric>
+
+namespace ui {
+
+namespace {
+
+QList<int> lines(const LineRange& range) {
+    QList<int> all(range.count());
+    std::iota(all.begin(), all.end(), range.first);
+    return all;
+}
+
+// The grid as a table. Its rows and columns are the model's, so those of the titles are the first ones. Cells come
+// to be when they are asked for.
+class AccessibleGrid : public QAccessibleWidget, public QAccessibleTableInterface {
+public:
+    explicit AccessibleGrid(GridWidget& widget)
+        : QAccessibleWidget(&widget, QAccessible::Table), widget_(widget) {}
+    ~AccessibleGrid() override { forget_cells(); }
+
+    void* interface_cast(QAccessible::InterfaceType type) override {
+        return type == QAccessible::TableInterface ? static_cast<QAccessibleTableInterface*>(this)
+                                                   : QAccessibleWidget::interface_cast(type);
+    }
+
+    int childCount() const override { return rowCount() * columnCount(); }
+    QAccessibleInterface* child(int index) const override {
+        return index < 0 || index >= childCount() ? nullptr : cellAt(index / columnCount(), index % columnCount());
+    }
+    int indexOfChild(const QAccessibleInterface* child) const override {
+        const auto* cell = dynamic_cast<const AccessibleCell*>(child);
+        return cell && cell->isValid() && cell->parent() == this
+                   ? cell->rowIndex() * columnCount() + cell->columnIndex()
+                   : -1;
+    }
+    QAccessibleInterface* childAt(int x, int y) const override {
+        const QPoint place = widget_.viewport()->mapFromGlobal(QPoint(x, y));
+        const auto [row, col] = widget_.cell_at(place);
+        return widget_.viewport()->rect().contains(place) ? cellAt(row, col) : nullptr;
+    }
+    QAccessibleInterface* focusChild() const override {
+        return widget_.hasFocus() ? cellAt(model().Row(), model().Col()) : nullptr;
+    }
+
+    QAccessibleInterface* caption() const override { return nullptr; }
+    QAccessibleInterface* summary() const override { return nullptr; }
+    int rowCount() const override { return model().Rows(); }
+    int columnCount() const override { return model().Cols(); }
+
+    QAccessibleInterface* cellAt(int row, int col) const override {
+        if (row < 0 || row >= rowCount() || col < 0 || col >= columnCount())
+            return nullptr;
+        const auto known = cells_.constFind({row, col});
+        if (known != cells_.constEnd())
+            return QAccessible::accessibleInterface(*known);
+        auto* made = new AccessibleCell(widget_, row, col);
+        cells_.insert({row, col}, QAccessible::registerAccessibleInterface(made));
+        return made;
+    }
+
+    QString columnDescription(int col) const override {
+        return cellAt(0, col) && model().FixedRows() > 0 ? spoken_text(model(), 0, col) : QString();
+    }
+    QString rowDescription(int row) const override {
+        QStringList titles;
+        for (int col = 0; cellAt(row, col) && row >= model().FixedRows() && col < model().FixedCols(); ++col)
+            titles.append(spoken_text(model(), titled_row(model(), row, col), col));
+        titles.removeAll(QString());
+        return titles.join(QLatin1Char(' '));
+    }
+
+    int selectedCellCount() const override {
+        return selected_rows(model()).count() * selected_cols(model()).count();
+    }
+    QList<QAccessibleInterface*> selectedCells() const override {
+        QList<QAccessibleInterface*> cells;
+        for (const int row : lines(selected_rows(model())))
+            for (const int col : lines(selected_cols(model())))
+                cells.append(cellAt(row, col));
+        return cells;
+    }
+    // A row or column counts as selected when all of it but its titles is.
+    QList<int> selectedRows() const override {
+        const LineRange cols = selected_cols(model());
+        const bool from_end_to_end = cols.first <= model().FixedCols() && cols.last == columnCount() - 1;
+        return from_end_to_end ? lines(selected_rows(model())) : QList<int>();
+    }
+    QList<int> selectedColumns() const override {
+        const LineRange rows = selected_rows(model());
+        const bool from_end_to_end = rows.first <= model().FixedRows() && rows.last == rowCount() - 1;
+        return from_end_to_end ? lines(selected_cols(model())) : QList<int>();
+    }
+    int selectedRowCount() const override { return static_cast<int>(selectedRows().size()); }
+    int selectedColumnCount() const override { return static_cast<int>(selectedColumns().size()); }
+    bool isRowSelected(int row) const override { return selectedRows().contains(row); }
+    bool isColumnSelected(int col) const override { return selectedColumns().contains(col); }
+
+    // What is selected decides what commands work on, so only the user selects, with mouse and keys.
+    bool selectRow(int) override { return false; }
+    bool selectColumn(int) override { return false; }
+    bool unselectRow(int) override { return false; }
+    bool unselectColumn(int) override { return false; }
+
+    void modelChange(QAccessibleTableModelChangeEvent* event) override {
+        if (event->modelChangeType() == QAccessibleTableModelChangeEvent::ModelReset)
+            forget_cells();
+    }
+
+private:
+    const grid::GridModel& model() const { return widget_.model(); }
+    void forget_cells() {
+        for (const QAccessible::Id id : std::as_const(cells_))
+            QAccessible::deleteAccessibleInterface(id);
+        cells_.clear();
+    }
+
+    GridWidget& widget_;
+    mutable QHash<std::pair<int, int>, QAccessible::Id> cells_;
+};
+
+QAccessibleInterface* make_accessible(const QString&, QObject* object) {
+    auto* widget = qobject_cast<GridWidget*>(object);
+    return widget ? new AccessibleGrid(*widget) : nullptr;
+}
+
+} // namespace
+
+void install_grid_accessibility() { QAccessible::installFactory(make_accessible); }
+
+void tell_screen_readers(GridWidget& widget, const GridNews& news) {
+    if (!QAccessible::isActive())
+        return;
+    const grid::GridModel& model = widget.model();
+    if (news.size || news.cells) {
+        QAccessibleTableModelChangeEvent event(&widget, news.size ? QAccessibleTableModelChangeEvent::ModelReset
+                                                                  : QAccessibleTableModelChangeEvent::DataChanged);
+        event.setFirstRow(0);
+        event.setLastRow(model.Rows() - 1);
+        event.setFirstColumn(0);
+        event.setLastColumn(model.Cols() - 1);
+        QAccessible::updateAccessibility(&event);
+    }
+    if (!news.current)
+        return;
+    QAccessibleInterface* table = QAccessible::queryAccessibleInterface(&widget);
+    QAccessibleInterface* cell = table->tableInterface()->cellAt(model.Row(), model.Col());
+    QAccessibleEvent selection(cell, QAccessible::Selection);
+    QAccessible::updateAccessibility(&selection);
+    if (widget.hasFocus()) {
+        QAccessibleEvent focus(cell, QAccessible::Focus);
+        QAccessible::updateAccessibility(&focus);
+    }
+}
+
+} // namespace ui

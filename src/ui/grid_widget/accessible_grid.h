@@ -1,0 +1,21 @@
+#pragma once
+
+namespace ui {
+
+class GridWidget;
+
+// What a turn of the event loop has changed.
+struct GridNews {
+    bool cells = false;
+    bool size = false;    // the number of rows or columns
+    bool current = false; // the current cell, the selection, or the focus
+};
+
+// Makes screen readers find a grid widget as a table: its cells by row and column, fixed ones included, the fixed
+// ones as headers; texts, current cell and selection.
+void install_grid_accessibility();
+
+// Tells screen readers, if any listens, what has changed.
+void tell_screen_readers(GridWidget& widget, const GridNews& news);
+
+} // namespace ui

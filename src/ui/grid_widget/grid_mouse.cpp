@@ -1,0 +1,181 @@
+#include "grid_widget/grid_widget.h"
+
+#include <QCursor>
+#include <QFile>
+#include <QMouseEvent>
+#include <QScrollBar>
+
+#include <algorithm>
+
+namespace ui {
+
+namespace {
+
+int button_number(Qt::MouseButton button) {
+    switch (button) {
+    case Qt::LeftButton:
+        return 1;
+    case Qt::RightButton:
+        return 2;
+    case Qt::MiddleButton:
+        return 4;
+    default:
+        return 0;
+    }
+}
+
+int shift_number(Qt::KeyboardModifiers modifiers) {
+    return (modifiers & Qt::ShiftModifier ? 1 : 0) + (modifiers & Qt::ControlModifier ? 2 : 0) +
+           (modifiers & Qt::AltModifier ? 4 : 0);
+}
+
+QCursor drop_cursor(bool permitted, qreal ratio) {
+    QFile file(permitted ? ":/grid/drag_yes.svg" : ":/grid/drag_no.svg");
+    if (!file.open(QIODevice::ReadOnly))
+        return permitted ? Qt::DragMoveCursor : Qt::ForbiddenCursor;
+    const QPoint tip = permitted ? QPoint(2, 2) : QPoint(16, 16);
+    return QCursor(drawn_pixmap(file.readAll(), ratio), tip.x(), tip.y());
+}
+
+// The shown line nearest to a place, titles left out; -1 if there is none.
+int nearest_line(const PixelLines& lines, int place) {
+    const auto& shown = lines.shown();
+    const auto body = std::lower_bound(shown.begin(), shown.end(), lines.fixed());
+    const auto found = std::find_if(body, shown.end(), [&](int line) { return place < lines.end(line); });
+    if (body == shown.end())
+        return -1;
+    return found == shown.end() ? shown.back() : *found;
+}
+
+} // namespace
+
+void GridWidget::mousePressEvent(QMouseEvent* event) {
+    const QPoint place = pointer_ = event->position().toPoint();
+    const int button = button_number(event->button());
+    if (button == 0 || is_dragging_ || sizer_.is_sizing())
+        return;
+    if (button == 1) {
+        if (sizer_.begin(place, rows(), cols()))
+            return;
+        press_left(place, event->modifiers() & Qt::ShiftModifier);
+    }
+    const QPoint twips = to_twips(place);
+    emit mouse_pressed(button, shift_number(event->modifiers()), twips.x(), twips.y());
+}
+
+void GridWidget::press_left(QPoint place, bool extends) {
+    const auto [row, col] = cell_at(place);
+    const bool on_cell = row >= model_.FixedRows() && col >= model_.FixedCols();
+    is_selecting_ = on_cell;
+    if (on_cell && extends) {
+        model_.RowSel(row);
+        model_.ColSel(col);
+    } else if (on_cell) {
+        model_.Row(row);
+        model_.Col(col);
+    } else {
+        model_.Row(model_.Row());
+    }
+}
+
+void GridWidget::mouseMoveEvent(QMouseEvent* event) {
+    const QPoint place = pointer_ = event->position().toPoint();
+    const bool is_pressed = event->buttons() & Qt::LeftButton;
+    if (sizer_.is_sizing() && is_pressed) {
+        sizer_.move_to(place);
+    } else if (is_dragging_) {
+        const QPoint twips = to_twips(place);
+        emit drag_moved(twips.x(), twips.y());
+    } else if (is_selecting_ && is_pressed) {
+        extend_selection_to(place);
+        if (cells_rect().contains(place))
+            scroll_timer_.stop();
+        else if (!scroll_timer_.isActive())
+            scroll_timer_.start();
+    } else {
+        update_pointer(place);
+    }
+}
+
+void GridWidget::mouseReleaseEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton)
+        return;
+    const QPoint place = pointer_ = event->position().toPoint();
+    is_selecting_ = false;
+    scroll_timer_.stop();
+    sizer_.end();
+    const bool drops = is_dragging_;
+    end_drag();
+    if (drops && viewport()->rect().contains(place)) {
+        const QPoint twips = to_twips(place);
+        emit dropped(twips.x(), twips.y());
+    }
+}
+
+void GridWidget::mouseDoubleClickEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton) {
+        mousePressEvent(event);
+        return;
+    }
+    if (!LineSizer::cursor_at(event->position().toPoint(), rows(), cols()))
+        emit double_clicked();
+}
+
+void GridWidget::extend_selection_to(QPoint place) {
+    const int row = nearest_line(rows(), place.y());
+    const int col = nearest_line(cols(), place.x());
+    if (row < 0 || col < 0)
+        return;
+    if (row != model_.RowSel())
+        model_.RowSel(row);
+    if (col != model_.ColSel())
+        model_.ColSel(col);
+}
+
+// The view without the titles.
+QRect GridWidget::cells_rect() const {
+    return viewport()->rect().adjusted(cols().fixed_end(), rows().fixed_end(), 0, 0);
+}
+
+void GridWidget::scroll_towards(QPoint place) {
+    const QRect cells = cells_rect();
+    const auto step = [](int at, int begin, int end) { return at < begin ? -1 : at > end ? 1 : 0; };
+    const auto scroll = [](QScrollBar* bar, int lines) { bar->setValue(bar->value() + lines); };
+    scroll(horizontalScrollBar(), step(place.x(), cells.left(), cells.right()));
+    scroll(verticalScrollBar(), step(place.y(), cells.top(), cells.bottom()));
+    extend_selection_to(place);
+}
+
+void GridWidget::update_pointer(QPoint place) {
+    if (const auto shape = LineSizer::cursor_at(place, rows(), cols()))
+        viewport()->setCursor(*shape);
+    else
+        viewport()->unsetCursor();
+}
+
+void GridWidget::begin_drag() {
+    is_dragging_ = true;
+    is_selecting_ = false;
+    show_drop_permitted(true);
+}
+
+void GridWidget::show_drop_permitted(bool permitted) {
+    if (is_dragging_)
+        viewport()->setCursor(drop_cursor(permitted, devicePixelRatioF()));
+}
+
+void GridWidget::end_drag() {
+    is_dragging_ = false;
+    update_pointer(pointer_);
+}
+
+void GridWidget::abandon_mouse_work() {
+    if (sizer_.is_sizing())
+        sizer_.abandon();
+    if (is_dragging_)
+        end_drag();
+    is_selecting_ = false;
+    scroll_timer_.stop();
+}
+
+} // namespace ui

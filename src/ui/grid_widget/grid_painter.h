@@ -1,0 +1,50 @@
+#pragma once
+
+#include "grid/grid_model.h"
+#include "grid_widget/picture_cache.h"
+#include "grid_widget/pixel_lines.h"
+#include "grid_widget/text_blocks.h"
+
+#include <QRect>
+
+namespace ui {
+
+// Whether the current cell and the selection are drawn, and how.
+enum class Marks { none, without_focus, with_focus };
+
+// Draws a grid's cells.
+class GridPainter {
+public:
+    explicit GridPainter(const QFont& font) : texts_(font) {}
+    void set_font(const QFont& font) { texts_.set_font(font); }
+
+    // Fills the area, drawing the cells that the lines show.
+    void paint(QPainter& painter, const QRect& area, const grid::GridModel& model, const PixelLines& rows,
+               const PixelLines& cols, Marks marks);
+
+private:
+    struct Scene {
+        QPainter& painter;
+        const grid::GridModel& model;
+        const PixelLines& rows;
+        const PixelLines& cols;
+        Marks marks;
+
+        QRect cell_rect(int row, int col) const {
+            return QRect(cols.begin(col), rows.begin(row), cols.size(col), rows.size(row));
+        }
+        QRect extent() const;
+        bool is_marked(int row, int col) const;
+    };
+
+    void paint_grounds(const Scene& scene) const;
+    void paint_lines(const Scene& scene) const;
+    void paint_contents(const Scene& scene);
+    void paint_cell(const Scene& scene, int row, int col, const grid::GridCell& cell);
+    void paint_current_frame(const Scene& scene) const;
+
+    TextBlocks texts_;
+    PictureCache pictures_;
+};
+
+} // namespace ui

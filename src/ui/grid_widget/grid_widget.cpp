@@ -1,0 +1,225 @@
+#include "grid_widget/grid_widget.h"
+
+#include "grid_widget/accessible_grid.h"
+#include "grid_widget/cursor_keys.h"
+#include "grid_widget/grid_style.h"
+
+#include <QContextMenuEvent>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QScrollBar>
+
+namespace ui {
+
+namespace {
+
+constexpr int scroll_interval = 60; // milliseconds for a row while a selection is drawn beyond the view
+
+// The line at a position among the scrollable ones; the present one when there is none.
+int scrolled_line(const PixelLines& lines, int position, int present) {
+    const auto& scrollable = lines.scrollable();
+    return position >= 0 && position < static_cast<int>(scrollable.size())
+               ? scrollable[static_cast<std::size_t>(position)]
+               : present;
+}
+
+} // namespace
+
+GridWidget::GridWidget(grid::GridModel& model, QWidget* parent)
+    : QAbstractScrollArea(parent), model_(model), painter_(font()), sizer_(model) {
+    install_grid_accessibility();
+    setFocusPolicy(Qt::StrongFocus);
+    setFrameShape(QFrame::NoFrame);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
+    viewport()->setMouseTracking(true);
+    scroll_timer_.setInterval(scroll_interval);
+    connect(&scroll_timer_, &QTimer::timeout, this, [this] { scroll_towards(pointer_); });
+    model_.add_observer(*this);
+    sync_scroll_bars();
+}
+
+GridWidget::~GridWidget() { model_.remove_observer(*this); }
+
+void GridWidget::lock_updates() {
+    is_locked_ = true;
+    viewport()->setUpdatesEnabled(false);
+}
+
+void GridWidget::unlock_updates() {
+    is_locked_ = false;
+    viewport()->setUpdatesEnabled(model_.Redraw());
+}
+
+void GridWidget::grid_changed(grid::GridChange change) {
+    switch (change) {
+    case grid::GridChange::cells:
+        cells_changed_ = true;
+        break;
+    case grid::GridChange::shape:
+        shape_changed_ = lines_are_stale_ = true;
+        break;
+    case grid::GridChange::current:
+        current_changed_ = true;
+        break;
+    case grid::GridChange::redraw:
+        viewport()->setUpdatesEnabled(!is_locked_ && model_.Redraw());
+        break;
+    }
+    if (settle_is_due_)
+        return;
+    settle_is_due_ = true;
+    QMetaObject::invokeMethod(this, &GridWidget::settle, Qt::QueuedConnection);
+}
+
+void GridWidget::settle() {
+    settle_is_due_ = false;
+    if (shape_changed_)
+        sync_scroll_bars();
+    const QSize size(model_.Cols(), model_.Rows());
+    tell_screen_readers(*this, {cells_changed_, size != told_size_, current_changed_});
+    told_size_ = size;
+    cells_changed_ = shape_changed_ = current_changed_ = false;
+    viewport()->update();
+}
+
+void GridWidget::refresh_lines() const {
+    if (!lines_are_stale_)
+        return;
+    rows_ = PixelLines(model_.rows(), viewport()->height());
+    cols_ = PixelLines(model_.columns(), viewport()->width());
+    lines_are_stale_ = false;
+}
+
+const PixelLines& GridWidget::rows() const {
+    refresh_lines();
+    return rows_;
+}
+
+const PixelLines& GridWidget::cols() const {
+    refresh_lines();
+    return cols_;
+}
+
+void GridWidget::sync_scroll_bars() {
+    const auto sync = [](QScrollBar* bar, const PixelLines& lines) {
+        bar->setRange(0, lines.last_scroll_position());
+        bar->setPageStep(lines.lines_in_view());
+        bar->setValue(lines.scroll_position());
+    };
+    sync(verticalScrollBar(), rows());
+    sync(horizontalScrollBar(), cols());
+}
+
+// A scroll bar has got a new value: from the user, or because the model no longer reaches as far as it was
+// scrolled.
+void GridWidget::scrollContentsBy(int, int) {
+    const int top = scrolled_line(rows(), verticalScrollBar()->value(), model_.TopRow());
+    const int left = scrolled_line(cols(), horizontalScrollBar()->value(), model_.LeftCol());
+    if (top != model_.TopRow())
+        model_.TopRow(top);
+    if (left != model_.LeftCol())
+        model_.LeftCol(left);
+}
+
+void GridWidget::make_visible(int row, int col) {
+    const int top = rows().first_to_show(row);
+    const int left = cols().first_to_show(col);
+    if (top != model_.TopRow())
+        model_.TopRow(top);
+    if (left != model_.LeftCol())
+        model_.LeftCol(left);
+}
+
+QRect GridWidget::cell_rect(int row, int col) const {
+    if (!rows().shows(row) || !cols().shows(col))
+        return {};
+    return QRect(cols().begin(col), rows().begin(row), cols().size(col), rows().size(row));
+}
+
+QPoint GridWidget::to_twips(QPoint place) const {
+    return {cols().to_twips(place.x(), model_.columns()), rows().to_twips(place.y(), model_.rows())};
+}
+
+void GridWidget::paintEvent(QPaintEvent*) {
+    QPainter painter(viewport());
+    painter_.paint(painter, viewport()->rect(), model_, rows(), cols(),
+                   hasFocus() ? Marks::with_focus : Marks::without_focus);
+}
+
+void GridWidget::paint_whole(QPainter& painter) {
+    painter_.paint(painter, QRect(QPoint(), whole_size()), model_, PixelLines::whole(model_.rows()),
+                   PixelLines::whole(model_.columns()), Marks::none);
+}
+
+QSize GridWidget::whole_size() const {
+    return {PixelLines::whole(model_.columns()).total_end(), PixelLines::whole(model_.rows()).total_end()};
+}
+
+QSize GridWidget::viewportSizeHint() const { return whole_size(); }
+
+void GridWidget::resizeEvent(QResizeEvent*) {
+    lines_are_stale_ = true;
+    sync_scroll_bars();
+}
+
+void GridWidget::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::FontChange) {
+        painter_.set_font(font());
+        viewport()->update();
+    }
+    QAbstractScrollArea::changeEvent(event);
+}
+
+void GridWidget::focusInEvent(QFocusEvent* event) {
+    QAbstractScrollArea::focusInEvent(event);
+    tell_screen_readers(*this, {.current = true});
+    viewport()->update();
+}
+
+void GridWidget::focusOutEvent(QFocusEvent* event) {
+    QAbstractScrollArea::focusOutEvent(event);
+    viewport()->update();
+}
+
+void GridWidget::keyPressEvent(QKeyEvent* event) {
+    const bool extends = event->modifiers() & Qt::ShiftModifier;
+    if (move_cursor(model_, event->key(), event->modifiers(), rows().lines_in_view())) {
+        make_visible(extends ? model_.RowSel() : model_.Row(), extends ? model_.ColSel() : model_.Col());
+        emit cursor_moved();
+        return;
+    }
+    switch (event->key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        emit double_clicked();
+        break;
+    case Qt::Key_Escape:
+        abandon_mouse_work();
+        emit escape_pressed();
+        break;
+    case Qt::Key_F10:
+        if (extends)
+            request_menu();
+        else
+            event->ignore();
+        break;
+    default:
+        event->ignore();
+    }
+}
+
+// A press of the mouse opens its menu itself; the Menu key comes here.
+void GridWidget::contextMenuEvent(QContextMenuEvent* event) {
+    if (event->reason() == QContextMenuEvent::Keyboard)
+        request_menu();
+    event->accept();
+}
+
+void GridWidget::request_menu() {
+    make_visible(model_.Row(), model_.Col());
+    const QPoint middle = to_twips(cell_rect(model_.Row(), model_.Col()).center());
+    emit menu_requested(middle.x(), middle.y());
+}
+
+} // namespace ui

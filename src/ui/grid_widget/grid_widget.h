@@ -1,0 +1,112 @@
+#pragma once
+
+#include "grid/grid_model.h"
+#include "grid_widget/grid_painter.h"
+#include "grid_widget/line_sizer.h"
+#include "grid_widget/pixel_lines.h"
+
+#include <QAbstractScrollArea>
+#include <QTimer>
+
+#include <utility>
+
+namespace ui {
+
+// Shows a grid model and brings the user's mouse and keys to it. However much of the model changes, it is painted
+// once an event-loop turn. The model outlives the widget.
+//
+// Places that signals carry are twips on the screen, as the model's RowPos and ColPos count them. Buttons are
+// 1 left, 2 right, 4 middle; shift is the sum of 1 Shift, 2 Ctrl, 4 Alt.
+class GridWidget : public QAbstractScrollArea, private grid::GridObserver {
+    Q_OBJECT
+public:
+    explicit GridWidget(grid::GridModel& model, QWidget* parent = nullptr);
+    ~GridWidget() override;
+
+    const grid::GridModel& model() const { return model_; }
+
+    // Nothing is painted from lock to unlock. Locks aren't counted.
+    void lock_updates();
+    void unlock_updates();
+
+    // Scrolls no further than needed for the cell to show whole.
+    void make_visible(int row, int col);
+    // Where a cell lies in the viewport, in pixels; empty for a hidden or rolled away one.
+    QRect cell_rect(int row, int col) const;
+    // Row and column at a place in the viewport; -1 where there is none.
+    std::pair<int, int> cell_at(QPoint place) const { return {rows().at(place.y()), cols().at(place.x())}; }
+    // The whole grid, nothing scrolled away, without marks of the current cell and the selection: into any device,
+    // in pixels from its origin.
+    void paint_whole(QPainter& painter);
+    QSize whole_size() const; // pixels
+
+    // The user draws a cell from the press on until the button is let go, or until Escape.
+    void begin_drag();
+    bool is_dragging() const { return is_dragging_; }
+    // What the pointer says while the user drags.
+    void show_drop_permitted(bool permitted);
+
+signals:
+    // A press. A left one has by then made a day cell under it the current cell, or with Shift the far end of the
+    // selection; on titles it has only dropped the selection. Other buttons have changed nothing.
+    void mouse_pressed(int button, int shift, int x, int y);
+    // The left button twice, or Enter on the current cell.
+    void double_clicked();
+    // The Menu key, or Shift with F10; the place is the middle of the current cell.
+    void menu_requested(int x, int y);
+    void escape_pressed();
+    // A key has moved the current cell or the far end of the selection.
+    void cursor_moved();
+    void drag_moved(int x, int y);
+    void dropped(int x, int y);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void scrollContentsBy(int dx, int dy) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    QSize viewportSizeHint() const override;
+
+private:
+    void grid_changed(grid::GridChange change) override;
+    // Brings scroll bars, screen and screen readers up to date with the model.
+    void settle();
+    void sync_scroll_bars();
+    const PixelLines& rows() const;
+    const PixelLines& cols() const;
+    void refresh_lines() const;
+    QPoint to_twips(QPoint place) const;
+
+    void press_left(QPoint place, bool extends);
+    void extend_selection_to(QPoint place);
+    QRect cells_rect() const;
+    void scroll_towards(QPoint place);
+    void update_pointer(QPoint place);
+    void end_drag();
+    void abandon_mouse_work();
+    void request_menu();
+
+    grid::GridModel& model_;
+    GridPainter painter_;
+    LineSizer sizer_;
+    QTimer scroll_timer_; // while a selection is drawn beyond the view
+    QPoint pointer_;      // where the pointer was last, in the viewport
+    mutable PixelLines rows_, cols_;
+    mutable bool lines_are_stale_ = true;
+    QSize told_size_; // columns and rows that screen readers know of
+    bool is_locked_ = false;
+    bool is_selecting_ = false;
+    bool is_dragging_ = false;
+    bool settle_is_due_ = false;
+    bool cells_changed_ = false, shape_changed_ = false, current_changed_ = false; // since the last settle
+};
+
+} // namespace ui

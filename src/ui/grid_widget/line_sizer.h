@@ -1,0 +1,48 @@
+#pragma once
+
+#include "grid/grid_model.h"
+#include "grid_widget/pixel_lines.h"
+
+#include <QPoint>
+#include <Qt>
+
+#include <optional>
+
+namespace ui {
+
+// Rows and columns resized with the mouse, at the borders between their titles.
+class LineSizer {
+public:
+    explicit LineSizer(grid::GridModel& model) : model_(model) {}
+
+    // The pointer for a place over the grid, if a press there would begin to resize.
+    static std::optional<Qt::CursorShape> cursor_at(QPoint place, const PixelLines& rows, const PixelLines& cols);
+    // Begins to resize when a border is there.
+    bool begin(QPoint place, const PixelLines& rows, const PixelLines& cols);
+    bool is_sizing() const { return line_ >= 0; }
+    // Gives the line the size to which the pointer has been drawn. It doesn't get so small that it couldn't be
+    // drawn back.
+    void move_to(QPoint place);
+    void end() { line_ = -1; }
+    // Gives the line back the size that it had.
+    void abandon();
+
+    static constexpr int reach = 3;       // pixels to either side of a border
+    static constexpr int least_size = 12; // pixels
+
+private:
+    struct Border {
+        bool of_row;
+        int line;
+    };
+    static std::optional<Border> border_at(QPoint place, const PixelLines& rows, const PixelLines& cols);
+    void set_size(int twips);
+
+    grid::GridModel& model_;
+    bool sizes_row_ = false;
+    int line_ = -1;
+    int pressed_at_ = 0;  // pixels along the axis
+    int size_before_ = 0; // twips
+};
+
+} // namespace ui

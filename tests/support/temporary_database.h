@@ -1,31 +1,12 @@
 #pragma once
 
 #include "store/store.h"
+#include "support/temporary_folder.h"
 
-#include <stdlib.h>
-
-#include <filesystem>
 #include <memory>
 #include <string>
 
 namespace support {
-
-// A folder of its own that goes with the object, for tests that need real files.
-class TemporaryFolder {
-public:
-    TemporaryFolder() {
-        std::string pattern = (std::filesystem::temp_directory_path() / "orvanta-test-XXXXXX").string();
-        path_ = ::mkdtemp(pattern.data());
-    }
-    ~TemporaryFolder() { std::filesystem::remove_all(path_); }
-    TemporaryFolder(const TemporaryFolder&) = delete;
-    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
-
-    std::string file(const std::string& name) const { return (path_ / name).string(); }
-
-private:
-    std::filesystem::path path_;
-};
 
 // A new contact database in a file, its store, and the moment that the store believes it is.
 class TemporaryDatabase {

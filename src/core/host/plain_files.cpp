@@ -16,8 +16,8 @@ using std::chrono::file_clock;
 using std::chrono::milliseconds;
 using std::chrono::seconds;
 
-// Longer than any file system's grain of times in use here.
-constexpr auto settling_time = milliseconds(100);
+// Longer than the coarsest grain of times that file systems have, two seconds.
+constexpr auto settling_time = seconds(3);
 constexpr auto lock_patience = seconds(5);
 // Locks are held for one reading and one replacing of a small file; an older one was left by a process that died.
 constexpr auto lock_lifetime = seconds(20);

@@ -1,0 +1,57 @@
+#include "shell/calendar.h"
+
+namespace shell {
+
+Calendar::Calendar(MainWindow& window, const Platform& platform)
+    : ActEvent1_(platform.ActEvent1), guarded_(platform.box, platform.application),
+      settings_(platform.files, guarded_), user_store_(platform.user_store), holidays_(platform.files, guarded_),
+      session(platform.server, guarded_), lists(session, guarded_), users(session, lists, settings_, guarded_),
+      grid(users, platform.folders,
+           {.ini = settings_,
+            .user_store = user_store_,
+            .locale = platform.locale,
+            .clock = platform.clock,
+            .window = window,
+            .guarded = guarded_}),
+      engine({.session = session,
+              .users = users,
+              .lists = lists,
+              .grid = grid,
+              .settings = settings_,
+              .locale = platform.locale,
+              .clock = platform.clock,
+              .tmrRefresh = platform.tmrRefresh,
+              .box = platform.box,
+              .window = window,
+              .guarded = guarded_,
+              .bLoading = bLoading_}),
+      start_up({.window = window,
+                .program = platform.program,
+                .box = platform.box,
+                .application = platform.application,
+                .clock = platform.clock,
+                .folders = platform.folders,
+                .guarded = guarded_,
+                .settings = settings_,
+                .user_store = user_store_,
+                .ActEvent1 = platform.ActEvent1,
+                .session = session,
+                .users = users,
+                .grid = grid,
+                .engine = engine,
+                .holidays = holidays_,
+                .bLoading = bLoading_}),
+      sizing(window, grid.msgSched, bLoading_, guarded_),
+      closing(window, platform.program, session, platform.ActEvent1, grid.layout, user_store_, platform.shell,
+              platform.tmr2, guarded_),
+      menu(engine, platform.box, platform.application, guarded_) {
+    ActEvent1_.OnDatabaseClose = [this] { closing.ActEvent1_OnDatabaseClose(); };
+    ActEvent1_.OnActUserWantsToClose = [this] { closing.ActEvent1_OnActUserWantsToClose(); };
+}
+
+Calendar::~Calendar() {
+    ActEvent1_.OnDatabaseClose = nullptr;
+    ActEvent1_.OnActUserWantsToClose = nullptr;
+}
+
+} // namespace shell

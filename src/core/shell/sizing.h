@@ -1,0 +1,28 @@
+#pragma once
+
+#include "grid/grid_model.h"
+#include "host/guard.h"
+#include "shell/main_window.h"
+
+namespace shell {
+
+// Keeps the grid and the year label as large as the window lets them be.
+class Sizing {
+public:
+    // `bLoading` is true until the window has first been shown.
+    Sizing(MainWindow& window, grid::GridModel& msgSched, const bool& bLoading, const host::Guard& guarded)
+        : window_(window), msgSched_(msgSched), bLoading_(bLoading), guarded_(guarded) {}
+
+    // The window has got another size.
+    void Form_Resize();
+
+private:
+    void keep_column_widths(int grid_width);
+
+    MainWindow& window_;
+    grid::GridModel& msgSched_;
+    const bool& bLoading_;
+    const host::Guard& guarded_;
+};
+
+} // namespace shell

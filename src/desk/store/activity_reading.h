@@ -61,17 +61,17 @@ struct ActivityRow {
     bool is_private = false;
     bool alarm = false;
     bool has_details = false;
-    Recurrence recurrence;
-    std::string regarding;
+    Recurrence recurrence{};
+    std::string regarding{};
 };
 
 struct ActivityChanges {
-    std::vector<ActivityRow> changed; // added or changed
+    std::vector<ActivityRow> changed; // added or changed, in no order
     std::vector<Id> removed;
     std::vector<std::string> contacts; // changed or added
 };
 
-// Rows come in the list's order. Failures as the store's.
+// Rows come in the list's order where nothing else is said. Failures as the store's.
 class ActivityReading {
 public:
     virtual ~ActivityReading() = default;

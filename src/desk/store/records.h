@@ -9,35 +9,35 @@
 #include <vector>
 
 // The records of the contact manager. Ids are texts of 12 characters; an empty id means none, and on a record
-// that is about to be added, not yet given.
+// that is about to be added, not yet given. Every member has a default, so that {.id = ...} makes a record.
 namespace store {
 
 using values::DateTime;
 
 struct User {
-    std::string id;
-    std::string name;
-    std::string security; // "Administrator", "Standard" or "Browse"
-    std::string access;   // "Enabled" or "Disabled"
+    std::string id{};
+    std::string name{};
+    std::string security{}; // "Administrator", "Standard" or "Browse"
+    std::string access{};   // "Enabled" or "Disabled"
 };
 
 struct Contact {
-    std::string id;
-    std::map<int, std::string> fields; // by field number (contact_fields.h)
+    std::string id{};
+    std::map<int, std::string> fields{}; // by field number (contact_fields.h)
     std::int64_t revision = 0;
 };
 
 struct Group {
-    std::string id;
-    std::string name;
-    std::vector<std::string> contacts;
+    std::string id{};
+    std::string name{};
+    std::vector<std::string> contacts{};
 };
 
 struct Note {
-    std::string id;
-    std::string contact;
-    DateTime written;
-    std::string text;
+    std::string id{};
+    std::string contact{};
+    DateTime written{};
+    std::string text{};
 };
 
 enum class ActivityType { call = 0, meeting = 1, to_do = 2 };
@@ -47,7 +47,7 @@ enum class RecurrenceKind { none = 0, daily = 1, weekly = 2, days_of_month = 3, 
 struct Recurrence {
     RecurrenceKind kind = RecurrenceKind::none;
     int frequency = 1;               // days, weeks or months; the store never keeps less than 1
-    std::optional<DateTime> until;   // the last date; absent for a series without an end
+    std::optional<DateTime> until{}; // the last date; absent for a series without an end
     int days_of_week = 0;            // bit 0 Sunday to bit 6 Saturday
     int weeks_of_month = 0;          // bit 0 the first week to bit 4 the fifth
     std::uint32_t days_of_month = 0; // bit 0 the 1st to bit 30 the 31st
@@ -56,27 +56,27 @@ struct Recurrence {
 };
 
 struct Activity {
-    std::string id;
-    DateTime edited; // set by the store at each change
+    std::string id{};
+    DateTime edited{}; // set by the store at each change
     ActivityType type = ActivityType::meeting;
     Priority priority = Priority::low;
-    std::string regarding;
-    std::optional<DateTime> start; // absent when imported data had none that could be read
-    DateTime end;                  // stored as start plus duration where it lies before the start
-    int duration = 0;              // minutes; the store never keeps less than 0
+    std::string regarding{};
+    std::optional<DateTime> start{}; // absent when imported data had none that could be read
+    DateTime end{};                  // stored as start plus duration where it lies before the start
+    int duration = 0;                // minutes; the store never keeps less than 0
     bool is_private = false;
     bool alarm = false;
-    int alarm_lead = 0;                  // minutes
-    std::optional<std::uint32_t> colour; // blue, green, red from the high byte down
-    std::string user;                    // for whom it is scheduled
-    std::string group;
-    std::vector<std::string> contacts; // the first is the activity's own contact
+    int alarm_lead = 0;                    // minutes
+    std::optional<std::uint32_t> colour{}; // blue, green, red from the high byte down
+    std::string user{};                    // for whom it is scheduled
+    std::string group{};
+    std::vector<std::string> contacts{}; // the first is the activity's own contact
     bool cleared = false;
-    std::string result; // how it ended, told when it was cleared
-    std::string details;
-    Recurrence recurrence;
-    std::vector<DateTime> exceptions; // dates without an occurrence, rising
-    std::int64_t revision = 0;        // rises with each change of any record; compares for changes since a read
+    std::string result{}; // how it ended, told when it was cleared
+    std::string details{};
+    Recurrence recurrence{};
+    std::vector<DateTime> exceptions{}; // dates without an occurrence, rising
+    std::int64_t revision = 0;          // rises with each change of any record; compares for changes since a read
 };
 
 } // namespace store

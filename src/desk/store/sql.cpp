@@ -6,14 +6,14 @@ namespace {
 
 // The columns of a contact's fields, by rising field number as in contact_fields().
 constexpr std::string_view contact_columns =
-    "company, name, title, department, salutation, phone, extension, fax, mobile, e_mail, web_site, address, city,"
-    " state, postcode, country, referred_by, birthday, status, record_creator, record_manager";
+    "company, name, address, address_2, address_3, city, state, postcode, country, status, phone, fax, home_phone,"
+    " mobile, pager, salutation, title, department, birthday, e_mail, web_site, referred_by, extension,"
+    " record_creator, record_manager";
 
 constexpr std::string_view activity_columns =
-    "id, revision, edited_at, type, priority, regarding, starts_at, ends_at, duration, private, alarm, alarm_lead,"
-    " colour, scheduled_for, contact_group, contact, contact_count, cleared, result, details, recurrence, "
-    "frequency,"
-    " until, days_of_week, weeks_of_month, days_of_month";
+    "id, revision, edited_at, type, priority, regarding, starts_at, ends_at, duration, private, alarm,"
+    " alarm_lead, colour, scheduled_for, contact_group, contact, contact_count, cleared, result, details,"
+    " has_details, recurrence, frequency, until, days_of_week, weeks_of_month, days_of_month";
 
 constexpr std::string_view row_columns =
     "starts_at, id, edited_at, type, priority, cleared, recurrence, ends_at, revision, scheduled_for, "
@@ -71,23 +71,27 @@ CREATE TABLE contacts (
     revision INTEGER NOT NULL,
     company TEXT NOT NULL,
     name TEXT NOT NULL,
-    title TEXT NOT NULL,
-    department TEXT NOT NULL,
-    salutation TEXT NOT NULL,
-    phone TEXT NOT NULL,
-    extension TEXT NOT NULL,
-    fax TEXT NOT NULL,
-    mobile TEXT NOT NULL,
-    e_mail TEXT NOT NULL,
-    web_site TEXT NOT NULL,
     address TEXT NOT NULL,
+    address_2 TEXT NOT NULL,
+    address_3 TEXT NOT NULL,
     city TEXT NOT NULL,
     state TEXT NOT NULL,
     postcode TEXT NOT NULL,
     country TEXT NOT NULL,
-    referred_by TEXT NOT NULL,
-    birthday TEXT NOT NULL,
     status TEXT NOT NULL,
+    phone TEXT NOT NULL,
+    fax TEXT NOT NULL,
+    home_phone TEXT NOT NULL,
+    mobile TEXT NOT NULL,
+    pager TEXT NOT NULL,
+    salutation TEXT NOT NULL,
+    title TEXT NOT NULL,
+    department TEXT NOT NULL,
+    birthday TEXT NOT NULL,
+    e_mail TEXT NOT NULL,
+    web_site TEXT NOT NULL,
+    referred_by TEXT NOT NULL,
+    extension TEXT NOT NULL,
     record_creator TEXT NOT NULL,
     record_manager TEXT NOT NULL
 );
@@ -135,7 +139,7 @@ CREATE TABLE activities (
     cleared INTEGER NOT NULL,
     result TEXT NOT NULL,
     details TEXT NOT NULL,
-    has_details INTEGER NOT NULL GENERATED ALWAYS AS (details <> '') STORED,
+    has_details INTEGER NOT NULL,
     recurrence INTEGER NOT NULL,
     frequency INTEGER NOT NULL,
     until INTEGER,
@@ -302,8 +306,7 @@ std::string_view rows_without_start() {
 }
 
 std::string_view changed_rows() {
-    static const std::string text =
-        join({"SELECT ", row_columns, " FROM activities WHERE revision > ? ORDER BY starts_at, id"});
+    static const std::string text = join({"SELECT ", row_columns, " FROM activities WHERE revision > ?"});
     return text;
 }
 

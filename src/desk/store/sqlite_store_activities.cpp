@@ -39,13 +39,14 @@ void bind_record(Rows& statement, const Activity& activity, std::int64_t revisio
     };
     const Recurrence& recurrence = activity.recurrence;
     const std::string first_contact = activity.contacts.empty() ? "" : activity.contacts.front();
-    statement.bind_all(
-        revision, edited.seconds(), static_cast<int>(activity.type), static_cast<int>(activity.priority),
-        activity.regarding, seconds(activity.start), activity.end.seconds(), activity.duration,
-        activity.is_private, activity.alarm, activity.alarm_lead, activity.colour, optional_id(activity.user),
-        optional_id(activity.group), optional_id(first_contact), activity.contacts.size(), activity.cleared,
-        activity.result, activity.details, static_cast<int>(recurrence.kind), recurrence.frequency,
-        seconds(recurrence.until), recurrence.days_of_week, recurrence.weeks_of_month, recurrence.days_of_month);
+    statement.bind_all(revision, edited.seconds(), static_cast<int>(activity.type),
+                       static_cast<int>(activity.priority), activity.regarding, seconds(activity.start),
+                       activity.end.seconds(), activity.duration, activity.is_private, activity.alarm,
+                       activity.alarm_lead, activity.colour, optional_id(activity.user),
+                       optional_id(activity.group), optional_id(first_contact), activity.contacts.size(),
+                       activity.cleared, activity.result, activity.details, !activity.details.empty(),
+                       static_cast<int>(recurrence.kind), recurrence.frequency, seconds(recurrence.until),
+                       recurrence.days_of_week, recurrence.weeks_of_month, recurrence.days_of_month);
 }
 
 Activity activity_of(const Rows& rows) {
@@ -67,7 +68,7 @@ Activity activity_of(const Rows& rows) {
                       .cleared = rows.flag(17),
                       .result = rows.text(18),
                       .details = rows.text(19),
-                      .recurrence = recurrence_of(rows, recurrence_of(rows.number(20)), 21),
+                      .recurrence = recurrence_of(rows, recurrence_of(rows.number(21)), 22),
                       .exceptions = {},
                       .revision = rows.number(1)};
     if (!rows.is_null(15))

@@ -21,13 +21,13 @@ DateTime wall_clock(); // the machine's own, in its time zone
 // Which activities a list holds, and in which order nobody has to ask: by start, then by id; activities without
 // a start come first. A bound keeps those without a start out.
 struct ActivityQuery {
-    std::optional<DateTime> from; // starts at or after this
-    std::optional<DateTime> to;   // starts before this
-    std::set<ActivityType> without_types;
-    std::set<Priority> without_priorities;
+    std::optional<DateTime> from{}; // starts at or after this
+    std::optional<DateTime> to{};   // starts before this
+    std::set<ActivityType> without_types{};
+    std::set<Priority> without_priorities{};
     bool without_cleared = false;
-    std::optional<std::string> contact; // that this contact takes part in
-    std::optional<std::string> user;
+    std::optional<std::string> contact{}; // that this contact takes part in
+    std::optional<std::string> user{};
 };
 
 // A contact manager's database: one file, shared by any number of processes, each with a Store of its own. It is

@@ -1,0 +1,67 @@
+#include "store/sql.h"
+
+#include "store/connection.h"
+#include "store/contact_fields.h"
+#include "support/temporary_database.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+using store::Connection;
+namespace sql = store::sql;
+
+namespace {
+
+// How the engine goes about a statement. The parameters don't matter for that.
+std::string plan_of(std::string_view statement) {
+    const support::TemporaryDatabase database;
+    Connection connection(database.path(), Connection::Mode::read_write);
+    store::Rows rows = connection.query("EXPLAIN QUERY PLAN " + std::string(statement));
+    std::string plan;
+    while (rows.step())
+        plan += rows.text(3) + "\n";
+    return plan;
+}
+
+} // namespace
+
+TEST(Sql, ReadsAllEntriesFromAnIndexInOrder) {
+    EXPECT_EQ(plan_of(sql::entries), "SCAN activities USING COVERING INDEX activities_in_order\n");
+}
+
+TEST(Sql, ReadsAllSeriesFromTheirIndexAlone) {
+    EXPECT_EQ(plan_of(sql::series_rows()), "SCAN activities USING COVERING INDEX activities_recurring\n");
+}
+
+TEST(Sql, FindsAScopeInTheIndexOfStarts) {
+    EXPECT_EQ(plan_of(sql::rows_in_scope()),
+              "SEARCH activities USING INDEX activities_in_order (starts_at>? AND starts_at<?)\n");
+    store::ActivityQuery scope;
+    scope.from = scope.to = values::DateTime::of(2024, 3, 11);
+    EXPECT_EQ(plan_of(sql::activities(scope)),
+              "SEARCH activities USING INDEX activities_in_order (starts_at>? AND starts_at<?)\n");
+}
+
+TEST(Sql, FindsTheRowsBehindAPlaceInTheIndexOfStarts) {
+    EXPECT_EQ(plan_of(sql::rows_from()),
+              "SEARCH activities USING INDEX activities_in_order ((starts_at,id)>(?,?))\n");
+}
+
+TEST(Sql, FindsWhatChangedByIndexes) {
+    EXPECT_NE(plan_of(sql::changed_rows()).find("SEARCH activities USING INDEX activities_changed"),
+              std::string::npos);
+    EXPECT_NE(plan_of(sql::removed_activities).find("SEARCH removed_activities USING"), std::string::npos);
+    EXPECT_NE(plan_of(sql::changed_contacts).find("SEARCH contacts USING"), std::string::npos);
+}
+
+TEST(Sql, FindsTheActivitiesOfAContactByIndexes) {
+    const std::string plan = plan_of(sql::activities({.contact = "C00000000001"}));
+    EXPECT_EQ(plan.find("SCAN"), std::string::npos) << plan;
+}
+
+TEST(Sql, HasAColumnForEachContactField) {
+    const std::string_view statement = sql::add_contact();
+    EXPECT_EQ(std::count(statement.begin(), statement.end(), '?'),
+              static_cast<std::ptrdiff_t>(store::contact_fields().size()) + 2);
+}

@@ -18,8 +18,10 @@ public:
     void stop() override { running = false; }
 
     void fire() {
-        if (running)
-            std::function<void()>(tick_)(); // a copy, as the tick may start or stop the timer
+        if (!running)
+            return;
+        const std::function<void()> tick = tick_; // a copy, as the tick may start or stop the timer
+        tick();
     }
 
     int period = 0;

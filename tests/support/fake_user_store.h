@@ -13,6 +13,13 @@ namespace support {
 
 // The per-user store in memory. `refuses_writes` makes every write fail, as on a full disk.
 class FakeUserStore : public host::UserStore {
+    using Values = std::vector<std::pair<std::string, std::string>>;
+
+    template <typename List>
+    static auto find(List& values, const std::string& name) {
+        return std::find_if(values.begin(), values.end(), [&](const auto& value) { return value.first == name; });
+    }
+
 public:
     std::optional<std::string> read(const std::string& branch, const std::string& name) const override {
         const auto found = branches_.find(branch);
@@ -50,13 +57,6 @@ public:
     bool refuses_writes = false;
 
 private:
-    using Values = std::vector<std::pair<std::string, std::string>>;
-
-    template <typename List>
-    static auto find(List& values, const std::string& name) {
-        return std::find_if(values.begin(), values.end(), [&](const auto& value) { return value.first == name; });
-    }
-
     std::map<std::string, Values> branches_;
 };
 

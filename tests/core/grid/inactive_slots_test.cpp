@@ -1,0 +1,188 @@
+#include "grid/background.h"
+#include "support/grid_world.h"
+
+#include <gtest/gtest.h>
+
+// The greyed time slots of the main grid, and those of the dialog that edits them.
+namespace {
+
+using values::DateTime;
+
+constexpr grid::Colour even = 0xFFFFFF, odd = 0xC0E0FF, inactive = 0xFFC0C0;
+
+class InactiveSlots : public testing::Test {
+protected:
+    InactiveSlots() { world.set("Slots", "SlotsCount", "4"); }
+    void open(bool one_row_per_user = true, int days = 7) {
+        world.have_users({"Ann", "Bob"});
+        world.open(DateTime::of(2024, 1, 10), days, one_row_per_user);
+    }
+    // The rows of a column that have the inactive colour.
+    std::vector<int> inactive_rows(int col) const {
+        std::vector<int> rows;
+        for (int row = 1; row < model.Rows(); ++row)
+            if (model.cell(row, col).back_colour == inactive)
+                rows.push_back(row);
+        return rows;
+    }
+    void off(const std::string& weekday, const std::string& ranges) { world.set("Off", weekday, ranges); }
+
+    support::GridWorld world;
+    grid::GridModel& model = world.calendar.msgSched;
+    grid::Layout& layout = world.calendar.layout;
+    grid::Background& background = world.calendar.background;
+};
+
+using Rows = std::vector<int>;
+
+//   slots   8:00   9:00   10:00   11:00      Monday is column 3
+//   rows    1 2    3 4    5 6     7 8
+TEST_F(InactiveSlots, AreGreyFromARangesStartToBeforeItsEnd) {
+    off("Monday", "9:00:00 AM|10:59:00 AM");
+    open();
+    EXPECT_EQ(inactive_rows(3), (Rows{3, 4, 5, 6}));
+    EXPECT_EQ(layout.Cells(3, 3).BackColor(), 3);
+    EXPECT_EQ(layout.Cells(1, 3).BackColor(), 1);
+    EXPECT_EQ(inactive_rows(2), Rows{});
+    EXPECT_EQ(inactive_rows(4), Rows{});
+    EXPECT_TRUE(world.box.shown.empty());
+}
+
+TEST_F(InactiveSlots, DoNotHoldTheSlotAtWhichTheRangeEnds) {
+    off("Monday", "8:00:00 AM|9:00:00 AM");
+    open();
+    EXPECT_EQ(inactive_rows(3), (Rows{1, 2}));
+}
+
+TEST_F(InactiveSlots, CanHaveSeveralRangesOfADay) {
+    off("Monday", "8:00:00 AM|8:59:00 AM,11:00:00 AM|11:59:00 AM");
+    off("Saturday", "10:00:00 AM|10:30:00 AM");
+    open();
+    EXPECT_EQ(inactive_rows(3), (Rows{1, 2, 7, 8}));
+    EXPECT_EQ(inactive_rows(8), (Rows{5, 6}));
+}
+
+TEST_F(InactiveSlots, GiveTheBandBackWhenTheRangeHasChanged) {
+    off("Monday", "8:00:00 AM|9:59:00 AM");
+    open();
+    off("Monday", "8:00:00 AM|8:59:00 AM");
+    background.Color_offSlots(model, world.window, true);
+    EXPECT_EQ(inactive_rows(3), (Rows{1, 2}));
+    EXPECT_EQ(model.cell(3, 3).back_colour, odd);
+}
+
+TEST_F(InactiveSlots, ShareTheirColourWithAHolidayAndLeaveItAlone) {
+    background.Holidays = "|1/8/2024|";
+    off("Monday", "8:00:00 AM|8:59:00 AM");
+    open();
+    EXPECT_EQ(inactive_rows(3), (Rows{1, 2, 3, 4, 5, 6, 7, 8}));
+}
+
+// With one fixed column Monday is column 2, but its inactive hours show in column 3.
+TEST_F(InactiveSlots, FallOneColumnToTheRightWhereThereIsOneFixedColumn) {
+    off("Monday", "8:00:00 AM|8:59:00 AM");
+    open(false);
+    EXPECT_EQ(inactive_rows(2), Rows{});
+    EXPECT_EQ(inactive_rows(3), (Rows{1, 2, 3, 4}));
+}
+
+TEST_F(InactiveSlots, OfTheLastDayRunOffAGridWithOneFixedColumn) {
+    off("Saturday", "8:00:00 AM|8:59:00 AM");
+    open(false);
+    ASSERT_EQ(world.box.shown.size(), 1U);
+    EXPECT_NE(world.box.shown[0].text.find("Error 380: "), std::string::npos);
+    EXPECT_NE(world.box.shown[0].text.find("in modColorOffSlot: Sub Color_offSlots - Line # 50"),
+              std::string::npos);
+}
+
+// Monday's former grey lies in column 3, which is Tuesday, a holiday here: its date counts.
+TEST_F(InactiveSlots, AskForTheHolidayOfTheColumnThatIsPainted) {
+    background.Holidays = "|1/9/2024|";
+    off("Monday", "8:00:00 AM|8:59:00 AM");
+    open(false);
+    EXPECT_EQ(inactive_rows(3).size(), static_cast<std::size_t>(model.Rows() - 1));
+}
+
+TEST_F(InactiveSlots, GoByTheWeekdayOfTheDayShown) {
+    off("Wednesday", "8:00:00 AM|8:59:00 AM");
+    open(true, 1);
+    EXPECT_EQ(inactive_rows(2), (Rows{1, 2}));
+}
+
+TEST_F(InactiveSlots, ShowTheFailureBoxForARangeThatIsNoTime) {
+    for (const char* ranges : {"8:00:00 AM|late", "8:00:00 AM"}) {
+        world.box.shown.clear();
+        off("Monday", ranges);
+        if (model.Rows() == 1)
+            open();
+        else
+            background.Color_offSlots(model, world.window, true);
+        ASSERT_EQ(world.box.shown.size(), 1U) << ranges;
+    }
+    EXPECT_NE(world.box.shown[0].text.find("Error 9: "), std::string::npos);
+    EXPECT_TRUE(world.window.hourglass);
+}
+
+TEST_F(InactiveSlots, AreAskedForARowAndARangeAtATime) {
+    off("Saturday", "8:00:00 AM|9:00:00 AM");
+    open();
+    EXPECT_TRUE(background.In_Slot(model, 1, 7, true));
+    EXPECT_FALSE(background.In_Slot(model, 3, 7, true));
+    EXPECT_FALSE(background.In_Slot(model, 99, 7, true));
+    EXPECT_EQ(world.box.shown.size(), 1U);
+}
+
+// The dialog's grid has a column for each weekday from the first one on, and a row for each slot.
+class InactiveSlotsDialog : public InactiveSlots {
+protected:
+    InactiveSlotsDialog() {
+        off_grid.Rows(5);
+        off_grid.Cols(8);
+        off_grid.BackColor(even);
+    }
+    Rows inactive_rows_of_dialog(int col) const {
+        Rows rows;
+        for (int row = 1; row < off_grid.Rows(); ++row)
+            if (off_grid.cell(row, col).back_colour == inactive)
+                rows.push_back(row);
+        return rows;
+    }
+    grid::GridModel off_grid;
+};
+
+TEST_F(InactiveSlotsDialog, PaintsTheColumnOfTheWeekdayCountedFromTheFirstDay) {
+    world.set("Settings", "1stday", "2");
+    off("Monday", "9:00:00 AM|10:00:00 AM");
+    // A slot of the calendar has one row here, as in the dialog.
+    world.have_users({"Ann"});
+    world.open(DateTime::of(2024, 1, 10));
+    support::FakeWindow dialog;
+    background.Color_offSlots(off_grid, dialog, false);
+    EXPECT_EQ(inactive_rows_of_dialog(1), (Rows{2}));
+    EXPECT_EQ(inactive_rows_of_dialog(2), Rows{});
+    EXPECT_EQ(dialog.calls, (std::vector<std::string>{"show_hourglass", "lock_updates", "unlock_updates",
+                                                      "show_default_pointer"}));
+}
+
+// Its rows are timed as rows of the calendar, two to a slot, and it paints as many days as the calendar shows.
+TEST_F(InactiveSlotsDialog, TimesItsRowsByTheCalendarsRowsPerSlot) {
+    off("Sunday", "8:00:00 AM|9:00:00 AM");
+    off("Monday", "8:00:00 AM|9:00:00 AM");
+    open(true, 1);
+    support::FakeWindow dialog;
+    background.Color_offSlots(off_grid, dialog, false);
+    EXPECT_EQ(inactive_rows_of_dialog(1), (Rows{1, 2}));
+    EXPECT_EQ(inactive_rows_of_dialog(2), Rows{});
+}
+
+TEST_F(InactiveSlotsDialog, GivesNoCellItsBandBack) {
+    off("Sunday", "8:00:00 AM|9:00:00 AM");
+    open();
+    off_grid.Row(4);
+    off_grid.Col(1);
+    off_grid.CellBackColor(inactive);
+    background.Color_offSlots(off_grid, world.window, false);
+    EXPECT_EQ(inactive_rows_of_dialog(1), (Rows{1, 2, 4}));
+}
+
+} // namespace

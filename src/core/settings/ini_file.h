@@ -15,7 +15,7 @@ namespace settings {
 class IniFile {
 public:
     // Beyond this size a file is no settings file: it reads as empty and isn't written.
-    static constexpr std::size_t most_bytes = 4 * 1024 * 1024;
+    static constexpr std::size_t most_bytes = 1024 * 1024;
 
     IniFile(host::Files& files, std::string path) : files_(files), path_(std::move(path)) {}
 

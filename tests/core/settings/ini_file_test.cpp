@@ -140,11 +140,12 @@ TEST_F(IniFileTest, AReadOnlyFileIsReadAndIsntWritten) {
 }
 
 TEST_F(IniFileTest, AFileThatIsNoSettingsFileBySizeIsEmptyAndIsntWritten) {
-    const std::string garbage(100 * 1024 * 1024, '=');
-    write_file(path, garbage);
+    write_file(path, "[s]\na=1\n");
+    const std::uintmax_t size = 100 * 1024 * 1024;
+    fs::resize_file(path, size);
     EXPECT_EQ(value(), "absent");
-    EXPECT_FALSE(set("1"));
-    EXPECT_EQ(fs::file_size(path), garbage.size());
+    EXPECT_FALSE(set("2"));
+    EXPECT_EQ(fs::file_size(path), size);
 }
 
 TEST_F(IniFileTest, TheLargestFileIsReadWhateverItHolds) {

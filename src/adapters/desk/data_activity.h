@@ -1,0 +1,88 @@
+#pragma once
+
+#include "act/activity.h"
+#include "adapters/desk/data_cursor.h"
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <set>
+#include <string>
+#include <vector>
+
+namespace desk {
+
+// The list of activities over a store. A change that Update hasn't stored is given up by the next Edit or Add and
+// by every move; the contacts that are set meanwhile belong to it.
+class ActivityList final : public act::Activity {
+public:
+    explicit ActivityList(std::shared_ptr<Session> session);
+    ~ActivityList() override;
+
+    void Rebuild() override { move_to_first(); }
+    void MoveFirst() override { move_to_first(); }
+    void MoveNext() override;
+    bool isEOF() const override { return cursor_.is_at_end(); }
+    bool Goto(const std::string& id) override;
+
+    void SetDateScope(act::DateTime from, act::DateTime to) override;
+    void ClearDateScope() override;
+    void SetTypeFilter(int type) override;
+    void ClearTypeFilter() override;
+    void SetPriorityFilter(int priority) override;
+    void ClearPriorityFilter() override;
+    void SetClearedFilter() override;
+    void ClearClearedFilter() override;
+
+    act::Value Data(int field) const override;
+    void Data(int field, const act::Value& value) override;
+
+    void Edit() override;
+    void Add() override;
+    std::string Update() override;
+    void Delete() override;
+
+    bool isRecurring() const override { return entry().recurring; }
+    int recurringType() const override;
+    int GetRecurringFrequency() const override;
+    act::DateTime GetRecurringUntilDate() const override;
+    int GetDaysOfWeekBits() const override;
+    int GetDaysOfMonthBits() const override;
+    int GetWeeksOfMonthBits() const override;
+    act::ExceptionInfo& ExceptionInfo() override;
+    void RecurringChangeMode(bool only_this) override { only_this_ = only_this; }
+
+    std::string FirstScheduledWith() override;
+    std::string NextScheduledWith() override;
+    void FirstScheduledWith(const std::string& contact) override;
+    void NextScheduledWith(const std::string& contact) override;
+
+private:
+    void move_to_first();
+    void set_filters(const ListFilters& filters);
+    void give_up_change();
+    const store::ActivityEntry& entry() const; // fails with 91 where there is no record
+    const store::ActivityRow& row() const;
+    store::Activity stored() const; // the current record as the store has it; fails with 440 when it is gone
+    std::string store_draft();
+    // Stores something of the current record beside its Update, which doesn't take it for another's change.
+    void store_at_once(const std::string& id, const std::function<void()>& write);
+    std::string scheduled_with();
+    void schedule_with(const std::string& contact);
+
+    class Exceptions;
+
+    std::shared_ptr<Session> session_;
+    mutable Cursor cursor_; // it looks up where it stands when it is asked
+    std::unique_ptr<Exceptions> exceptions_;
+
+    std::optional<store::Activity> draft_; // between Edit or Add and Update
+    std::set<int> written_;                // the fields of the draft
+    mutable store::ActivityRow draft_row_; // the draft as it is read
+    bool only_this_ = false;
+
+    std::size_t contact_place_ = 0; // of the walk over the contacts
+    std::vector<std::string> contacts_;
+};
+
+} // namespace desk

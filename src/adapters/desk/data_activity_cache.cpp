@@ -1,0 +1,207 @@
+#include "adapters/desk/data_activity_cache.h"
+
+#include <algorithm>
+#include <iterator>
+#include <unordered_set>
+
+namespace desk {
+
+using store::ActivityEntry;
+using store::ActivityKey;
+using store::ActivityRow;
+using store::Id;
+
+namespace {
+
+// Beyond so many changes, and beyond so many plain rows, reading afresh what is needed is cheaper than carrying
+// on.
+constexpr std::int64_t most_changes = 20000;
+constexpr std::size_t most_plain_rows = 400000;
+constexpr int rows_at_once = 256;
+
+bool by_key(const ActivityEntry& left, const ActivityEntry& right) { return left.key < right.key; }
+
+bool holds(const Scope& scope, std::int64_t start) { return scope.from <= start && start < scope.to; }
+
+} // namespace
+
+void ActivityCache::take_in(const store::ActivityChanges& changes) {
+    for (const ActivityRow& row : changes.changed) {
+        const Id& id = row.entry.key.id;
+        const bool was_kept = by_id_.contains(id);
+        drop(id);
+        if (was_kept || is_wanted(row))
+            keep(row);
+        if (exceptions_)
+            (*exceptions_)[id] = reading_.exceptions(id);
+    }
+    for (const Id& id : changes.removed)
+        drop(id);
+    if (entries_)
+        update_entries(changes);
+}
+
+void ActivityCache::update_entries(const store::ActivityChanges& changes) {
+    if (changes.changed.empty() && changes.removed.empty())
+        return;
+    ++generation_;
+    std::unordered_set<Id> outdated(changes.removed.begin(), changes.removed.end());
+    for (const ActivityRow& row : changes.changed)
+        outdated.insert(row.entry.key.id);
+    std::erase_if(*entries_, [&](const ActivityEntry& entry) { return outdated.contains(entry.key.id); });
+    const auto kept = static_cast<std::ptrdiff_t>(entries_->size());
+    for (const ActivityRow& row : changes.changed)
+        entries_->push_back(row.entry);
+    std::sort(entries_->begin() + kept, entries_->end(), by_key);
+    std::inplace_merge(entries_->begin(), entries_->begin() + kept, entries_->end(), by_key);
+}
+
+bool ActivityCache::is_wanted(const ActivityRow& row) const {
+    const auto holds_it = [&](const Scope& scope) { return holds(scope, row.entry.key.start); };
+    return (has_all_series_ && row.entry.recurring) ||
+           std::any_of(loaded_scopes_.begin(), loaded_scopes_.end(), holds_it);
+}
+
+void ActivityCache::forget_all() {
+    by_id_.clear();
+    rows_.clear();
+    loaded_scopes_.clear();
+    has_all_series_ = false;
+    series_count_ = 0;
+    entries_.reset();
+    ++generation_;
+    exceptions_.reset();
+    details_.clear();
+}
+
+void ActivityCache::keep(const ActivityRow& row) {
+    const auto place =
+        rows_.insert_or_assign(rows_.end(), row.entry.key, std::make_shared<const ActivityRow>(row));
+    const auto [known, is_new] = by_id_.try_emplace(row.entry.key.id, place);
+    if (!is_new && known->second != place) { // it has moved since it was read
+        rows_.erase(known->second);
+        known->second = place;
+    }
+}
+
+void ActivityCache::drop(const Id& id) {
+    if (const auto known = by_id_.find(id); known != by_id_.end()) {
+        rows_.erase(known->second);
+        by_id_.erase(known);
+    }
+    if (exceptions_)
+        exceptions_->erase(id);
+    details_.erase(id);
+}
+
+bool ActivityCache::is_loaded(const Scope& scope) const {
+    return std::any_of(loaded_scopes_.begin(), loaded_scopes_.end(),
+                       [&](const Scope& loaded) { return loaded.from <= scope.from && scope.to <= loaded.to; });
+}
+
+void ActivityCache::load_scope(const Scope& scope) {
+    if (scope.from >= scope.to || is_loaded(scope))
+        return;
+    if (rows_.size() - series_count_ > most_plain_rows)
+        forget_all();
+    reading_.each_in_scope(store::DateTime::from_seconds(scope.from), store::DateTime::from_seconds(scope.to),
+                           [this](const ActivityRow& row) { keep(row); });
+    Scope whole = scope;
+    std::erase_if(loaded_scopes_, [&](const Scope& loaded) {
+        if (loaded.to < whole.from || whole.to < loaded.from)
+            return false;
+        whole = {std::min(loaded.from, whole.from), std::max(loaded.to, whole.to)};
+        return true;
+    });
+    loaded_scopes_.push_back(whole);
+}
+
+void ActivityCache::load_entries() {
+    if (entries_)
+        return;
+    entries_.emplace();
+    ++generation_;
+    reading_.each_entry([this](const ActivityEntry& entry) { entries_->push_back(entry); });
+}
+
+void ActivityCache::load_series() {
+    series_count_ = 0;
+    reading_.each_series([this](const ActivityRow& row) {
+        keep(row);
+        ++series_count_;
+    });
+    has_all_series_ = true;
+}
+
+const ActivityEntry* ActivityCache::first(const std::optional<Scope>& scope, Hint& hint) {
+    if (scope) {
+        load_scope(*scope);
+        const auto found = rows_.lower_bound({.start = scope->from, .id = {}});
+        return found != rows_.end() && holds(*scope, found->first.start) ? &found->second->entry : nullptr;
+    }
+    load_entries();
+    hint = {.generation = generation_, .index = 0};
+    return entries_->empty() ? nullptr : &entries_->front();
+}
+
+const ActivityEntry* ActivityCache::next(const ActivityKey& place, const std::optional<Scope>& scope, Hint& hint) {
+    if (scope) {
+        load_scope(*scope);
+        // From a record before the scope, the next one is the scope's first.
+        const auto found = std::max(place, ActivityKey{.start = scope->from, .id = {}}) == place
+                               ? rows_.upper_bound(place)
+                               : rows_.lower_bound({.start = scope->from, .id = {}});
+        return found != rows_.end() && holds(*scope, found->first.start) ? &found->second->entry : nullptr;
+    }
+    load_entries();
+    if (hint.generation == generation_ && hint.index < entries_->size() && (*entries_)[hint.index].key == place) {
+        ++hint.index;
+    } else {
+        const auto found =
+            std::upper_bound(entries_->begin(), entries_->end(), ActivityEntry{.key = place}, by_key);
+        hint = {.generation = generation_, .index = static_cast<std::size_t>(found - entries_->begin())};
+    }
+    return hint.index < entries_->size() ? &(*entries_)[hint.index] : nullptr;
+}
+
+std::shared_ptr<const ActivityRow> ActivityCache::row(const ActivityEntry& entry) {
+    const auto known = by_id_.find(entry.key.id);
+    if (known != by_id_.end())
+        return known->second->second;
+    if (entry.recurring && !has_all_series_)
+        load_series();
+    else
+        reading_.each_from(entry.key, rows_at_once, [this](const ActivityRow& row) { keep(row); });
+    return find(entry.key.id);
+}
+
+std::shared_ptr<const ActivityRow> ActivityCache::find(const Id& id) {
+    const auto known = by_id_.find(id);
+    if (known != by_id_.end())
+        return known->second->second;
+    const auto row = reading_.row(id);
+    if (!row)
+        return nullptr;
+    keep(*row);
+    return by_id_.at(id)->second;
+}
+
+const std::vector<store::DateTime>& ActivityCache::exceptions(const Id& id) {
+    if (!exceptions_) {
+        exceptions_.emplace();
+        reading_.each_exception(
+            [this](const Id& series, store::DateTime date) { (*exceptions_)[series].push_back(date); });
+    }
+    static const std::vector<store::DateTime> none;
+    const auto known = exceptions_->find(id);
+    return known == exceptions_->end() ? none : known->second;
+}
+
+const std::string& ActivityCache::details(const Id& id) {
+    const auto [known, is_new] = details_.try_emplace(id);
+    if (is_new)
+        known->second = reading_.details(id);
+    return known->second;
+}
+
+} // namespace desk

@@ -1,0 +1,78 @@
+#pragma once
+
+#include "store/activity_reading.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+#include <unordered_map>
+#include <utility>
+#include <vector>
+
+namespace desk {
+
+// The starts that a list is limited to: at or after `from` and before `to`.
+struct Scope {
+    std::int64_t from;
+    std::int64_t to;
+};
+
+// What has been read of a database's activities: the rows of the scopes that were asked for, all series with
+// their exceptions once one was asked for, and an entry for every activity once a list without a scope was
+// walked. It grows as it is asked; what the file's other users do it learns by take_in alone.
+class ActivityCache {
+public:
+    explicit ActivityCache(store::ActivityReading& reading) : reading_(reading) {}
+
+    void take_in(const store::ActivityChanges& changes);
+    void forget_all();
+
+    // Where the last step of a walk without a scope arrived, so that the next one needs no search.
+    struct Hint {
+        std::uint64_t generation = 0;
+        std::size_t index = 0;
+    };
+    // The first entry of the list, and the first one behind a place. None at its end. What they give lives until
+    // the next call of any member.
+    const store::ActivityEntry* first(const std::optional<Scope>& scope, Hint& hint);
+    const store::ActivityEntry* next(const store::ActivityKey& place, const std::optional<Scope>& scope,
+                                     Hint& hint);
+
+    // The row of an entry, read with many of its neighbours. None when the activity has gone meanwhile.
+    std::shared_ptr<const store::ActivityRow> row(const store::ActivityEntry& entry);
+    std::shared_ptr<const store::ActivityRow> find(const store::Id& id);
+
+    const std::vector<store::DateTime>& exceptions(const store::Id& id);
+    const std::string& details(const store::Id& id);
+
+private:
+    using Rows = std::map<store::ActivityKey, std::shared_ptr<const store::ActivityRow>>;
+
+    void load_scope(const Scope& scope);
+    void load_entries();
+    void load_series();
+    void keep(const store::ActivityRow& row);
+    void drop(const store::Id& id);
+    void update_entries(const store::ActivityChanges& changes);
+    bool is_wanted(const store::ActivityRow& row) const;
+    bool is_loaded(const Scope& scope) const;
+
+    store::ActivityReading& reading_;
+
+    Rows rows_;
+    std::unordered_map<store::Id, Rows::iterator> by_id_;
+    std::vector<Scope> loaded_scopes_; // apart from each other
+    bool has_all_series_ = false;
+    std::size_t series_count_ = 0; // when they were read
+
+    std::optional<std::vector<store::ActivityEntry>> entries_; // in order
+    std::uint64_t generation_ = 1;                             // of entries_
+
+    std::optional<std::unordered_map<store::Id, std::vector<store::DateTime>>> exceptions_;
+    std::unordered_map<store::Id, std::string> details_;
+};
+
+} // namespace desk

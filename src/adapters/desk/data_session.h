@@ -1,0 +1,48 @@
+#pragma once
+
+#include "adapters/desk/data_activity_cache.h"
+#include "store/store.h"
+#include "values/locale.h"
+
+#include <memory>
+#include <string>
+#include <unordered_map>
+#include <utility>
+#include <vector>
+
+namespace desk {
+
+// The fields of a contact that aren't empty, by rising number.
+using ContactFields = std::vector<std::pair<int, std::string>>;
+
+// A database while it is open: its store and what has been read of it. The objects that a program holds share it.
+// They may outlive its closing; then they fail with 440, as every member here does.
+class Session {
+public:
+    Session(std::unique_ptr<store::Store> store, const values::Locale& locale);
+    void close();
+
+    store::Store& store();
+    const values::Locale& locale() const { return locale_; }
+
+    // Takes in what any process has changed in the file since the last time. Costs next to nothing when nobody
+    // has.
+    void catch_up();
+
+    // What has been read, as new as the last catch_up. The two lookups give none for an id that there is not.
+    ActivityCache& activities();
+    const ContactFields* contact(const std::string& id);
+    const std::string* group_name(const std::string& id);
+
+private:
+    void require_open() const;
+
+    const values::Locale& locale_;
+    std::unique_ptr<store::Store> store_; // none once closed
+    std::unique_ptr<ActivityCache> activities_;
+    std::int64_t seen_; // the revision that everything in memory is at least as new as
+    std::unordered_map<std::string, ContactFields> contacts_;
+    std::unordered_map<std::string, std::string> group_names_;
+};
+
+} // namespace desk

@@ -1,0 +1,88 @@
+#include "adapters/desk/data_tables.h"
+
+#include "store/contact_fields.h"
+#include "values/failure.h"
+#include "values/ids.h"
+
+#include <algorithm>
+
+namespace desk {
+
+using act::Value;
+using values::Failure;
+using values::FailureNumber;
+
+namespace {
+
+constexpr int id_field = 1;
+constexpr int group_name_field = 25;
+
+const store::ContactField* field_of(int number) {
+    const auto& fields = store::contact_fields();
+    const auto found = std::lower_bound(fields.begin(), fields.end(), number,
+                                        [](const store::ContactField& field, int n) { return field.number < n; });
+    return found != fields.end() && found->number == number ? &*found : nullptr;
+}
+
+const store::ContactField& existing_field(int number) {
+    const store::ContactField* field = field_of(number);
+    if (!field)
+        throw Failure(FailureNumber::invalid_property_index);
+    return *field;
+}
+
+} // namespace
+
+int ContactFieldList::Count() const { return static_cast<int>(store::contact_fields().size()); }
+
+int ContactFieldList::ID(int position) const { return field_of(position) ? position : -1; }
+
+std::string ContactFieldList::Label(int id) const { return std::string(existing_field(id).label); }
+
+std::string ContactFieldList::Type(int id) const { return std::string(existing_field(id).type); }
+
+bool ContactFieldList::HasPopupList(int id) const { return existing_field(id).has_popup_list; }
+
+bool ContactTable::Goto(const std::string& id) {
+    session_->catch_up();
+    id_ = session_->contact(id) ? values::whole_id(id) : std::string();
+    return !id_.empty();
+}
+
+Value ContactTable::Data(int field) const {
+    if (id_.empty())
+        return {};
+    if (field == id_field)
+        return id_;
+    if (!field_of(field))
+        return {};
+    const ContactFields* contact = session_->contact(id_);
+    if (!contact)
+        return {};
+    const auto found = std::find_if(contact->begin(), contact->end(),
+                                    [field](const auto& numbered) { return numbered.first == field; });
+    return found == contact->end() ? std::string() : found->second;
+}
+
+bool GroupTable::Goto(const std::string& id) {
+    session_->catch_up();
+    id_ = session_->group_name(id) ? values::whole_id(id) : std::string();
+    return !id_.empty();
+}
+
+Value GroupTable::Data(int field) const {
+    if (id_.empty())
+        return {};
+    if (field == id_field)
+        return id_;
+    const std::string* name = field == group_name_field ? session_->group_name(id_) : nullptr;
+    return name ? Value(*name) : Value();
+}
+
+const store::User& UserTable::user(int index) const {
+    if (index < 1 || index > Count())
+        throw Failure(FailureNumber::subscript_out_of_range);
+    return users_[static_cast<std::size_t>(index - 1)];
+}
+
+} // namespace desk

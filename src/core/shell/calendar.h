@@ -56,11 +56,11 @@ private:
     act::EventControl& ActEvent1_;
     bool bLoading_ = false; // on from the load until the first activation
     host::Guard guarded_;
-    settings::IniLib settings_;
-    settings::PerUserStore user_store_;
-    HolidayFile holidays_;
 
 public:
+    settings::IniLib ini;
+    settings::PerUserStore user_store;
+    HolidayFile holidays;
     act::Session session;
     act::ListPopulator lists;
     act::UserList users;

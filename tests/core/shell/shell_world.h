@@ -1,0 +1,147 @@
+#pragma once
+
+#include "shell/calendar.h"
+#include "support/fake_act_server.h"
+#include "support/fake_clock.h"
+#include "support/fake_folders.h"
+#include "support/fake_message_box.h"
+#include "support/fake_shell.h"
+#include "support/fake_timer.h"
+#include "support/fake_user_store.h"
+#include "support/memory_files.h"
+
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace support {
+
+// A main window of 18000 by 11400 twips on a screen of 28800 by 16200, which remembers what was asked of it.
+class FakeMainWindow : public shell::MainWindow {
+public:
+    int left() const override { return place.left; }
+    int top() const override { return place.top; }
+    int width() const override { return place.width; }
+    int height() const override { return place.height; }
+    void set_left(int twips) override { place.left = twips; }
+    void set_top(int twips) override { place.top = twips; }
+    void set_size(int width, int height) override {
+        place.width = width;
+        place.height = height;
+    }
+    int screen_width() const override { return 28800; }
+    int screen_height() const override { return 16200; }
+    shell::WindowState window_state() const override { return state; }
+    void set_window_state(shell::WindowState to) override {
+        state = to;
+        calls.emplace_back("set_window_state");
+    }
+    void unload() override {
+        ++unloads;
+        if (unloads == 1 && Form_Unload)
+            Form_Unload();
+    }
+    void hide() override { calls.emplace_back("hide"); }
+    int present_width() const override { return place.width; }
+    int present_height() const override { return place.height; }
+    void set_grid_size(int width, int height) override { grid_width = width, grid_height = height; }
+    void set_lblYear_width(int width) override { lblYear_width = width; }
+    void set_chkView(int index, bool checked) override { chkView[index] = checked; }
+    void fill_cboGoTo(std::span<const std::string_view> entries) override {
+        cboGoTo.assign(entries.begin(), entries.end());
+    }
+    void set_cboGoTo_lines(int lines) override { cboGoTo_lines = lines; }
+    std::uintptr_t foreground_window() const override { return 4711; }
+
+    void lock_updates() override { calls.emplace_back("lock_updates"); }
+    void unlock_updates() override { calls.emplace_back("unlock_updates"); }
+    void show_hourglass() override { calls.emplace_back("show_hourglass"); }
+    void show_default_pointer() override { calls.emplace_back("show_default_pointer"); }
+    void bring_to_front() override { calls.emplace_back("bring_to_front"); }
+
+    struct Place {
+        int left = 0, top = 0, width = 18000, height = 11400;
+    } place;
+    shell::WindowState state = shell::WindowState::normal;
+    int grid_width = 0, grid_height = 0, lblYear_width = 0;
+    bool chkView[2] = {false, true};
+    std::vector<std::string> cboGoTo;
+    int cboGoTo_lines = 0;
+    int unloads = 0;
+    std::vector<std::string> calls;
+    std::function<void()> Form_Unload;
+};
+
+class FakeProgram : public shell::Program {
+public:
+    bool already_running() override { return is_second; }
+    void end() override { ++ends; }
+
+    bool is_second = false;
+    int ends = 0;
+};
+
+// The calendar in a world of fakes: Wednesday, 10 January 2024, 9:00; two users, no activities, empty stores.
+class ShellWorld {
+public:
+    ShellWorld() {
+        for (const char* name : {"Ann", "Bob"})
+            data.users.push_back({.id = id(name), .name = name, .security = "", .access = ""});
+        window.Form_Unload = [this] { calendar.closing.Form_Unload(); };
+    }
+
+    static std::string id(const std::string& name) { return name + std::string(12 - name.size(), '-'); }
+
+    // Values of the per-user store, and of the settings file in the program's folder.
+    void store(const std::string& key, const std::string& value) { values.write("Settings", key, value); }
+    std::string stored(const std::string& key) const { return values.read("Settings", key, "absent"); }
+    void have_settings(const std::string& text) { files.content["/program/Orvanta.ini"] = text; }
+
+    void load() { calendar.start_up.Form_Load(); }
+    void start() {
+        load();
+        calendar.start_up.Form_Activate();
+    }
+
+    // The first line of each box.
+    std::vector<std::string> boxes() const {
+        std::vector<std::string> lines;
+        for (const host::Message& message : box.shown)
+            lines.push_back(message.text.substr(0, message.text.find('\r')));
+        return lines;
+    }
+    const grid::Layout& layout() const { return calendar.grid.layout; }
+
+    FakeMainWindow window;
+    FakeProgram program;
+    FakeMessageBox box;
+    host::ApplicationInfo application{
+        .title = "Orvanta", .major = 1, .minor = 2, .revision = 3, .support_address = "help@example.org"};
+    FakeClock clock{values::DateTime::of(2024, 1, 10, 9, 0)};
+    FakeTimer tmrRefresh, tmr2;
+    FakeShell shell;
+    FakeUserStore user_store;
+    settings::PerUserStore values{user_store};
+    MemoryFiles files;
+    FakeFolders folders;
+    FakeActData data;
+    FakeApplicationState state;
+    FakeServer server{data, state};
+    FakeEventControl events;
+    shell::Calendar calendar{window,
+                             {.application = application,
+                              .locale = values::english_us(),
+                              .box = box,
+                              .clock = clock,
+                              .tmrRefresh = tmrRefresh,
+                              .tmr2 = tmr2,
+                              .shell = shell,
+                              .user_store = user_store,
+                              .files = files,
+                              .folders = folders,
+                              .program = program,
+                              .server = server,
+                              .ActEvent1 = events}};
+};
+
+} // namespace support

@@ -2,14 +2,24 @@
 
 #include <QCoreApplication>
 #include <QEvent>
+#include <QWindow>
 
 namespace desk {
+namespace {
+
+// Menus, tool tips and the like are closed by the program.
+bool is_closed_by_user(QObject* receiver) {
+    const auto* window = qobject_cast<QWindow*>(receiver);
+    return window && (window->type() == Qt::Window || window->type() == Qt::Dialog);
+}
+
+} // namespace
 
 InputShield::InputShield() { QCoreApplication::instance()->installEventFilter(this); }
 
 InputShield::~InputShield() { QCoreApplication::instance()->removeEventFilter(this); }
 
-bool InputShield::eventFilter(QObject*, QEvent* event) {
+bool InputShield::eventFilter(QObject* receiver, QEvent* event) {
     switch (event->type()) {
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonRelease:
@@ -34,11 +44,10 @@ bool InputShield::eventFilter(QObject*, QEvent* event) {
     case QEvent::Drop:
         return true;
     case QEvent::Close:
-        if (event->spontaneous()) {
-            event->ignore();
-            return true;
-        }
-        return false;
+        if (!is_closed_by_user(receiver))
+            return false;
+        event->ignore();
+        return true;
     default:
         return false;
     }

@@ -18,8 +18,15 @@ using values::Failure;
 using values::FailureNumber;
 
 constexpr int answer_milliseconds = 2000;
-constexpr int departure_milliseconds = 5000; // between the desk's promise to end and its end
+constexpr int departure_milliseconds = 3000; // between the desk's promise to end and its end
 constexpr int without_limit = std::numeric_limits<int>::max();
+
+constexpr auto not_running = "The contact desk isn't running.";
+
+// A call without a limit that gets no reply has lost the one who was to give it.
+bool is_lost(const QDBusError& error) {
+    return error.type() == QDBusError::NoReply || error.type() == QDBusError::Disconnected;
+}
 
 } // namespace
 
@@ -29,7 +36,7 @@ values::Failure failure_of(const QDBusError& error) {
             return error.message();
         switch (error.type()) {
         case QDBusError::ServiceUnknown:
-            return "The contact desk isn't running.";
+            return not_running;
         case QDBusError::NoReply:
         case QDBusError::Timeout:
         case QDBusError::TimedOut:
@@ -73,18 +80,19 @@ void Link::run(act::CommandNumber number) {
 }
 
 void Link::wait_for(act::CommandNumber number) {
+    if (!desk_runs())
+        throw Failure(FailureNumber::automation, not_running);
     const bool closing = number == act::CommandNumber::close_application;
     ApplicationProxy patient(contract::bus_name, contract::application_path, bus_);
     patient.setTimeout(without_limit);
 
     const InputShield shield;
     QEventLoop loop;
-    bool gone = false;
     QDBusPendingReply<> reply = patient.Command(static_cast<int>(number));
     QDBusPendingCallWatcher watcher(reply);
     connect(this, &Link::desk_gone, &loop, [&] {
-        gone = true;
-        loop.quit();
+        if (!desk_runs()) // or it is old news of a desk that has been started again
+            loop.quit();
     });
     connect(&watcher, &QDBusPendingCallWatcher::finished, &loop, [&] {
         if (closing && !reply.isError())
@@ -94,9 +102,9 @@ void Link::wait_for(act::CommandNumber number) {
     });
     loop.exec();
 
-    if (closing && (gone || !desk_runs()))
+    if (closing && !desk_runs())
         return;
-    if (!reply.isFinished())
+    if (!reply.isFinished() || is_lost(reply.error()))
         throw Failure(FailureNumber::automation, "The contact desk ended before its dialog was closed.");
     if (reply.isError())
         throw failure_of(reply.error());

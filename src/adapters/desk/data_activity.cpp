@@ -155,8 +155,8 @@ Value ActivityList::Data(int field) const {
     const store::ActivityEntry* entry = cursor_.entry();
     if (!entry)
         return {};
-    if (auto value = entry_field(*entry, field))
-        return *value;
+    if (is_entry_field(field))
+        return entry_field(*entry, field);
     const store::ActivityRow* row = cursor_.row();
     if (!row)
         return {};

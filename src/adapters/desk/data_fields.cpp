@@ -62,7 +62,22 @@ void set_own_contact(store::Activity& activity, const std::string& contact) {
 
 } // namespace
 
-std::optional<Value> entry_field(const store::ActivityEntry& entry, int number) {
+bool is_entry_field(int number) {
+    switch (number) {
+    case field::id:
+    case field::edited:
+    case field::type:
+    case field::priority:
+    case field::start:
+    case field::date:
+    case field::cleared:
+        return true;
+    default:
+        return false;
+    }
+}
+
+Value entry_field(const store::ActivityEntry& entry, int number) {
     const bool dated = entry.key.start != store::ActivityKey::no_start;
     switch (number) {
     case field::id:
@@ -80,7 +95,7 @@ std::optional<Value> entry_field(const store::ActivityEntry& entry, int number) 
     case field::cleared:
         return std::string(entry.cleared ? "1" : "0");
     default:
-        return std::nullopt;
+        return {};
     }
 }
 
@@ -113,7 +128,7 @@ Value row_field(const store::ActivityRow& row, int number) {
                                 ? row.duration
                                 : (row.end - row.entry.key.start) / 60);
     default:
-        return entry_field(row.entry, number).value_or(Value());
+        return entry_field(row.entry, number);
     }
 }
 

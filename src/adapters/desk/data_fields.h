@@ -4,14 +4,14 @@
 #include "store/activity_reading.h"
 #include "values/locale.h"
 
-#include <optional>
 #include <set>
 
 // The numbered fields of an activity.
 namespace desk {
 
-// A field that the entry alone tells; none for any other field.
-std::optional<act::Value> entry_field(const store::ActivityEntry& entry, int field);
+// The fields that the entry of an activity tells; nothing for any other field.
+bool is_entry_field(int field);
+act::Value entry_field(const store::ActivityEntry& entry, int field);
 // A field of the row, but for the details; nothing for a field that there is not.
 act::Value row_field(const store::ActivityRow& row, int field);
 // The row that a record is going to have.

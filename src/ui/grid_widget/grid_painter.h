@@ -37,10 +37,8 @@ private:
         bool is_marked(int row, int col) const;
     };
 
-    void paint_grounds(const Scene& scene) const;
-    void paint_lines(const Scene& scene) const;
-    void paint_contents(const Scene& scene);
-    void paint_cell(const Scene& scene, int row, int col, const grid::GridCell& cell);
+    void paint_ground(const Scene& scene, int row, int col) const;
+    void paint_contents(const Scene& scene, int row, int col);
     void paint_current_frame(const Scene& scene) const;
 
     TextBlocks texts_;

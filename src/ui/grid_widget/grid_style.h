@@ -22,11 +22,13 @@ inline constexpr QColor ground{0xff, 0xff, 0xff};
 inline constexpr QColor beyond{0xf4, 0xf5, 0xf7}; // behind the last row and column
 inline constexpr QColor text{0x1a, 0x20, 0x2c};
 inline constexpr QColor title{0xe9, 0xed, 0xf2};
-inline constexpr QColor line{0x1a, 0x20, 0x2c, 0x24}; // clear enough to suit every ground
-inline constexpr QColor title_line{0x1a, 0x20, 0x2c, 0x60};
+inline constexpr QColor line{0x1a, 0x20, 0x2c};
+inline constexpr int line_percent = 14;       // of its colour in the ground that it stands on
+inline constexpr int title_line_percent = 40; // at the end of the titles
 inline constexpr QColor accent{0x1b, 0x66, 0xb8};
 inline constexpr QColor frame_without_focus{0x7b, 0x86, 0x94};
-inline constexpr int selection_percent = 26; // of the accent in the ground of a selected cell
+inline constexpr QColor selection{0xa9, 0xcd, 0xf3};
+inline constexpr int selection_percent = 70; // of its colour in the ground of a selected cell
 } // namespace style
 
 // The model's colour on the screen, or what stands for one that is not set.

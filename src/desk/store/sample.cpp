@@ -2,7 +2,9 @@
 
 #include "store/contact_fields.h"
 #include "store/sample_texts.h"
+#include "values/text.h"
 
+#include <cctype>
 #include <iterator>
 #include <random>
 
@@ -15,6 +17,15 @@ namespace field = contact_field;
 
 constexpr int minutes_of_day_start = 8 * 60;
 constexpr int minutes_of_day_end = 17 * 60;
+
+// The first name's letter and the last name, of which letters that a mail address can't have fall out.
+std::string mailbox(const Name& name) {
+    std::string result(name.first.substr(0, 1));
+    for (const char c : name.last)
+        if (std::isalpha(static_cast<unsigned char>(c)))
+            result += c;
+    return values::lower(result);
+}
 
 class SampleMaker {
 public:
@@ -54,9 +65,8 @@ private:
     }
 
     void add_contacts() {
-        int number = 0;
         for (const Name& name : sample::contacts) {
-            const Company& company = companies[static_cast<std::size_t>(number) % std::size(companies)];
+            const Company& company = companies[contacts_.size() / contacts_of_a_company];
             const std::string first(name.first), last(name.last), domain(company.domain);
             Contact contact;
             contact.fields = {{field::company, std::string(company.name)},
@@ -69,7 +79,7 @@ private:
                               {field::phone, phone(company)},
                               {field::salutation, first},
                               {field::title, text_of(titles)},
-                              {field::e_mail, "contact" + std::to_string(++number) + "@" + domain},
+                              {field::e_mail, mailbox(name) + "@" + domain},
                               {field::web_site, "www." + domain},
                               {field::record_creator, std::string(colleagues[0].name)},
                               {field::record_manager, std::string(one_of(colleagues).name)}};
@@ -81,18 +91,22 @@ private:
         }
     }
 
-    // Each contact in one of the first two groups, some in the third as well.
+    // Suppliers in one group, customers in the other, and some of both in the third.
     void add_groups() {
         std::vector<Group> all;
         for (const std::string_view name : sample::groups)
             all.push_back({.name = std::string(name)});
         for (std::size_t i = 0; i < contacts_.size(); ++i) {
-            all[i % 3 == 2 ? 1 : 0].contacts.push_back(contacts_[i]);
+            all[group_of(i)].contacts.push_back(contacts_[i]);
             if (i % 5 == 0)
                 all[2].contacts.push_back(contacts_[i]);
         }
         for (const Group& group : all)
             groups_.push_back(store_.add(group));
+    }
+
+    static std::size_t group_of(std::size_t contact) {
+        return companies[contact / contacts_of_a_company].is_supplier ? 1 : 0;
     }
 
     void add_notes() {
@@ -121,7 +135,7 @@ private:
                 result.contacts.push_back(
                     contacts_[(contact + static_cast<std::size_t>(20 * more)) % contacts_.size()]);
         if (in_so_many_of_100(40))
-            result.group = groups_[contact % 3 == 2 ? 1 : 0];
+            result.group = groups_[group_of(contact)];
         if (in_so_many_of_100(45))
             result.colour = one_of(colours);
         if (in_so_many_of_100(25))

@@ -2,6 +2,7 @@
 
 #include "values/text.h"
 
+#include <algorithm>
 #include <charconv>
 
 namespace settings {

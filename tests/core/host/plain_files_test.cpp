@@ -127,4 +127,6 @@ TEST_F(PlainFilesTest, ALockThatItsProcessLeftBehindIsBroken) {
     EXPECT_TRUE(files.lock(path));
 }
 
-TEST_F(PlainFilesTest, ThereIsNoLockInAMissingFolder) { EXPECT_FALSE(files.lock(folder.file("missing/file.txt"))); }
+TEST_F(PlainFilesTest, ThereIsNoLockInAMissingFolder) {
+    EXPECT_FALSE(files.lock(folder.file("missing/file.txt")));
+}

@@ -1,0 +1,78 @@
+#include "adapters/qt/locale.h"
+#include "contact_desk/options.h"
+#include "service/service.h"
+#include "store/store.h"
+#include "values/failure.h"
+#include "windows/main_window.h"
+#include "windows/open_toolbar_commands.h"
+#include "windows/sample_file.h"
+#include "windows/style.h"
+
+#include <QApplication>
+#include <QMessageBox>
+
+#include <iostream>
+
+namespace {
+
+int run(const apps::ShowHelp&, int, char**) {
+    std::cout << apps::usage();
+    return 0;
+}
+
+int run(const apps::ShowVersion&, int, char**) {
+    std::cout << "contact-desk " << CONTACT_DESK_VERSION << '\n';
+    return 0;
+}
+
+int run(const apps::NewSample& task, int, char**) {
+    windows::create_sample(task.database, store::wall_clock().date());
+    std::cout << "Made the sample database " << task.database << '\n';
+    return 0;
+}
+
+int run(const apps::ImportFile&, int, char**) {
+    throw values::Failure(values::FailureNumber::automation, "This build can't import files.");
+}
+
+int run(const apps::ShowWindow& task, int argc, char** argv) {
+    QApplication application(argc, argv);
+    QApplication::setApplicationName("contact-desk");
+    QApplication::setApplicationVersion(CONTACT_DESK_VERSION);
+    windows::dress(application);
+    const values::Locale locale = qt::system_locale();
+    windows::Session session(locale);
+    windows::MainWindow window(session, {});
+    windows::OpenToolbarCommands toolbar_commands(session);
+    service::Service service(window.desk(), toolbar_commands, locale);
+    window.show();
+    if (!task.database.empty())
+        window.open(task.database);
+    switch (service.register_on(QDBusConnection::sessionBus())) {
+    case service::Service::Registration::done:
+        break;
+    case service::Service::Registration::name_taken:
+        QMessageBox::warning(&window, QObject::tr("Contact Desk"),
+                             QObject::tr("The contact desk is running already."));
+        return 1;
+    case service::Service::Registration::no_bus:
+        std::cerr << "contact-desk: there is no session bus, so other programs can't reach the contact desk.\n";
+        break;
+    }
+    return QApplication::exec();
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    try {
+        const apps::Task task = apps::task_of({argv + 1, argv + argc});
+        return std::visit([&](const auto& chosen) { return run(chosen, argc, argv); }, task);
+    } catch (const apps::UsageError& error) {
+        std::cerr << "contact-desk: " << error.what() << "\nTry contact-desk --help.\n";
+        return 2;
+    } catch (const std::exception& error) {
+        std::cerr << "contact-desk: " << error.what() << '\n';
+        return 1;
+    }
+}

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <stdexcept>
+#include <string>
+#include <variant>
+#include <vector>
+
+// The command line of the contact desk.
+namespace apps {
+
+struct ShowHelp {
+    bool operator==(const ShowHelp&) const = default;
+};
+struct ShowVersion {
+    bool operator==(const ShowVersion&) const = default;
+};
+struct ShowWindow {
+    std::string database; // empty to start without one
+    bool operator==(const ShowWindow&) const = default;
+};
+struct NewSample {
+    std::string database;
+    bool operator==(const NewSample&) const = default;
+};
+struct ImportFile {
+    std::string file;
+    std::string user; // a name; empty when none was given
+    std::string database;
+    bool operator==(const ImportFile&) const = default;
+};
+using Task = std::variant<ShowHelp, ShowVersion, ShowWindow, NewSample, ImportFile>;
+
+// What is wrong with a command line, in a sentence.
+struct UsageError : std::runtime_error {
+    using std::runtime_error::runtime_error;
+};
+
+// What the arguments, without the program's own name, ask for. A "--" makes everything behind it a file name.
+// Throws UsageError.
+Task task_of(const std::vector<std::string>& arguments);
+
+std::string usage();
+
+} // namespace apps

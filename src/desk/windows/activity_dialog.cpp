@@ -1,0 +1,135 @@
+#include "windows/activity_dialog.h"
+
+#include "ui_activity_dialog.h"
+#include "values/failure.h"
+#include "windows/conversions.h"
+#include "windows/failure_box.h"
+#include "windows/rows.h"
+
+namespace windows {
+namespace {
+
+const QDate no_date(1900, 1, 1);
+
+void choose(QComboBox* box, const std::string& id, const QString& unknown) {
+    if (box->findData(shown(id)) < 0)
+        box->insertItem(0, unknown, shown(id));
+    box->setCurrentIndex(box->findData(shown(id)));
+}
+
+std::string chosen(const QComboBox* box) { return stored(box->currentData().toString()); }
+
+} // namespace
+
+ActivityDialog::ActivityDialog(Session& session, store::Activity activity, QWidget* parent)
+    : QDialog(parent), session_(session), activity_(std::move(activity)),
+      ui_(std::make_unique<Ui::ActivityDialog>()) {
+    ui_->setupUi(this);
+    setWindowTitle(activity_.id.empty() ? tr("Schedule Activity") : tr("Edit Activity"));
+    show_choices();
+    show_activity();
+    connect_parts();
+    ui_->regarding_edit->setFocus();
+}
+
+ActivityDialog::~ActivityDialog() = default;
+
+void ActivityDialog::show_choices() {
+    using store::ActivityType;
+    for (const auto type : {ActivityType::call, ActivityType::meeting, ActivityType::to_do})
+        ui_->type_box->addItem(type_icon(type), type_name(type), static_cast<int>(type));
+    for (const auto priority : {store::Priority::high, store::Priority::medium, store::Priority::low})
+        ui_->priority_box->addItem(priority_name(priority), static_cast<int>(priority));
+    for (const store::User& user : session_.directory().users())
+        ui_->user_box->addItem(shown(user.name), shown(user.id));
+    ui_->group_box->addItem(tr("None"), QString());
+    for (const store::Group& group : session_.directory().groups())
+        ui_->group_box->addItem(shown(group.name), shown(group.id));
+    ui_->date_edit->setDisplayFormat(date_pattern(session_.locale()));
+    ui_->time_edit->setDisplayFormat(time_pattern(session_.locale()));
+}
+
+void ActivityDialog::show_activity() {
+    ui_->type_box->setCurrentIndex(ui_->type_box->findData(static_cast<int>(activity_.type)));
+    ui_->priority_box->setCurrentIndex(ui_->priority_box->findData(static_cast<int>(activity_.priority)));
+    show_start();
+    ui_->duration_box->setValue(activity_.duration);
+    ui_->contact_chooser->show_contacts(activity_.contacts, session_.directory());
+    ui_->regarding_edit->setText(shown(activity_.regarding));
+    ui_->colour_box->set_colour(activity_.colour);
+    choose(ui_->user_box, activity_.user, tr("Nobody"));
+    choose(ui_->group_box, activity_.group, tr("Unknown"));
+    ui_->private_box->setChecked(activity_.is_private);
+    ui_->alarm_box->setChecked(activity_.alarm);
+    ui_->alarm_lead_box->setValue(activity_.alarm_lead);
+    ui_->alarm_lead_box->setEnabled(activity_.alarm);
+    ui_->details_edit->setPlainText(shown(activity_.details));
+    ui_->recurring_tab->show_rule(activity_.recurrence, activity_.exceptions,
+                                  activity_.start.value_or(session_.today()), session_.locale());
+}
+
+// An activity that came without a date keeps none until the user gives it one.
+void ActivityDialog::show_start() {
+    if (activity_.start) {
+        ui_->date_edit->setDate(date_of(*activity_.start));
+        ui_->time_edit->setTime(time_of(*activity_.start));
+        return;
+    }
+    ui_->date_edit->setMinimumDate(no_date);
+    ui_->date_edit->setSpecialValueText(tr("No date"));
+    ui_->date_edit->setDate(no_date);
+}
+
+void ActivityDialog::connect_parts() {
+    connect(ui_->alarm_box, &QCheckBox::toggled, ui_->alarm_lead_box, &QWidget::setEnabled);
+    connect(ui_->date_edit, &QDateEdit::dateChanged, this,
+            [this](QDate date) { ui_->recurring_tab->set_start(joined(date)); });
+}
+
+std::optional<store::DateTime> ActivityDialog::typed_start() const {
+    if (!activity_.start && ui_->date_edit->date() == no_date)
+        return std::nullopt;
+    return joined(ui_->date_edit->date(), ui_->time_edit->time());
+}
+
+store::Activity ActivityDialog::typed() const {
+    store::Activity result = activity_;
+    result.type = static_cast<store::ActivityType>(ui_->type_box->currentData().toInt());
+    result.priority = static_cast<store::Priority>(ui_->priority_box->currentData().toInt());
+    result.start = typed_start();
+    result.duration = ui_->duration_box->value();
+    const bool has_moved = result.start != activity_.start || result.duration != activity_.duration;
+    if (result.start && (has_moved || activity_.id.empty()))
+        result.end = result.start->plus_minutes(result.duration);
+    result.contacts = ui_->contact_chooser->contacts();
+    result.regarding = stored(ui_->regarding_edit->text());
+    result.colour = ui_->colour_box->colour();
+    result.user = chosen(ui_->user_box);
+    result.group = chosen(ui_->group_box);
+    result.is_private = ui_->private_box->isChecked();
+    result.alarm = ui_->alarm_box->isChecked();
+    result.alarm_lead = ui_->alarm_lead_box->value();
+    result.details = stored(ui_->details_edit->toPlainText());
+    result.recurrence = ui_->recurring_tab->rule();
+    result.exceptions = ui_->recurring_tab->exceptions();
+    if (result.contacts.empty() && (activity_.id.empty() || !activity_.contacts.empty()))
+        throw values::Failure(values::FailureNumber::automation, "Choose at least one contact for the activity.");
+    if (!result.start && result.recurrence.kind != store::RecurrenceKind::none)
+        throw values::Failure(values::FailureNumber::automation, "An activity that repeats needs a date.");
+    return result;
+}
+
+void ActivityDialog::store_typed() {
+    const store::Activity activity = typed();
+    if (activity.id.empty())
+        session_.store().add(activity);
+    else
+        session_.store().update(activity);
+}
+
+void ActivityDialog::accept() {
+    if (attempt(this, [this] { store_typed(); }))
+        QDialog::accept();
+}
+
+} // namespace windows

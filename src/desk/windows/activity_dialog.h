@@ -1,0 +1,41 @@
+#pragma once
+
+#include "windows/session.h"
+
+#include <QDialog>
+
+#include <memory>
+
+namespace Ui {
+class ActivityDialog;
+}
+
+namespace windows {
+
+// Schedules a new activity, one without an id, or edits a stored one. OK stores it; where that fails the dialog
+// stays open with what was typed.
+class ActivityDialog : public QDialog {
+    Q_OBJECT
+
+public:
+    ActivityDialog(Session& session, store::Activity activity, QWidget* parent);
+    ~ActivityDialog() override;
+
+    void accept() override;
+
+private:
+    void show_choices();
+    void show_activity();
+    void show_start();
+    void connect_parts();
+    // The record as it stands in the dialog. Fails with 440 when something is missing or contradicts itself.
+    store::Activity typed() const;
+    std::optional<store::DateTime> typed_start() const;
+    void store_typed();
+
+    Session& session_;
+    const store::Activity activity_;
+    std::unique_ptr<Ui::ActivityDialog> ui_;
+};
+
+} // namespace windows

@@ -1,0 +1,188 @@
+#include "windows/activity_list.h"
+
+#include "ui_activity_list.h"
+#include "values/failure.h"
+#include "windows/conversions.h"
+#include "windows/failure_box.h"
+#include "windows/rows.h"
+
+#include <QSignalBlocker>
+
+#include <algorithm>
+#include <tuple>
+#include <utility>
+
+namespace windows {
+namespace {
+
+// The button tells when its menu keeps something out.
+template <typename Choices>
+void mark(QPushButton* button, const QString& name, const Choices& choices) {
+    const auto shown = std::count_if(choices.begin(), choices.end(),
+                                     [](const auto& choice) { return choice.action->isChecked(); });
+    const bool is_whole = shown == static_cast<int>(choices.size());
+    button->setText(is_whole ? name : QStringLiteral("%1 (%2 of %3)").arg(name).arg(shown).arg(choices.size()));
+}
+
+template <typename Kind, typename Choices>
+std::set<Kind> checked(const Choices& choices) {
+    std::set<Kind> kinds;
+    for (const auto& choice : choices)
+        if (choice.action->isChecked())
+            kinds.insert(choice.kind);
+    return kinds;
+}
+
+} // namespace
+
+ActivityList::ActivityList(Session& session, Scope scope, QWidget* parent)
+    : QWidget(parent), session_(session), scope_(scope), ui_(std::make_unique<Ui::ActivityList>()) {
+    ui_->setupUi(this);
+    ui_->activity_table->set_columns(activity_columns(), date_column);
+    for (QDateEdit* edit : {ui_->from_edit, ui_->to_edit})
+        edit->setDisplayFormat(date_pattern(session.locale()));
+    filter_.from = filter_.to = session.today();
+    build_choices();
+    show_users();
+    show_filter();
+    connect_bar();
+    connect(&session, &Session::changed, this, [this] {
+        show_users();
+        reload_when_seen();
+    });
+    connect(ui_->activity_table, &RecordTable::opened, this, &ActivityList::opened);
+    connect(ui_->activity_table, &RecordTable::chosen, this, &ActivityList::chosen);
+}
+
+ActivityList::~ActivityList() = default;
+
+void ActivityList::build_choices() {
+    auto* types = new QMenu(this);
+    types->setObjectName("types_menu");
+    using store::ActivityType;
+    for (const auto type : {ActivityType::call, ActivityType::meeting, ActivityType::to_do})
+        types_.push_back({type, types->addAction(type_icon(type), type_name(type) + "s")});
+    ui_->types_button->setMenu(types);
+    auto* priorities = new QMenu(this);
+    priorities->setObjectName("priorities_menu");
+    for (const auto priority : {store::Priority::high, store::Priority::medium, store::Priority::low})
+        priorities_.push_back({priority, priorities->addAction(priority_name(priority))});
+    ui_->priorities_button->setMenu(priorities);
+    for (QMenu* menu : {types, priorities})
+        for (QAction* action : menu->actions()) {
+            action->setCheckable(true);
+            connect(action, &QAction::triggered, this, &ActivityList::take_filter);
+        }
+}
+
+void ActivityList::connect_bar() {
+    connect(ui_->period_box, &QComboBox::activated, this, &ActivityList::take_filter);
+    connect(ui_->from_edit, &QDateEdit::dateChanged, this, &ActivityList::take_filter);
+    connect(ui_->to_edit, &QDateEdit::dateChanged, this, &ActivityList::take_filter);
+    connect(ui_->cleared_box, &QCheckBox::clicked, this, &ActivityList::take_filter);
+    connect(ui_->user_box, &QComboBox::activated, this, [this] {
+        filter_.users = stored(ui_->user_box->currentData().toString());
+        take_filter();
+    });
+}
+
+void ActivityList::show_contact(const std::string& contact) {
+    contact_ = contact;
+    reload();
+}
+
+void ActivityList::set_filter(const ActivityFilter& filter) {
+    const auto range = std::pair(filter_.from, filter_.to);
+    filter_ = filter;
+    if (filter.period != Period::range)
+        std::tie(filter_.from, filter_.to) = range;
+    show_filter();
+    reload();
+}
+
+void ActivityList::take_filter() {
+    filter_.types = checked<store::ActivityType>(types_);
+    filter_.priorities = checked<store::Priority>(priorities_);
+    filter_.period = static_cast<Period>(ui_->period_box->currentIndex());
+    filter_.from = joined(ui_->from_edit->date());
+    filter_.to = joined(ui_->to_edit->date());
+    filter_.with_cleared = ui_->cleared_box->isChecked();
+    show_filter();
+    attempt(window(), [this] { reload(); });
+}
+
+void ActivityList::show_filter() {
+    const QSignalBlocker no_from(ui_->from_edit);
+    const QSignalBlocker no_to(ui_->to_edit);
+    for (const auto& choice : types_)
+        choice.action->setChecked(filter_.types.contains(choice.kind));
+    for (const auto& choice : priorities_)
+        choice.action->setChecked(filter_.priorities.contains(choice.kind));
+    mark(ui_->types_button, tr("Types"), types_);
+    mark(ui_->priorities_button, tr("Priorities"), priorities_);
+    ui_->period_box->setCurrentIndex(static_cast<int>(filter_.period));
+    ui_->from_edit->setDate(date_of(filter_.from));
+    ui_->to_edit->setDate(date_of(filter_.to));
+    const bool is_range = filter_.period == Period::range;
+    for (QWidget* widget : {static_cast<QWidget*>(ui_->from_edit), static_cast<QWidget*>(ui_->to_edit),
+                            static_cast<QWidget*>(ui_->to_label)})
+        widget->setVisible(is_range);
+    ui_->user_box->setCurrentIndex(ui_->user_box->findData(shown(filter_.users)));
+    ui_->cleared_box->setChecked(filter_.with_cleared);
+}
+
+void ActivityList::show_users() {
+    ui_->user_box->clear();
+    ui_->user_box->addItem(tr("Everyone"), QString());
+    for (const store::User& user : session_.directory().users())
+        ui_->user_box->addItem(shown(user.name), shown(user.id));
+    ui_->user_box->setCurrentIndex(ui_->user_box->findData(shown(filter_.users)));
+}
+
+// Everybody's activities can be many, so nobody waits for them unseen. A contact's rows are asked for from outside
+// too and are always there.
+void ActivityList::reload_when_seen() {
+    is_stale_ = scope_ == Scope::everybody && !isVisible();
+    if (!is_stale_)
+        attempt(window(), [this] { reload(); });
+}
+
+void ActivityList::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    if (is_stale_)
+        attempt(window(), [this] { reload(); });
+}
+
+void ActivityList::reload() {
+    is_stale_ = false;
+    activities_.clear();
+    const bool is_anybody = scope_ == Scope::everybody || !contact_.empty();
+    if (session_.is_open() && is_anybody)
+        activities_ = filtered(session_.store(), filter_, session_.today(),
+                               scope_ == Scope::contact ? std::optional(contact_) : std::nullopt);
+    ui_->activity_table->show_rows(activity_rows(activities_, session_.directory(), session_.locale()));
+    ui_->count_label->setText(row_count() == 1 ? tr("1 activity") : tr("%1 activities").arg(row_count()));
+}
+
+int ActivityList::row_count() const { return ui_->activity_table->row_count(); }
+
+store::Activity ActivityList::activity(int row) const {
+    const std::string id = ui_->activity_table->id_at(row);
+    const auto found = std::find_if(activities_.begin(), activities_.end(),
+                                    [&](const store::Activity& activity) { return activity.id == id; });
+    if (id.empty() || found == activities_.end())
+        throw values::Failure(values::FailureNumber::subscript_out_of_range);
+    return *found;
+}
+
+void ActivityList::select(int row, bool selected) {
+    const std::string id = activity(row).id;
+    if (selected)
+        ui_->activity_table->select(id);
+    else if (current_id() == id)
+        ui_->activity_table->clear_choice();
+}
+
+std::string ActivityList::current_id() const { return ui_->activity_table->current_id(); }
+
+} // namespace windows

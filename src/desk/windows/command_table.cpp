@@ -1,0 +1,20 @@
+#include "windows/command_table.h"
+
+#include "values/failure.h"
+
+#include <string>
+#include <utility>
+
+namespace windows {
+
+void CommandTable::add(act::CommandNumber number, Handler handler) { handlers_[number] = std::move(handler); }
+
+void CommandTable::run(act::CommandNumber number, Finished finished) const {
+    const auto handler = handlers_.find(number);
+    if (handler == handlers_.end())
+        throw values::Failure(values::FailureNumber::automation,
+                              "The contact desk has no command " + std::to_string(static_cast<int>(number)) + ".");
+    handler->second(std::move(finished));
+}
+
+} // namespace windows

@@ -1,0 +1,114 @@
+#include "windows/database_commands.h"
+
+#include "windows/conversions.h"
+#include "windows/failure_box.h"
+#include "windows/sample_file.h"
+
+#include <QFileDialog>
+#include <QInputDialog>
+#include <QMessageBox>
+
+#include <filesystem>
+
+namespace windows {
+namespace {
+
+QString tr(const char* text) { return QCoreApplication::translate("windows::DatabaseCommands", text); }
+
+QString databases() { return tr("Contact databases (*.desk);;All files (*)"); }
+
+QString folder_of(const std::string& path) { return shown(std::filesystem::path(path).parent_path().string()); }
+
+std::string absolute(const QString& path) { return QFileInfo(path).absoluteFilePath().toStdString(); }
+
+} // namespace
+
+DatabaseCommands::DatabaseCommands(Session& session, Lookup& lookup, QWidget& window, Import import)
+    : session_(session), lookup_(lookup), window_(window), import_(std::move(import)) {}
+
+void DatabaseCommands::open(const std::string& path) {
+    if (leave())
+        attempt(&window_, [&] { session_.open(path); });
+}
+
+void DatabaseCommands::open_another() {
+    const QString file =
+        QFileDialog::getOpenFileName(&window_, tr("Open Database"), folder_of(session_.path()), databases());
+    if (!file.isEmpty())
+        open(absolute(file));
+}
+
+// A file that is there already isn't overwritten: making the database fails then, which is told.
+QString DatabaseCommands::ask_new_file(const QString& title, const QString& suggestion) {
+    QFileDialog dialog(&window_, title, folder_of(session_.path()), databases());
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setOption(QFileDialog::DontConfirmOverwrite);
+    dialog.setDefaultSuffix("desk");
+    dialog.selectFile(suggestion);
+    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+}
+
+void DatabaseCommands::create() {
+    const QString file = ask_new_file(tr("New Database"), "contacts.desk");
+    if (file.isEmpty() || !leave())
+        return;
+    const QString user = QInputDialog::getText(&window_, tr("New Database"), tr("Name of the first user:"),
+                                               QLineEdit::Normal, qEnvironmentVariable("USER"))
+                             .trimmed();
+    if (!user.isEmpty())
+        attempt(&window_, [&] { make(absolute(file), stored(user)); });
+}
+
+// Activities are scheduled for users, so a database begins with one.
+void DatabaseCommands::make(const std::string& path, const std::string& user) {
+    session_.create(path);
+    session_.store().add(store::User{{}, user, "Administrator", "Enabled"});
+    session_.refresh();
+}
+
+void DatabaseCommands::create_sample() {
+    const QString file = ask_new_file(tr("New Sample Database"), "sample.desk");
+    if (file.isEmpty() || !leave())
+        return;
+    attempt(&window_, [&] {
+        windows::create_sample(absolute(file), session_.today());
+        session_.open(absolute(file));
+    });
+}
+
+void DatabaseCommands::import_file() {
+    const QString file = QFileDialog::getOpenFileName(
+        &window_, tr("Import"), QString(), tr("Calendars and address cards (*.ics *.vcf);;All files (*)"));
+    if (file.isEmpty())
+        return;
+    attempt(&window_, [&] {
+        const std::string result = import_(session_.store(), absolute(file));
+        session_.refresh();
+        QMessageBox::information(&window_, tr("Import"), shown(result));
+    });
+}
+
+void DatabaseCommands::close() {
+    if (leave())
+        attempt(&window_, [this] { session_.close(); });
+}
+
+void DatabaseCommands::add_user() {
+    const QString name = QInputDialog::getText(&window_, tr("Add User"), tr("Name of the user:")).trimmed();
+    if (name.isEmpty())
+        return;
+    attempt(&window_, [&] {
+        session_.store().add(store::User{{}, stored(name), "Standard", "Enabled"});
+        session_.refresh();
+    });
+}
+
+bool DatabaseCommands::leave() {
+    if (!lookup_.before_leaving || attempt(&window_, lookup_.before_leaving))
+        return true;
+    return QMessageBox::question(
+               &window_, tr("Unsaved Changes"), tr("What was typed couldn't be stored. Go on without it?"),
+               QMessageBox::Discard | QMessageBox::Cancel, QMessageBox::Cancel) == QMessageBox::Discard;
+}
+
+} // namespace windows

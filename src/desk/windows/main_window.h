@@ -1,0 +1,76 @@
+#pragma once
+
+#include "windows/activity_commands.h"
+#include "windows/command_table.h"
+#include "windows/database_commands.h"
+#include "windows/running_desk.h"
+
+#include <QActionGroup>
+#include <QLabel>
+#include <QMainWindow>
+#include <QTimer>
+
+#include <functional>
+#include <memory>
+#include <string>
+
+namespace Ui {
+class MainWindow;
+}
+
+namespace windows {
+
+class ActivityList;
+class ContactPage;
+
+// The contact desk's window: a database, its views and the menus.
+class MainWindow : public QMainWindow {
+    Q_OBJECT
+
+public:
+    MainWindow(Session& session, Import import);
+    ~MainWindow() override;
+
+    // Opens a database. A failure shows its box, and what was open stays so.
+    void open(const std::string& path) { database_commands_.open(path); }
+
+    service::Desk& desk() { return *desk_; }
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    void build_views();
+    void connect_file_menu();
+    void connect_contact_menu();
+    void connect_schedule_menu();
+    void connect_view_menu();
+    void fill_commands();
+    void on(QAction* action, std::function<void()> work); // with the box for failures
+
+    void about();
+
+    void show_view(QWidget* view);
+    void show_contact(const std::string& contact);
+    void show_state(); // title, record count, which commands can be given
+    ActivityList& shown_activities();
+    void look_for_changes();
+
+    Session& session_;
+    std::unique_ptr<Ui::MainWindow> ui_;
+    Lookup lookup_;
+    ActivityCommands activity_commands_;
+    DatabaseCommands database_commands_;
+    CommandTable commands_;
+    QActionGroup view_actions_;
+    QTimer poll_;
+    bool is_poll_failing_ = false; // told already
+    QLabel* count_label_;
+    QWidget* contact_list_;
+    ContactPage* contact_page_;
+    ActivityList* task_list_;
+    QWidget* groups_;
+    std::unique_ptr<RunningDesk> desk_;
+};
+
+} // namespace windows

@@ -1,0 +1,36 @@
+#include "windows/membership.h"
+
+#include "values/failure.h"
+
+#include <algorithm>
+
+namespace windows {
+namespace {
+
+template <typename Change>
+void change_group(Session& session, const std::string& id, Change&& change) {
+    session.store().together([&] {
+        auto group = session.store().group(id);
+        if (!group)
+            throw values::Failure(values::FailureNumber::automation, "The group isn't in the database any more.");
+        change(group->contacts);
+        session.store().update(*group);
+    });
+    session.refresh();
+}
+
+} // namespace
+
+void add_members(Session& session, const std::string& group, const std::vector<std::string>& contacts) {
+    change_group(session, group, [&](std::vector<std::string>& members) {
+        for (const std::string& contact : contacts)
+            if (std::find(members.begin(), members.end(), contact) == members.end())
+                members.push_back(contact);
+    });
+}
+
+void remove_member(Session& session, const std::string& group, const std::string& contact) {
+    change_group(session, group, [&](std::vector<std::string>& members) { std::erase(members, contact); });
+}
+
+} // namespace windows

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "windows/session.h"
+
+#include <string>
+#include <vector>
+
+namespace windows {
+
+// Puts contacts into a group; those that are in it already stay single. Failures are the store's, and the group
+// may have gone: that fails with 440.
+void add_members(Session& session, const std::string& group, const std::vector<std::string>& contacts);
+void remove_member(Session& session, const std::string& group, const std::string& contact);
+
+} // namespace windows

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "store/toolbar_commands.h"
+#include "windows/session.h"
+
+namespace windows {
+
+// The toolbar commands of whichever database is open. Without one every member fails with 440.
+class OpenToolbarCommands : public store::ToolbarCommands {
+public:
+    explicit OpenToolbarCommands(const Session& session) : session_(session) {}
+
+    std::vector<store::ToolbarCommand> all() override { return commands().all(); }
+    std::vector<store::ToolbarCommand> at(store::CommandPlace place, int view) override {
+        return commands().at(place, view);
+    }
+    bool exists(const std::string& name) override { return commands().exists(name); }
+    void add(const store::ToolbarCommand& command) override { commands().add(command); }
+    bool stands(const std::string& name, store::CommandPlace place, int view) override {
+        return commands().stands(name, place, view);
+    }
+    bool place(const std::string& name, store::CommandPlace place, int view) override {
+        return commands().place(name, place, view);
+    }
+    bool displace(const std::string& name, store::CommandPlace place, int view) override {
+        return commands().displace(name, place, view);
+    }
+
+private:
+    store::ToolbarCommands& commands() const { return session_.store().toolbar_commands(); }
+
+    const Session& session_;
+};
+
+} // namespace windows

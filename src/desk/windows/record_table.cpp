@@ -1,0 +1,109 @@
+#include "windows/record_table.h"
+
+#include "windows/conversions.h"
+
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QScrollBar>
+
+#include <algorithm>
+
+namespace windows {
+
+RecordTable::RecordTable(QWidget* parent) : QTableView(parent) {
+    setAlternatingRowColors(true);
+    setSelectionBehavior(SelectRows);
+    setSelectionMode(SingleSelection);
+    setEditTriggers(NoEditTriggers);
+    setShowGrid(false);
+    setWordWrap(false);
+    setTabKeyNavigation(false);
+    setHorizontalScrollMode(ScrollPerPixel);
+    verticalHeader()->hide();
+    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 8);
+    horizontalHeader()->setHighlightSections(false);
+    horizontalHeader()->setStretchLastSection(true);
+    sorted_.setSortRole(RecordModel::order_role);
+    sorted_.setSortLocaleAware(true);
+    sorted_.setSortCaseSensitivity(Qt::CaseInsensitive);
+    connect(this, &QTableView::doubleClicked, this, [this] { emit opened(current_id()); });
+}
+
+void RecordTable::set_columns(std::vector<Column> columns, int sorted_by) {
+    model_ = new RecordModel(std::move(columns), this);
+    sorted_.setSourceModel(model_);
+    setModel(&sorted_);
+    setSortingEnabled(true);
+    sortByColumn(sorted_by, Qt::AscendingOrder);
+}
+
+void RecordTable::show_rows(std::vector<Row> rows) {
+    const std::string kept = current_id();
+    const int scrolled = verticalScrollBar()->value();
+    is_replacing_ = true;
+    model_->show_rows(std::move(rows));
+    select(kept);
+    verticalScrollBar()->setValue(scrolled);
+    is_replacing_ = false;
+    fit_columns();
+    if (current_id() != kept)
+        emit chosen(current_id());
+}
+
+int RecordTable::row_count() const { return sorted_.rowCount(); }
+
+std::string RecordTable::id_at(int row) const {
+    return stored(sorted_.index(row, 0).data(RecordModel::id_role).toString());
+}
+
+std::string RecordTable::current_id() const {
+    return stored(selectionModel()->currentIndex().data(RecordModel::id_role).toString());
+}
+
+std::vector<std::string> RecordTable::selected_ids() const {
+    std::vector<std::string> ids;
+    for (int row = 0; row < row_count(); ++row)
+        if (selectionModel()->isRowSelected(row, {}))
+            ids.push_back(id_at(row));
+    return ids;
+}
+
+bool RecordTable::select(const std::string& id) {
+    for (int row = 0; row < row_count(); ++row)
+        if (id_at(row) == id) {
+            setCurrentIndex(sorted_.index(row, 0));
+            return true;
+        }
+    return false;
+}
+
+void RecordTable::clear_choice() { setCurrentIndex({}); }
+
+void RecordTable::keyPressEvent(QKeyEvent* event) {
+    const bool is_enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (is_enter && !current_id().empty())
+        emit opened(current_id());
+    else
+        QTableView::keyPressEvent(event);
+}
+
+void RecordTable::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
+    QTableView::currentChanged(current, previous);
+    const bool is_same_row = current.isValid() && previous.isValid() && current.row() == previous.row();
+    if (!is_replacing_ && !is_same_row)
+        emit chosen(current_id());
+}
+
+// Once, on the first rows; from then on the widths belong to the user.
+void RecordTable::fit_columns() {
+    if (are_columns_fitted_ || row_count() == 0)
+        return;
+    are_columns_fitted_ = true;
+    resizeColumnsToContents();
+    const int widest = fontMetrics().averageCharWidth() * 30;
+    const int air = fontMetrics().averageCharWidth() * 2;
+    for (int column = 0; column < sorted_.columnCount(); ++column)
+        setColumnWidth(column, std::min(columnWidth(column) + air, widest));
+}
+
+} // namespace windows

@@ -1,0 +1,57 @@
+#pragma once
+
+#include "store/records.h"
+#include "values/locale.h"
+
+#include <QCheckBox>
+#include <QWidget>
+
+#include <memory>
+#include <set>
+#include <vector>
+
+namespace Ui {
+class RecurrencePage;
+}
+
+namespace windows {
+
+// How an activity repeats, and the dates on which it doesn't.
+class RecurrencePage : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit RecurrencePage(QWidget* parent = nullptr);
+    ~RecurrencePage() override;
+
+    // Called once, before the page is shown. A kind that is chosen afterwards begins with the start's own weekday
+    // or day.
+    void show_rule(const store::Recurrence& rule, const std::vector<store::DateTime>& exceptions,
+                   store::DateTime start, const values::Locale& locale);
+    void set_start(store::DateTime start) { start_ = start; }
+
+    // The rule as it stands. Fails with 440 when it can't bring forth a date: no day is chosen, or the end lies
+    // before the start.
+    store::Recurrence rule() const;
+    std::vector<store::DateTime> exceptions() const; // rising; none when the activity doesn't repeat
+
+private:
+    std::vector<QCheckBox*> add_ticks(QWidget* page, const QStringList& names, int columns);
+    void build_ticks(const values::Locale& locale);
+    void connect_parts();
+    void show_kind();
+    void suggest();
+    void show_exceptions();
+    store::RecurrenceKind kind() const;
+
+    std::unique_ptr<Ui::RecurrencePage> ui_;
+    std::vector<QCheckBox*> weekly_days_; // [0] Sunday
+    std::vector<QCheckBox*> month_days_;  // [0] the 1st
+    std::vector<QCheckBox*> month_weeks_;
+    std::vector<QCheckBox*> month_weekdays_;
+    std::set<store::DateTime> exceptions_;
+    store::DateTime start_;
+    QString date_pattern_;
+};
+
+} // namespace windows

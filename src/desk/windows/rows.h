@@ -1,0 +1,33 @@
+#pragma once
+
+#include "store/records.h"
+#include "values/locale.h"
+#include "windows/directory.h"
+#include "windows/record_model.h"
+
+#include <string>
+#include <vector>
+
+// The records as rows of the tables, each with its columns.
+namespace windows {
+
+std::vector<Column> contact_columns();
+// Unknown ids are left out.
+std::vector<Row> contact_rows(const std::vector<std::string>& contacts, const Directory& directory);
+
+inline constexpr int date_column = 1; // of the activities
+std::vector<Column> activity_columns();
+std::vector<Row> activity_rows(const std::vector<store::Activity>& activities, const Directory& directory,
+                               const values::Locale& locale);
+
+std::vector<Column> note_columns();
+std::vector<Row> note_rows(const std::vector<store::Note>& notes, const values::Locale& locale);
+
+std::vector<Column> group_columns();
+std::vector<Row> group_rows(const std::vector<store::Group>& groups);
+
+QString type_name(store::ActivityType type);
+QString priority_name(store::Priority priority);
+QIcon type_icon(store::ActivityType type);
+
+} // namespace windows

@@ -1,0 +1,58 @@
+#include "windows/running_desk.h"
+
+#include "windows/activity_list.h"
+#include "windows/contact_page.h"
+
+#include <filesystem>
+
+namespace windows {
+
+RunningDesk::RunningDesk(Session& session, Lookup& lookup, ContactPage& page, const CommandTable& commands)
+    : session_(session), lookup_(lookup), page_(page), commands_(commands) {
+    QObject::connect(&session, &Session::closed, &page, [this] {
+        if (on_database_closed)
+            on_database_closed();
+    });
+}
+
+std::string RunningDesk::database_path() const {
+    return session_.is_open() ? std::filesystem::absolute(session_.path()).string() : std::string();
+}
+
+void RunningDesk::run_command(act::CommandNumber number, std::function<void()> finished) {
+    commands_.run(number, std::move(finished));
+}
+
+std::string RunningDesk::active_tab() const { return page_.active_tab(); }
+
+void RunningDesk::set_active_tab(const std::string& name) { page_.set_active_tab(name); }
+
+void RunningDesk::create_lookup(const std::vector<std::string>& contacts) {
+    session_.refresh();
+    lookup_.show(contacts);
+}
+
+int RunningDesk::contact_count() const { return static_cast<int>(lookup_.contacts().size()); }
+
+// The caller may have written a moment ago, so the desk looks at the database before it answers.
+std::string RunningDesk::go_to(const std::string& contact) {
+    session_.refresh();
+    lookup_.go_to(contact);
+    return lookup_.current();
+}
+
+act::ListFilter RunningDesk::activity_filter() const {
+    return codes_of(page_.activities().filter(), session_.locale());
+}
+
+void RunningDesk::set_activity_filter(const act::ListFilter& filter) {
+    page_.activities().set_filter(filter_of(filter, session_.locale()));
+}
+
+int RunningDesk::activity_count() const { return page_.activities().row_count(); }
+
+store::Activity RunningDesk::activity(int row) const { return page_.activities().activity(row); }
+
+void RunningDesk::select_activity(int row, bool selected) { page_.activities().select(row, selected); }
+
+} // namespace windows

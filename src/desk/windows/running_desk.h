@@ -1,0 +1,38 @@
+#pragma once
+
+#include "service/desk.h"
+#include "windows/command_table.h"
+#include "windows/lookup.h"
+
+namespace windows {
+
+class ContactPage;
+
+// The windows as other programs see them.
+class RunningDesk : public service::Desk, private service::ContactView {
+public:
+    RunningDesk(Session& session, Lookup& lookup, ContactPage& page, const CommandTable& commands);
+
+    std::string database_path() const override;
+    service::ContactView& contact_view() override { return *this; }
+    void run_command(act::CommandNumber number, std::function<void()> finished) override;
+
+private:
+    std::string active_tab() const override;
+    void set_active_tab(const std::string& name) override;
+    void create_lookup(const std::vector<std::string>& contacts) override;
+    int contact_count() const override;
+    std::string go_to(const std::string& contact) override;
+    act::ListFilter activity_filter() const override;
+    void set_activity_filter(const act::ListFilter& filter) override;
+    int activity_count() const override;
+    store::Activity activity(int row) const override;
+    void select_activity(int row, bool selected) override;
+
+    Session& session_;
+    Lookup& lookup_;
+    ContactPage& page_;
+    const CommandTable& commands_;
+};
+
+} // namespace windows

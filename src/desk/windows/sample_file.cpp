@@ -1,0 +1,22 @@
+#include "windows/sample_file.h"
+
+#include "store/sample.h"
+#include "store/store.h"
+
+#include <filesystem>
+
+namespace windows {
+
+void create_sample(const std::string& path, values::DateTime day) {
+    auto store = store::Store::create(path);
+    try {
+        store->together([&] { store::fill_sample(*store, day); });
+    } catch (...) {
+        store.reset();
+        std::error_code ignored; // the failure that is under way says more
+        std::filesystem::remove(path, ignored);
+        throw;
+    }
+}
+
+} // namespace windows

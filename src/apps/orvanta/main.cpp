@@ -1,0 +1,55 @@
+#include "adapters/qt/appearance.h"
+#include "adapters/qt/clock.h"
+#include "adapters/qt/files.h"
+#include "adapters/qt/folders.h"
+#include "adapters/qt/locale.h"
+#include "adapters/qt/message_box.h"
+#include "adapters/qt/shell.h"
+#include "adapters/qt/user_store.h"
+#include "host/deployment.h"
+#include "main_window/frm_main.h"
+#include "orvanta/desk_server.h"
+#include "orvanta/process.h"
+
+#include <QApplication>
+#include <QDBusConnection>
+
+int main(int argc, char** argv) {
+    QApplication application(argc, argv);
+    const host::ApplicationInfo& info = host::application_info();
+    QApplication::setApplicationName(QString::fromStdString(info.title));
+    QGuiApplication::setDesktopFileName("orvanta");
+    QApplication::setQuitOnLastWindowClosed(false); // the program says itself when it ends
+    qt::dress(application);
+
+    const values::Locale locale = qt::system_locale();
+    const auto box = qt::make_message_box();
+    const auto clock = qt::make_clock();
+    const auto tmrRefresh = qt::make_timer();
+    const auto tmr2 = qt::make_timer();
+    const auto shell = qt::make_shell();
+    const auto files = qt::make_files();
+    const auto user_store = qt::make_user_store(*files);
+    const auto folders = qt::make_folders();
+    apps::Process process;
+    const auto link = desk::make_link(QDBusConnection::sessionBus());
+    apps::DeskServer server(link, locale);
+    const auto ActEvent1 = desk::make_event_control(link);
+
+    ui::frmMain window({.application = info,
+                        .locale = locale,
+                        .box = *box,
+                        .clock = *clock,
+                        .tmrRefresh = *tmrRefresh,
+                        .tmr2 = *tmr2,
+                        .shell = *shell,
+                        .user_store = *user_store,
+                        .files = *files,
+                        .folders = *folders,
+                        .program = process,
+                        .server = server,
+                        .ActEvent1 = *ActEvent1});
+    QMetaObject::invokeMethod(
+        &window, [&window] { window.load(); }, Qt::QueuedConnection);
+    return QApplication::exec();
+}

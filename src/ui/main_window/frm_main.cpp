@@ -1,0 +1,116 @@
+#include "main_window/frm_main.h"
+
+#include "ui_frmMain.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QThread>
+#include <QTimer>
+
+namespace ui {
+
+namespace {
+
+constexpr int retry_milliseconds = 20;
+
+std::unique_ptr<Ui::frmMain> make_controls(QMainWindow& window) {
+    auto controls = std::make_unique<Ui::frmMain>();
+    controls->setupUi(&window);
+    return controls;
+}
+
+// Inside a loop of its own, such as a box's, somebody waits whom the end must not surprise.
+bool a_procedure_waits() { return QThread::currentThread()->loopLevel() > 1; }
+
+} // namespace
+
+frmMain::frmMain(const shell::Platform& platform)
+    : controls_(make_controls(*this)), face_(*this, *controls_, [this] { unload(); }), calendar_(face_, platform),
+      msgSched_(std::make_unique<GridWidget>(calendar_.grid.msgSched, controls_->picForm)) {
+    msgSched_->setObjectName("msgSched");
+    msgSched_->setFocus();
+    face_.msgSched = msgSched_.get();
+    calendar_.grid.msgSched.add_observer(*this);
+    connect_menu();
+}
+
+frmMain::~frmMain() { calendar_.grid.msgSched.remove_observer(*this); }
+
+void frmMain::connect_menu() {
+    shell::MenuCommands& menu = calendar_.menu;
+    connect(controls_->mnuRefresh, &QAction::triggered, this, [&menu] { menu.mnuRefresh_Click(); });
+    connect(controls_->mnuFullRefresh, &QAction::triggered, this, [&menu] { menu.mnuFullRefresh_Click(); });
+    connect(controls_->mnuExit, &QAction::triggered, this, [this] { calendar_.closing.mnuExit_Click(); });
+    connect(controls_->mnuAbout, &QAction::triggered, this, [&menu] { menu.mnuAbout_Click(); });
+}
+
+void frmMain::load() {
+    calendar_.start_up.Form_Load();
+    if (is_unloading_)
+        return;
+    show();
+    // A desktop may show the window without making it the active one.
+    calendar_.start_up.Form_Activate();
+}
+
+void frmMain::unload() {
+    if (is_unloading_)
+        return;
+    is_unloading_ = true;
+    finish_unload();
+}
+
+void frmMain::finish_unload() {
+    if (!a_procedure_waits()) {
+        calendar_.closing.Form_Unload();
+        return;
+    }
+    if (QWidget* box = QApplication::activeModalWidget())
+        box->close();
+    QTimer::singleShot(retry_milliseconds, this, [this] { finish_unload(); });
+}
+
+void frmMain::closeEvent(QCloseEvent* event) {
+    event->ignore(); // Form_Unload decides when the program ends
+    unload();
+}
+
+void frmMain::resizeEvent(QResizeEvent* event) {
+    QMainWindow::resizeEvent(event);
+    calendar_.sizing.Form_Resize();
+}
+
+bool frmMain::event(QEvent* event) {
+    const bool taken = QMainWindow::event(event);
+    if (event->type() == QEvent::WindowActivate)
+        calendar_.start_up.Form_Activate();
+    return taken;
+}
+
+void frmMain::grid_changed(grid::GridChange) {
+    if (update_is_due_)
+        return;
+    update_is_due_ = true;
+    QMetaObject::invokeMethod(
+        this, [this] { update_controls(); }, Qt::QueuedConnection);
+}
+
+void frmMain::update_controls() {
+    update_is_due_ = false;
+    controls_->lblYear->setText(QString::fromStdString(calendar_.grid.layout.lblYear));
+
+    const act::ItemList& users = calendar_.users.cboUsers;
+    QStringList names;
+    for (int index = 0; index < users.ListCount(); ++index)
+        names << QString::fromStdString(users.List(index));
+    QStringList shown;
+    for (int index = 0; index < controls_->cboUsers->count(); ++index)
+        shown << controls_->cboUsers->itemText(index);
+    if (names == shown)
+        return;
+    controls_->cboUsers->clear();
+    controls_->cboUsers->addItems(names);
+    controls_->cboUsers->setCurrentIndex(users.ListIndex());
+}
+
+} // namespace ui

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "grid/grid_model.h"
+#include "grid_widget/grid_widget.h"
+#include "main_window/window_face.h"
+#include "shell/calendar.h"
+
+#include <QMainWindow>
+
+#include <memory>
+
+namespace ui {
+
+// The main window: the calendar's controls, grid and menu. It raises its events on the parts of the calendar and
+// shows what they set.
+class frmMain : public QMainWindow, private grid::GridObserver {
+public:
+    explicit frmMain(const shell::Platform& platform);
+    ~frmMain() override;
+
+    // Brings the calendar up, and shows the window unless the start was stopped. Called from the event loop, so
+    // that it can end it.
+    void load();
+    // Raises Form_Unload, the first time; while a procedure waits in a box, once that is over, and closes the box.
+    void unload();
+
+    const WindowFace& face() const { return face_; }
+    shell::Calendar& calendar() { return calendar_; }
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    bool event(QEvent* event) override;
+
+private:
+    void connect_menu();
+    void finish_unload();
+    void grid_changed(grid::GridChange change) override;
+    // Takes over what the calendar keeps for controls of the window: the year's caption and the users.
+    void update_controls();
+
+    std::unique_ptr<Ui::frmMain> controls_;
+    WindowFace face_;
+    shell::Calendar calendar_;
+    std::unique_ptr<GridWidget> msgSched_;
+    bool is_unloading_ = false;
+    bool update_is_due_ = false;
+};
+
+} // namespace ui

@@ -1,0 +1,115 @@
+#include "main_window/window_face.h"
+
+#include "grid_widget/grid_style.h"
+#include "ui_frmMain.h"
+
+#include <QGuiApplication>
+#include <QScreen>
+#include <QWindow>
+
+#include <algorithm>
+
+namespace ui {
+
+namespace {
+
+constexpr int margin_below_labels = 4; // pixels
+
+int twips(int pixels) { return pixels * twips_per_pixel; }
+int pixels(int twips) { return qRound(static_cast<double>(twips) / twips_per_pixel); }
+
+} // namespace
+
+WindowFace::WindowFace(QMainWindow& window, Ui::frmMain& controls, std::function<void()> unload)
+    : chkView{controls.chkView_0, controls.chkView_1}, chkAMPM{controls.chkAMPM_0, controls.chkAMPM_1},
+      window_(window), controls_(controls), unload_(std::move(unload)) {}
+
+// The frame's corner and the size inside the frame, as move and resize take them.
+QRect WindowFace::normal_place() const {
+    if (!(window_.windowState() & (Qt::WindowMinimized | Qt::WindowMaximized)))
+        return {window_.pos(), window_.size()};
+    const QPoint frame = window_.geometry().topLeft() - window_.frameGeometry().topLeft();
+    const QRect normal = window_.normalGeometry();
+    return {normal.topLeft() - frame, normal.size()};
+}
+
+int WindowFace::left() const { return twips(normal_place().x()); }
+int WindowFace::top() const { return twips(normal_place().y()); }
+int WindowFace::width() const { return twips(normal_place().width()); }
+int WindowFace::height() const { return twips(normal_place().height()); }
+void WindowFace::set_left(int twips) { window_.move(pixels(twips), window_.y()); }
+void WindowFace::set_top(int twips) { window_.move(window_.x(), pixels(twips)); }
+void WindowFace::set_size(int width, int height) { window_.resize(pixels(width), pixels(height)); }
+int WindowFace::screen_width() const { return twips(window_.screen()->size().width()); }
+int WindowFace::screen_height() const { return twips(window_.screen()->size().height()); }
+
+shell::WindowState WindowFace::window_state() const {
+    if (window_.isMinimized())
+        return shell::WindowState::minimised;
+    return window_.isMaximized() ? shell::WindowState::maximised : shell::WindowState::normal;
+}
+
+void WindowFace::set_window_state(shell::WindowState state) {
+    switch (state) {
+    case shell::WindowState::normal:
+        window_.setWindowState(Qt::WindowNoState);
+        break;
+    case shell::WindowState::minimised:
+        window_.setWindowState(Qt::WindowMinimized);
+        break;
+    case shell::WindowState::maximised:
+        window_.setWindowState(Qt::WindowMaximized);
+        break;
+    }
+}
+
+void WindowFace::hide() { window_.hide(); }
+
+int WindowFace::present_width() const { return twips(window_.width()); }
+int WindowFace::present_height() const { return twips(window_.height()); }
+
+// The bar stands above the year and the grid below it, all as wide as the grid and in the middle of the window.
+void WindowFace::set_grid_size(int width, int height) {
+    const QSize size(std::max(pixels(width), 0), std::max(pixels(height), 0));
+    const int left = (controls_.picForm->width() - size.width()) / 2;
+    controls_.picBar->setGeometry(left, controls_.picBar->y(), size.width(), controls_.picBar->height());
+    controls_.lblYear->move(left, controls_.lblYear->y());
+    if (msgSched)
+        msgSched->setGeometry({{left, controls_.lblYear->geometry().bottom() + 1 + margin_below_labels}, size});
+}
+
+void WindowFace::set_lblYear_width(int width) {
+    controls_.lblYear->resize(std::max(pixels(width), 0), controls_.lblYear->height());
+}
+
+void WindowFace::set_chkView(int index, bool checked) {
+    chkView[static_cast<std::size_t>(index)]->setChecked(checked);
+}
+
+void WindowFace::fill_cboGoTo(std::span<const std::string_view> entries) {
+    controls_.cboGoTo->clear();
+    for (const std::string_view entry : entries)
+        controls_.cboGoTo->addItem(QString::fromUtf8(entry.data(), static_cast<qsizetype>(entry.size())));
+}
+
+void WindowFace::set_cboGoTo_lines(int lines) { controls_.cboGoTo->setMaxVisibleItems(lines); }
+
+// Windows of other programs aren't told.
+std::uintptr_t WindowFace::foreground_window() const {
+    const QWindow* window = QGuiApplication::focusWindow();
+    return window ? window->winId() : 0;
+}
+
+void WindowFace::lock_updates() { window_.setUpdatesEnabled(false); }
+void WindowFace::unlock_updates() { window_.setUpdatesEnabled(true); }
+void WindowFace::show_hourglass() { window_.setCursor(Qt::WaitCursor); }
+void WindowFace::show_default_pointer() { window_.unsetCursor(); }
+
+void WindowFace::bring_to_front() {
+    if (!window_.isVisible())
+        return;
+    window_.raise();
+    window_.activateWindow();
+}
+
+} // namespace ui

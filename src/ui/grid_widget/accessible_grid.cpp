@@ -137,9 +137,8 @@ QAccessibleInterface* make_accessible(const QString&, QObject* object) {
 
 void install_grid_accessibility() { QAccessible::installFactory(make_accessible); }
 
-void tell_screen_readers(GridWidget& widget, const GridNews& news) {
-    if (!QAccessible::isActive())
-        return;
+void tell_screen_readers(GridWidget& widget, const GridNews& news,
+                         const std::function<void(QAccessibleEvent*)>& tell) {
     const grid::GridModel& model = widget.model();
     if (news.size || news.cells) {
         QAccessibleTableModelChangeEvent event(&widget, news.size ? QAccessibleTableModelChangeEvent::ModelReset
@@ -148,17 +147,17 @@ void tell_screen_readers(GridWidget& widget, const GridNews& news) {
         event.setLastRow(model.Rows() - 1);
         event.setFirstColumn(0);
         event.setLastColumn(model.Cols() - 1);
-        QAccessible::updateAccessibility(&event);
+        tell(&event);
     }
     if (!news.current)
         return;
     QAccessibleInterface* table = QAccessible::queryAccessibleInterface(&widget);
     QAccessibleInterface* cell = table->tableInterface()->cellAt(model.Row(), model.Col());
     QAccessibleEvent selection(cell, QAccessible::Selection);
-    QAccessible::updateAccessibility(&selection);
+    tell(&selection);
     if (widget.hasFocus()) {
         QAccessibleEvent focus(cell, QAccessible::Focus);
-        QAccessible::updateAccessibility(&focus);
+        tell(&focus);
     }
 }
 

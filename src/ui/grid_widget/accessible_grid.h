@@ -1,5 +1,9 @@
 #pragma once
 
+#include <QAccessible>
+
+#include <functional>
+
 namespace ui {
 
 class GridWidget;
@@ -15,7 +19,8 @@ struct GridNews {
 // ones as headers; texts, current cell and selection.
 void install_grid_accessibility();
 
-// Tells screen readers, if any listens, what has changed.
-void tell_screen_readers(GridWidget& widget, const GridNews& news);
+// Tells what has changed, to screen readers unless to somebody else. Worth its while only when one listens.
+void tell_screen_readers(GridWidget& widget, const GridNews& news,
+                         const std::function<void(QAccessibleEvent*)>& tell = QAccessible::updateAccessibility);
 
 } // namespace ui

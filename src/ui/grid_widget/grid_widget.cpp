@@ -4,6 +4,7 @@
 #include "grid_widget/cursor_keys.h"
 #include "grid_widget/grid_style.h"
 
+#include <QAccessible>
 #include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QPainter>
@@ -77,7 +78,8 @@ void GridWidget::settle() {
     if (shape_changed_)
         sync_scroll_bars();
     const QSize size(model_.Cols(), model_.Rows());
-    tell_screen_readers(*this, {cells_changed_, size != told_size_, current_changed_});
+    if (QAccessible::isActive())
+        tell_screen_readers(*this, {cells_changed_, size != told_size_, current_changed_});
     told_size_ = size;
     cells_changed_ = shape_changed_ = current_changed_ = false;
     viewport()->update();
@@ -173,7 +175,8 @@ void GridWidget::changeEvent(QEvent* event) {
 
 void GridWidget::focusInEvent(QFocusEvent* event) {
     QAbstractScrollArea::focusInEvent(event);
-    tell_screen_readers(*this, {.current = true});
+    if (QAccessible::isActive())
+        tell_screen_readers(*this, {.current = true});
     viewport()->update();
 }
 

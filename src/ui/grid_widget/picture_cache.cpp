@@ -14,7 +14,7 @@ namespace {
 
 QByteArray contents(const QString& path) {
     QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    return !path.isEmpty() && file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 QSize bounded(QSize size) {

@@ -1,0 +1,158 @@
+#include "grid_widget/accessible_grid.h"
+
+#include "ui/grid_widget/sample_grid.h"
+
+#include <QAccessible>
+#include <QAccessibleTableInterface>
+#include <gtest/gtest.h>
+
+namespace {
+
+struct Told {
+    QAccessible::Event type;
+    int row = -1, col = -1; // of the cell
+    bool reset = false;
+    bool operator==(const Told&) const = default;
+};
+// The grid as a screen reader sees it.
+struct ReadGrid : ShownGrid {
+    QAccessibleInterface* node() const { return QAccessible::queryAccessibleInterface(widget.get()); }
+    QAccessibleTableInterface* table() const { return node()->tableInterface(); }
+
+    std::vector<Told> tell(const ui::GridNews& news) const {
+        std::vector<Told> all;
+        ui::tell_screen_readers(*widget, news, [&all](QAccessibleEvent* event) {
+            Told told{event->type()};
+            QAccessibleInterface* about = event->accessibleInterface();
+            if (const auto* cell = about->tableCellInterface()) {
+                told.row = cell->rowIndex();
+                told.col = cell->columnIndex();
+            } else {
+                auto* change = static_cast<QAccessibleTableModelChangeEvent*>(event);
+                told.reset = change->modelChangeType() == QAccessibleTableModelChangeEvent::ModelReset;
+                about->tableInterface()->modelChange(change);
+            }
+            all.push_back(told);
+        });
+        return all;
+    }
+};
+
+TEST(AccessibleGrid, IsATableOfAllRowsAndColumns) {
+    const ReadGrid grid;
+    ASSERT_NE(grid.node(), nullptr);
+    EXPECT_EQ(grid.node()->role(), QAccessible::Table);
+    ASSERT_NE(grid.table(), nullptr);
+    EXPECT_EQ(grid.table()->rowCount(), 40);
+    EXPECT_EQ(grid.table()->columnCount(), 8);
+    EXPECT_EQ(grid.node()->childCount(), 320);
+}
+
+TEST(AccessibleGrid, GivesTheSameCellByIndexAndByRowAndColumn) {
+    const ReadGrid grid;
+    QAccessibleInterface* cell = grid.table()->cellAt(3, 4);
+    EXPECT_EQ(grid.node()->child(3 * 8 + 4), cell);
+    EXPECT_EQ(grid.node()->indexOfChild(cell), 3 * 8 + 4);
+    EXPECT_EQ(cell->parent(), grid.node());
+}
+
+TEST(AccessibleGrid, HasNoCellOutside) {
+    const ReadGrid grid;
+    EXPECT_EQ(grid.table()->cellAt(40, 0), nullptr);
+    EXPECT_EQ(grid.table()->cellAt(0, 8), nullptr);
+    EXPECT_EQ(grid.table()->cellAt(-1, 0), nullptr);
+    EXPECT_EQ(grid.node()->child(320), nullptr);
+    EXPECT_EQ(grid.node()->child(-1), nullptr);
+    EXPECT_EQ(grid.node()->indexOfChild(grid.node()), -1);
+}
+
+TEST(AccessibleGrid, FindsTheCellUnderAPlace) {
+    const ReadGrid grid;
+    const QPoint place = grid.view()->mapToGlobal(grid.middle_of(3, 4));
+    EXPECT_EQ(grid.node()->childAt(place.x(), place.y()), grid.table()->cellAt(3, 4));
+    EXPECT_EQ(grid.node()->childAt(place.x() + 5000, place.y()), nullptr);
+}
+
+TEST(AccessibleGrid, DescribesColumnsByTheTitleRow) {
+    ReadGrid grid;
+    write(grid.model, 0, 3, "Wednesday Jan. 5");
+    EXPECT_EQ(grid.table()->columnDescription(3), "Wednesday Jan. 5");
+}
+
+TEST(AccessibleGrid, DescribesRowsByTimeAndUser) {
+    ReadGrid grid;
+    write(grid.model, 5, 0, "09:00 AM");
+    write(grid.model, 7, 1, "Chris Huffman");
+    EXPECT_EQ(grid.table()->rowDescription(7), "09:00 AM Chris Huffman");
+    EXPECT_EQ(grid.table()->rowDescription(0), "");
+}
+
+TEST(AccessibleGrid, TellsWhatIsSelected) {
+    ReadGrid grid;
+    grid.model.RowSel(3);
+    grid.model.ColSel(4);
+    EXPECT_EQ(grid.table()->selectedCellCount(), 9);
+    EXPECT_EQ(grid.table()->selectedCells().size(), 9);
+    EXPECT_TRUE(grid.table()->selectedCells().contains(grid.table()->cellAt(2, 3)));
+    EXPECT_EQ(grid.table()->selectedRowCount(), 0);
+    EXPECT_FALSE(grid.table()->isColumnSelected(3));
+}
+
+TEST(AccessibleGrid, TakesARowWithoutItsTitlesForSelected) {
+    ReadGrid grid;
+    grid.model.RowSel(2);
+    grid.model.ColSel(7);
+    EXPECT_EQ(grid.table()->selectedRows(), (QList<int>{1, 2}));
+    EXPECT_TRUE(grid.table()->isRowSelected(2));
+    EXPECT_EQ(grid.table()->selectedColumnCount(), 0);
+}
+
+TEST(AccessibleGrid, TakesAColumnWithItsTitleForSelected) {
+    ReadGrid grid;
+    grid.model.Row(0);
+    grid.model.RowSel(39);
+    EXPECT_EQ(grid.table()->selectedColumns(), QList<int>{2});
+    EXPECT_TRUE(grid.table()->isColumnSelected(2));
+}
+
+TEST(AccessibleGrid, HasTheCurrentCellForItsFocus) {
+    const ReadGrid grid;
+    EXPECT_EQ(grid.node()->focusChild(), grid.table()->cellAt(1, 2));
+}
+
+TEST(AccessibleGrid, TellsOfTheCurrentCell) {
+    ReadGrid grid;
+    grid.model.Row(4);
+    EXPECT_EQ(grid.tell({.current = true}),
+              (std::vector<Told>{{QAccessible::Selection, 4, 2}, {QAccessible::Focus, 4, 2}}));
+}
+
+TEST(AccessibleGrid, ClaimsNoFocusThatItHasNot) {
+    ReadGrid grid;
+    grid.widget->clearFocus();
+    EXPECT_EQ(grid.tell({.current = true}), (std::vector<Told>{{QAccessible::Selection, 1, 2}}));
+    EXPECT_EQ(grid.node()->focusChild(), nullptr);
+}
+
+TEST(AccessibleGrid, TellsOfChangedTexts) {
+    const ReadGrid grid;
+    EXPECT_EQ(grid.tell({.cells = true}), (std::vector<Told>{{.type = QAccessible::TableModelChanged}}));
+}
+
+TEST(AccessibleGrid, StartsAfreshWithAnotherNumberOfRows) {
+    ReadGrid grid;
+    const QAccessible::Id last = QAccessible::uniqueId(grid.table()->cellAt(39, 2));
+    grid.model.Rows(20);
+    EXPECT_EQ(grid.tell({.cells = true, .size = true}),
+              (std::vector<Told>{{.type = QAccessible::TableModelChanged, .reset = true}}));
+    EXPECT_EQ(QAccessible::accessibleInterface(last), nullptr);
+    EXPECT_EQ(grid.table()->cellAt(39, 2), nullptr);
+    EXPECT_EQ(grid.table()->rowCount(), 20);
+}
+
+TEST(AccessibleGrid, TellsNothingWhenNothingHasChanged) {
+    const ReadGrid grid;
+    EXPECT_TRUE(grid.tell({}).empty());
+}
+
+} // namespace

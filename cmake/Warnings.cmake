@@ -6,6 +6,10 @@ if(MSVC)
 else()
     target_compile_options(orvanta_flags INTERFACE -Wall -Wextra -Wpedantic -Werror -Wshadow=local
         -Wnon-virtual-dtor -Woverloaded-virtual -Wimplicit-fallthrough)
+    if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
+        # GCC 12 sees overlaps in optimised std::string code that can't happen.
+        target_compile_options(orvanta_flags INTERFACE -Wno-restrict)
+    endif()
     if(ORVANTA_SANITIZE)
         target_compile_options(orvanta_flags INTERFACE -fsanitize=address,undefined -fno-omit-frame-pointer
             -fno-sanitize-recover=undefined)

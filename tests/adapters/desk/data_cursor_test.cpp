@@ -1,0 +1,223 @@
+#include "adapters/desk/data_cursor.h"
+
+#include "adapters/desk/data_fixture.h"
+
+using desk::Cursor;
+using desk::ListFilters;
+using desk::Session;
+using support::daily;
+using support::meeting;
+using support::monday;
+using values::DateTime;
+
+namespace {
+
+class Cursors : public testing::Test {
+protected:
+    support::TemporaryDatabase file;
+    store::Store& store = file.store();
+    std::shared_ptr<Session> session = std::make_shared<Session>(file.open_again(), values::english_us());
+    Cursor cursor{session};
+
+    std::string rest() {
+        std::string names;
+        for (; !cursor.is_at_end(); cursor.to_next())
+            names += cursor.row()->regarding + " ";
+        return names;
+    }
+    static desk::Scope days(int from, int to) {
+        return {.from = monday.plus_days(from).seconds(), .to = monday.plus_days(to).seconds()};
+    }
+};
+
+} // namespace
+
+TEST_F(Cursors, WalkTheListByStartAndThenById) {
+    store.add(meeting("wednesday", 2));
+    store.add(meeting("monday"));
+    store.add(daily("monday-too"));
+    store.add(meeting("tuesday", 1));
+    EXPECT_EQ(rest(), "monday monday-too tuesday wednesday ");
+    cursor.to_first();
+    EXPECT_EQ(cursor.row()->regarding, "monday");
+}
+
+TEST_F(Cursors, WalkActivitiesWithoutAStartFirst) {
+    store.add(meeting("dated"));
+    store::Activity undated = meeting("undated");
+    undated.start.reset();
+    store.add(undated);
+    EXPECT_EQ(rest(), "undated dated ");
+    cursor.set_filters({.scope = days(-1000, 1000)});
+    EXPECT_EQ(rest(), "dated ");
+}
+
+TEST_F(Cursors, WalkAScopeWithItsBeginningButNotItsEnd) {
+    store.add(meeting("sunday", -1, 23));
+    store.add(meeting("first", 0, 0));
+    store.add(daily("last", 6, 23));
+    store.add(meeting("after", 7, 0));
+    cursor.set_filters({.scope = days(0, 7)});
+    EXPECT_EQ(rest(), "first last ");
+    cursor.set_filters({});
+    EXPECT_EQ(rest(), "sunday first last after ");
+}
+
+TEST_F(Cursors, AreAtTheEndOfAnEmptyScope) {
+    store.add(meeting("monday"));
+    cursor.set_filters({.scope = days(3, 3)});
+    EXPECT_TRUE(cursor.is_at_end());
+    cursor.set_filters({.scope = days(5, 1)});
+    EXPECT_TRUE(cursor.is_at_end());
+    EXPECT_EQ(cursor.entry(), nullptr);
+    EXPECT_EQ(cursor.row(), nullptr);
+}
+
+TEST_F(Cursors, WalkScopesThatOverlapEachOther) {
+    for (int day = 0; day < 6; ++day)
+        store.add(meeting(std::to_string(day), day));
+    cursor.set_filters({.scope = days(1, 3)});
+    EXPECT_EQ(rest(), "1 2 ");
+    cursor.set_filters({.scope = days(4, 5)});
+    EXPECT_EQ(rest(), "4 ");
+    cursor.set_filters({.scope = days(0, 6)});
+    EXPECT_EQ(rest(), "0 1 2 3 4 5 ");
+    cursor.set_filters({.scope = days(2, 5)});
+    EXPECT_EQ(rest(), "2 3 4 ");
+}
+
+TEST_F(Cursors, KeepOutWhatTheFiltersSay) {
+    store::Activity call = meeting("call");
+    call.type = store::ActivityType::call;
+    call.priority = store::Priority::high;
+    store.add(call);
+    store::Activity cleared = daily("cleared");
+    cleared.cleared = true;
+    cleared.priority = store::Priority::medium;
+    store.add(cleared);
+    store.add(meeting("meeting"));
+    for (const auto& scope : {std::optional<desk::Scope>(), std::optional(days(0, 7))}) {
+        cursor.set_filters({.scope = scope, .without_types = {0}});
+        EXPECT_EQ(rest(), "cleared meeting ");
+        cursor.set_filters({.scope = scope, .without_priorities = {0, 2}});
+        EXPECT_EQ(rest(), "cleared ");
+        cursor.set_filters({.scope = scope, .without_cleared = true});
+        EXPECT_EQ(rest(), "call meeting ");
+        cursor.set_filters({.scope = scope, .without_types = {0, 1}});
+        EXPECT_EQ(rest(), "");
+    }
+}
+
+TEST_F(Cursors, GoToARecordOutsideTheFiltersAndOnBehindIt) {
+    store.add(meeting("monday"));
+    const std::string tuesday = store.add(daily("tuesday", 1));
+    store.add(meeting("wednesday", 2));
+    store::Activity call = meeting("thursday", 3);
+    call.type = store::ActivityType::call;
+    const std::string thursday = store.add(call);
+    store.add(meeting("friday", 4));
+    cursor.set_filters({.scope = days(2, 5), .without_types = {0}});
+    EXPECT_TRUE(cursor.go_to(tuesday));
+    EXPECT_EQ(cursor.row()->regarding, "tuesday");
+    cursor.to_next();
+    EXPECT_EQ(cursor.row()->regarding, "wednesday");
+    EXPECT_TRUE(cursor.go_to(thursday));
+    cursor.to_next();
+    EXPECT_EQ(cursor.row()->regarding, "friday");
+    cursor.set_filters({});
+    EXPECT_TRUE(cursor.go_to(thursday));
+    cursor.to_next();
+    EXPECT_EQ(rest(), "friday ");
+}
+
+TEST_F(Cursors, AreNowhereAfterARecordThatThereIsNot) {
+    const std::string id = store.add(meeting("monday"));
+    for (const std::string& wrong : {std::string("A99999999999"), std::string(), id + "X", id.substr(0, 5)}) {
+        ASSERT_TRUE(cursor.go_to(id));
+        EXPECT_FALSE(cursor.go_to(wrong));
+        EXPECT_EQ(cursor.entry(), nullptr);
+        EXPECT_TRUE(cursor.is_at_end());
+        cursor.to_next();
+        EXPECT_TRUE(cursor.is_at_end());
+    }
+    cursor.to_first();
+    EXPECT_EQ(rest(), "monday ");
+}
+
+TEST_F(Cursors, FindAnIdThatLostItsTrailingBlank) {
+    store::Activity imported = meeting("imported");
+    imported.id = "99887766554 ";
+    store.add(imported);
+    EXPECT_TRUE(cursor.go_to("99887766554"));
+    EXPECT_EQ(cursor.entry()->key.id.text(), "99887766554 ");
+}
+
+TEST_F(Cursors, SeeWhatAnotherProcessDidWhenTheyStartAgain) {
+    const std::string gone = store.add(meeting("gone"));
+    const std::string moved = store.add(meeting("moved", 1));
+    store.add(meeting("stays", 2));
+    for (const auto& scope : {std::optional<desk::Scope>(), std::optional(days(0, 7))}) {
+        cursor.set_filters({.scope = scope});
+        EXPECT_EQ(rest(), "gone moved stays ");
+    }
+    store.remove_activity(gone);
+    store::Activity activity = *store.activity(moved);
+    activity.start = monday.plus_days(3);
+    store.update(activity);
+    store.add(daily("new", 4));
+    for (const auto& scope : {std::optional<desk::Scope>(), std::optional(days(0, 7))}) {
+        cursor.set_filters({.scope = scope});
+        EXPECT_EQ(rest(), "stays moved new ");
+    }
+}
+
+TEST_F(Cursors, WalkOnRightlyWhenTheListChangesRoundThem) {
+    const std::string first = store.add(meeting("first"));
+    store.add(meeting("second", 1));
+    store.add(meeting("third", 2));
+    for (const auto& scope : {std::optional<desk::Scope>(), std::optional(days(0, 7))}) {
+        cursor.set_filters({.scope = scope});
+        cursor.to_next();
+        ASSERT_EQ(cursor.row()->regarding, "second");
+        const std::string before = store.add(meeting("before", 0, 12)),
+                          behind = store.add(meeting("behind", 1, 12));
+        session->catch_up();
+        cursor.to_next();
+        EXPECT_EQ(rest(), "behind third ");
+        store.remove_activity(before);
+        store.remove_activity(behind);
+    }
+    cursor.set_filters({});
+    ASSERT_EQ(cursor.row()->regarding, "first");
+    store.remove_activity(first);
+    session->catch_up();
+    cursor.to_next();
+    EXPECT_EQ(rest(), "second third ");
+}
+
+TEST_F(Cursors, GiveNoRowWhenTheRecordWasDeletedUnderThem) {
+    const std::string id = store.add(meeting("monday"));
+    ASSERT_NE(cursor.entry(), nullptr);
+    store.remove_activity(id);
+    session->catch_up();
+    EXPECT_EQ(cursor.row(), nullptr);
+    EXPECT_EQ(cursor.entry()->key.id.text(), id);
+}
+
+TEST_F(Cursors, NoticeOnGoingToTheSameRecordAgainThatItWasDeleted) {
+    const std::string id = store.add(meeting("monday"));
+    ASSERT_TRUE(cursor.go_to(id));
+    store.remove_activity(id);
+    EXPECT_FALSE(cursor.go_to(id));
+}
+
+TEST_F(Cursors, StandBehindARecordThatWasRemoved) {
+    store.add(meeting("first"));
+    store.add(meeting("second", 1));
+    ASSERT_EQ(cursor.row()->regarding, "first");
+    cursor.record_was_removed();
+    EXPECT_EQ(cursor.entry(), nullptr);
+    EXPECT_FALSE(cursor.is_at_end());
+    cursor.to_next();
+    EXPECT_EQ(cursor.row()->regarding, "second");
+}

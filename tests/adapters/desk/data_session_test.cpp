@@ -1,0 +1,71 @@
+#include "adapters/desk/data_session.h"
+
+#include "adapters/desk/data_fixture.h"
+#include "store/contact_fields.h"
+
+using desk::Session;
+using support::meeting;
+
+namespace {
+
+class Sessions : public testing::Test {
+protected:
+    support::TemporaryDatabase file;
+    store::Store& store = file.store();
+    Session session{file.open_again(), values::english_us()};
+};
+
+} // namespace
+
+TEST_F(Sessions, GiveTheFieldsOfAContactAsTheyWereAtTheLastCatchUp) {
+    store::Contact contact;
+    contact.fields[store::contact_field::name] = "Max";
+    contact = *store.contact(store.add(contact));
+    using Fields = desk::ContactFields;
+    EXPECT_EQ(*session.contact(contact.id), (Fields{{store::contact_field::name, "Max"}}));
+    contact.fields[store::contact_field::name] = "Maxine";
+    store.update(contact);
+    EXPECT_EQ(*session.contact(contact.id), (Fields{{store::contact_field::name, "Max"}}));
+    session.catch_up();
+    EXPECT_EQ(*session.contact(contact.id), (Fields{{store::contact_field::name, "Maxine"}}));
+}
+
+TEST_F(Sessions, GiveTheNameOfAGroupAsItWasAtTheLastCatchUp) {
+    const std::string id = store.add(store::Group{.name = "Suppliers"});
+    EXPECT_EQ(*session.group_name(id), "Suppliers");
+    store.update(store::Group{.id = id, .name = "Partners"});
+    session.catch_up();
+    EXPECT_EQ(*session.group_name(id), "Partners");
+}
+
+TEST_F(Sessions, GiveNothingForAContactOrAGroupThatThereIsNot) {
+    EXPECT_EQ(session.contact("C99999999999"), nullptr);
+    EXPECT_EQ(session.group_name(""), nullptr);
+}
+
+TEST_F(Sessions, CatchUpWithMoreChangesThanTheyTakeIn) {
+    const std::string first = store.add(meeting("first"));
+    desk::ActivityCache::Hint hint;
+    ASSERT_NE(session.activities().first({}, hint), nullptr);
+    store.together([&] {
+        for (int i = 0; i < 20100; ++i)
+            store.add(store::Note{.contact = i == 0 ? store.add(store::Contact{}) : store.contacts().front().id});
+    });
+    store.remove_activity(first);
+    session.catch_up();
+    EXPECT_EQ(session.activities().first({}, hint), nullptr);
+}
+
+TEST_F(Sessions, FailOnceTheyAreClosed) {
+    session.close();
+    for (const auto& action : std::vector<std::function<void()>>{
+             [&] { session.store(); }, [&] { session.activities(); }, [&] { session.catch_up(); },
+             [&] { session.contact("C00000000001"); }, [&] { session.group_name("G00000000001"); }}) {
+        try {
+            action();
+            ADD_FAILURE();
+        } catch (const values::Failure& failure) {
+            EXPECT_EQ(failure.number(), 440);
+        }
+    }
+}

@@ -2,11 +2,14 @@
 
 #include "settings/catalogue.h"
 #include "values/numbers.h"
+#include "values/text_forms.h"
 #include "values/value.h"
 
 namespace engine {
 
 namespace {
+
+constexpr std::size_t most_start_texts = 10'000;
 
 std::string flag(bool on) { return on ? "1" : "0"; }
 
@@ -16,6 +19,8 @@ void Placing::read_settings() {
     slots_.read(layout_.slot_times(), layout_.SlotsCount);
     cell_text_.read_settings();
     user_colours_.clear();
+    if (start_texts_.size() > most_start_texts)
+        start_texts_.clear();
 }
 
 void Placing::Treat_Activity(DateTime date, int duration, bool recurring) {
@@ -55,7 +60,7 @@ void Placing::Treat_Activity(DateTime date, int duration, bool recurring) {
         std::string cell_text = cell_text_.GetContactInfo(contact, id);
         step = 130;
         std::string sort_text = user_name(user);
-        sort_text.append("||").append(text(field::start)).append(cell_text);
+        sort_text.append("||").append(start_text(activity.Data(field::start))).append(cell_text);
         step = 140;
         layout_.Slots(*slot, col)
             .SetCell(std::move(id), std::move(contact), flag(recurring), flag(cleared), "", std::move(colour),
@@ -71,7 +76,7 @@ std::string Placing::colour_of(const std::string& own_colour, const std::string&
     case ActyColors::fixed:
         return std::to_string(values::to_int32(FixedActyColor));
     case ActyColors::of_user: {
-        const std::string name = user_name(user_id);
+        const std::string& name = user_name(user_id);
         const auto [place, is_new] = user_colours_.try_emplace(name);
         if (is_new)
             place->second = read(settings_, settings::keys::user_color(name));
@@ -81,9 +86,20 @@ std::string Placing::colour_of(const std::string& own_colour, const std::string&
     return "0";
 }
 
-std::string Placing::user_name(const std::string& user_id) const {
+const std::string& Placing::user_name(const std::string& user_id) const {
+    static const std::string nobody;
     const auto found = users_.UserIdToName.find(user_id);
-    return found == users_.UserIdToName.end() ? std::string() : found->second;
+    return found == users_.UserIdToName.end() ? nobody : found->second;
+}
+
+std::string Placing::start_text(const values::Value& start) {
+    const auto* date = std::get_if<DateTime>(&start);
+    if (!date)
+        return values::text_of(start, locale_);
+    const auto [place, is_new] = start_texts_.try_emplace(date->seconds());
+    if (is_new)
+        place->second = values::default_text(*date, locale_);
+    return place->second;
 }
 
 } // namespace engine

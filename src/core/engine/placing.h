@@ -9,7 +9,9 @@
 #include "host/guard.h"
 #include "settings/ini_lib.h"
 #include "values/locale.h"
+#include "values/value.h"
 
+#include <cstdint>
 #include <string>
 #include <unordered_map>
 
@@ -46,7 +48,8 @@ public:
 
 private:
     std::string colour_of(const std::string& own_colour, const std::string& user_id);
-    std::string user_name(const std::string& user_id) const;
+    const std::string& user_name(const std::string& user_id) const;
+    std::string start_text(const values::Value& start);
 
     act::Session& session_;
     const act::UserList& users_;
@@ -57,6 +60,8 @@ private:
     const host::Guard& guarded_;
     SlotTable slots_;
     std::unordered_map<std::string, std::string> user_colours_; // by name, as far as they were needed
+    // Starts as text, by their seconds. A refresh meets the same ones again and again.
+    std::unordered_map<std::int64_t, std::string> start_texts_;
 };
 
 } // namespace engine

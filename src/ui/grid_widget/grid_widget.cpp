@@ -27,7 +27,8 @@ int scrolled_line(const PixelLines& lines, int position, int present) {
 } // namespace
 
 GridWidget::GridWidget(grid::GridModel& model, QWidget* parent)
-    : QAbstractScrollArea(parent), model_(model), painter_(font()), sizer_(model) {
+    : QAbstractScrollArea(parent), model_(model), painter_(font()), sizer_(model),
+      told_size_(model.Cols(), model.Rows()) {
     install_grid_accessibility();
     setFocusPolicy(Qt::StrongFocus);
     setFrameShape(QFrame::NoFrame);

@@ -187,7 +187,7 @@ TEST(GridMouse, ShowsByThePointerWhetherADropIsPermitted) {
     WatchedGrid grid;
     grid.widget->begin_drag();
     const QImage permitted = grid.view()->cursor().pixmap().toImage();
-    EXPECT_EQ(permitted.size(), QSize(32, 32));
+    EXPECT_EQ(grid.view()->cursor().pixmap().deviceIndependentSize(), QSizeF(32, 32));
     grid.widget->show_drop_permitted(false);
     EXPECT_NE(grid.view()->cursor().pixmap().toImage(), permitted);
     grid.press_key(Qt::Key_Escape);

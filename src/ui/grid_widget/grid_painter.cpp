@@ -14,8 +14,8 @@ namespace ui {
 
 namespace {
 
-// Where something of that size begins in its room: part 0 at the begin, 1 in the middle, 2 at the end.
-int placed(int begin, int room, int size, int part) { return begin + std::max(0, room - size) * part / 2; }
+// Where something of that size begins in its room: at the begin (0), in the middle (1) or at the end (2).
+int placed(int begin, int room, int size, int where) { return begin + std::max(0, room - size) * where / 2; }
 
 // 0 top, 1 centre, 2 bottom; 0 left, 1 centre, 2 right.
 int vertical(grid::Alignment alignment) { return static_cast<int>(alignment) % 3; }

@@ -24,7 +24,7 @@ public:
     // Raises Form_Unload, the first time; while a procedure waits in a box, once that is over, and closes the box.
     void unload();
 
-    const WindowFace& face() const { return face_; }
+    WindowFace& face() { return face_; }
     shell::Calendar& calendar() { return calendar_; }
 
 protected:

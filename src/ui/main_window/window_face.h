@@ -9,6 +9,7 @@
 
 class QCheckBox;
 class QMainWindow;
+class QWidget;
 
 namespace Ui {
 class frmMain;

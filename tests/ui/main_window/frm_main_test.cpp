@@ -1,0 +1,205 @@
+#include "main_window/frm_main.h"
+
+#include "window_world.h"
+
+#include <QAction>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDialog>
+#include <QEventLoop>
+#include <QLabel>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QTimer>
+#include <QToolButton>
+#include <gtest/gtest.h>
+
+namespace {
+
+class FrmMain : public ::testing::Test, protected support::WindowWorld {
+protected:
+    void choose(const char* entry) {
+        auto* action = control<QAction>(entry);
+        ASSERT_NE(action, nullptr);
+        action->trigger();
+        settle();
+    }
+    QStringList menu(const char* name) {
+        QStringList entries;
+        for (const QAction* action : control<QMenu>(name)->actions())
+            entries << (action->isSeparator() ? QStringLiteral("-") : action->text());
+        return entries;
+    }
+};
+
+TEST_F(FrmMain, HasItsControlsByName) {
+    EXPECT_NE(control<ui::GridWidget>("msgSched"), nullptr);
+    EXPECT_NE(control<QToolButton>("cmdPrevious"), nullptr);
+    EXPECT_NE(control<QToolButton>("cmdNext"), nullptr);
+    EXPECT_NE(control<QComboBox>("cboGoTo"), nullptr);
+    EXPECT_NE(control<QComboBox>("cboUsers"), nullptr);
+    EXPECT_NE(control<QPushButton>("cmdFilter"), nullptr);
+    EXPECT_NE(control<QLabel>("lblYear"), nullptr);
+    ASSERT_EQ(window.face().chkView.size(), 2U);
+    EXPECT_EQ(window.face().chkView[0]->text(), "Daily");
+    EXPECT_EQ(window.face().chkView[1]->text(), "Weekly");
+    EXPECT_EQ(window.face().chkAMPM.size(), 2U);
+}
+
+TEST_F(FrmMain, ShowsTheWeekOfTheDatabase) {
+    load();
+    EXPECT_TRUE(fake_box.shown.empty());
+    EXPECT_TRUE(window.isVisible());
+    EXPECT_EQ(window.windowTitle(), "Orvanta");
+    EXPECT_TRUE(at(9).startsWith("Chris Smith")) << at(9).toStdString();
+    EXPECT_EQ(at(10), "");
+    EXPECT_EQ(control<QLabel>("lblYear")->text(), "2024");
+    EXPECT_EQ(control<QComboBox>("cboUsers")->count(), 1);
+    EXPECT_EQ(control<QComboBox>("cboUsers")->itemText(0), "Ann");
+    EXPECT_EQ(control<QComboBox>("cboUsers")->currentIndex(), -1);
+}
+
+TEST_F(FrmMain, OffersWhatItCanDoAndNothingElse) {
+    load();
+    EXPECT_EQ(menu("mnuFile"), (QStringList{"Quick Refresh", "Full Refresh", "-", "Exit"}));
+    EXPECT_EQ(menu("mnuHelp"), QStringList{"About..."});
+    for (const char* later :
+         {"cmdPrevious", "cmdNext", "cboGoTo", "chkView_0", "chkView_1", "chkAMPM_0", "cmdFilter"})
+        EXPECT_FALSE(control<QWidget>(later)->isVisible()) << later;
+}
+
+TEST_F(FrmMain, StaysHiddenWhenItsStartIsStopped) {
+    program.is_second = true;
+    load();
+    EXPECT_FALSE(window.isVisible());
+    EXPECT_EQ(program.ends, 1);
+    EXPECT_EQ(stored("WeeklyView"), "0");
+    EXPECT_EQ(stored("Width"), "18000");
+    EXPECT_EQ(stored("Height"), "11400");
+}
+
+TEST_F(FrmMain, ShowsWhatIsNewAfterAFullRefresh) {
+    load();
+    add_meeting(11);
+    choose("mnuFullRefresh");
+    EXPECT_TRUE(at(11).startsWith("Chris Smith"));
+    EXPECT_TRUE(at(9).startsWith("Chris Smith"));
+}
+
+TEST_F(FrmMain, ShowsWhatIsNewAfterAQuickRefresh) {
+    load();
+    database.now = clock.time.plus_minutes(1);
+    add_meeting(11);
+    choose("mnuRefresh");
+    EXPECT_TRUE(at(11).startsWith("Chris Smith"));
+    EXPECT_TRUE(fake_box.shown.empty());
+}
+
+TEST_F(FrmMain, TellsAboutItself) {
+    load();
+    choose("mnuAbout");
+    ASSERT_EQ(fake_box.shown.size(), 1U);
+    EXPECT_EQ(fake_box.shown[0].text, "Orvanta\r1.2.3");
+}
+
+TEST_F(FrmMain, EndsByItsExitEntry) {
+    load();
+    choose("mnuExit");
+    EXPECT_EQ(program.ends, 1);
+    EXPECT_EQ(stored("WeeklyView"), "1");
+}
+
+TEST_F(FrmMain, EndsOnceHoweverOftenItIsClosed) {
+    load();
+    window.close();
+    window.close();
+    choose("mnuExit");
+    EXPECT_EQ(program.ends, 1);
+}
+
+TEST_F(FrmMain, EndsWithItsDatabaseAndStoresItsPlace) {
+    load();
+    window.move(100, 50);
+    window.resize(900, 600);
+    events.OnDatabaseClose();
+    EXPECT_EQ(program.ends, 1);
+    EXPECT_EQ(stored("Left"), "1500");
+    EXPECT_EQ(stored("Top"), "750");
+    EXPECT_EQ(stored("Width"), "13500");
+    EXPECT_EQ(stored("Height"), "9000");
+    EXPECT_EQ(stored("RowHeightWeekly1"), "820");
+}
+
+TEST_F(FrmMain, EndsAfterTheProcedureThatWaitsInABox) {
+    load();
+    QEventLoop outer;
+    int ends_in_the_box = -1, ends_behind_it = -1;
+    QTimer::singleShot(0, &window, [&] {
+        QDialog box;
+        QTimer::singleShot(0, &box, [&] {
+            events.OnDatabaseClose();
+            ends_in_the_box = program.ends;
+        });
+        box.exec(); // closed by the end that wants to come
+        ends_behind_it = program.ends;
+    });
+    QTimer poll;
+    QObject::connect(&poll, &QTimer::timeout, [&] {
+        if (program.ends > 0)
+            outer.quit();
+    });
+    poll.start(5);
+    outer.exec();
+    EXPECT_EQ(ends_in_the_box, 0);
+    EXPECT_EQ(ends_behind_it, 0);
+    EXPECT_EQ(program.ends, 1);
+}
+
+TEST_F(FrmMain, HidesAndWaitsTwoSecondsWhenItRestartsACT) {
+    load();
+    window.calendar().closing.RestartAct = true;
+    window.close();
+    EXPECT_FALSE(window.isVisible());
+    EXPECT_EQ(program.ends, 0);
+    tmr2.fire();
+    tmr2.fire();
+    EXPECT_EQ(program.ends, 1);
+}
+
+TEST_F(FrmMain, KeepsTheGridAsLargeAsItIsTold) {
+    load();
+    const QWidget* grid = control<QWidget>("msgSched");
+    for (const QSize size : {QSize(1000, 600), QSize(700, 400), QSize(140, 245)}) {
+        window.resize(size);
+        settle();
+        EXPECT_EQ(grid->width(), qRound((size.width() * 15 - 1000) / 15.0));
+        EXPECT_EQ(grid->height(), qRound((size.height() * 15 - 1800) / 15.0));
+        EXPECT_EQ(control<QLabel>("lblYear")->width(), grid->width());
+        EXPECT_TRUE(grid->parentWidget()->rect().contains(grid->geometry())) << size.width();
+    }
+}
+
+TEST_F(FrmMain, TakesUpItsPlaceAndState) {
+    values.write("Settings", "Left", "1500");
+    values.write("Settings", "Top", "3000");
+    values.write("Settings", "Width", "12000");
+    values.write("Settings", "Height", "7500");
+    values.write("Settings", "WindowState", "2");
+    load();
+    EXPECT_TRUE(window.isMaximized());
+    window.setWindowState(Qt::WindowNoState);
+    settle();
+    EXPECT_EQ(window.pos(), QPoint(100, 200));
+    EXPECT_EQ(window.size(), QSize(800, 500));
+}
+
+TEST_F(FrmMain, KeepsTheSizeOfItsDesignBesideAStoredOneThatIsTooSmall) {
+    values.write("Settings", "Width", "2000");
+    values.write("Settings", "Height", "9000");
+    values.write("Settings", "Left", "150");
+    load();
+    EXPECT_EQ(window.size(), QSize(1200, 760));
+    EXPECT_EQ(window.x(), 10);
+}
+
+} // namespace

@@ -18,6 +18,7 @@ namespace {
 constexpr std::int64_t most_changes = 20000;
 constexpr std::size_t most_plain_rows = 400000;
 constexpr int rows_at_once = 256;
+constexpr int most_steps = 4;
 
 bool by_key(const ActivityEntry& left, const ActivityEntry& right) { return left.key < right.key; }
 
@@ -65,6 +66,7 @@ bool ActivityCache::is_wanted(const ActivityRow& row) const {
 void ActivityCache::forget_all() {
     by_id_.clear();
     rows_.clear();
+    last_kept_ = last_given_ = rows_.end();
     loaded_scopes_.clear();
     has_all_series_ = false;
     series_count_ = 0;
@@ -75,18 +77,25 @@ void ActivityCache::forget_all() {
 }
 
 void ActivityCache::keep(const ActivityRow& row) {
-    const auto place =
-        rows_.insert_or_assign(rows_.end(), row.entry.key, std::make_shared<const ActivityRow>(row));
-    const auto [known, is_new] = by_id_.try_emplace(row.entry.key.id, place);
-    if (!is_new && known->second != place) { // it has moved since it was read
-        rows_.erase(known->second);
-        known->second = place;
+    const auto behind_last = last_kept_ == rows_.end() ? last_kept_ : std::next(last_kept_);
+    last_kept_ = rows_.insert_or_assign(behind_last, row.entry.key, std::make_shared<const ActivityRow>(row));
+    const auto [known, is_new] = by_id_.try_emplace(row.entry.key.id, last_kept_);
+    if (!is_new && known->second != last_kept_) { // it has moved since it was read
+        erase(known->second);
+        known->second = last_kept_;
     }
+}
+
+void ActivityCache::erase(Rows::iterator row) {
+    for (Rows::iterator* last : {&last_kept_, &last_given_})
+        if (*last == row)
+            *last = rows_.end();
+    rows_.erase(row);
 }
 
 void ActivityCache::drop(const Id& id) {
     if (const auto known = by_id_.find(id); known != by_id_.end()) {
-        rows_.erase(known->second);
+        erase(known->second);
         by_id_.erase(known);
     }
     if (exceptions_)
@@ -165,14 +174,28 @@ const ActivityEntry* ActivityCache::next(const ActivityKey& place, const std::op
 }
 
 std::shared_ptr<const ActivityRow> ActivityCache::row(const ActivityEntry& entry) {
-    const auto known = by_id_.find(entry.key.id);
-    if (known != by_id_.end())
-        return known->second->second;
+    if (auto row = known(entry))
+        return row;
     if (entry.recurring && !has_all_series_)
         load_series();
     else
         reading_.each_from(entry.key, rows_at_once, [this](const ActivityRow& row) { keep(row); });
     return find(entry.key.id);
+}
+
+std::shared_ptr<const ActivityRow> ActivityCache::known(const ActivityEntry& entry) {
+    // A walk asks for them in order, so the wanted one is mostly among the next few.
+    auto near = last_given_;
+    for (int steps = 0; near != rows_.end() && near->first < entry.key && steps < most_steps; ++steps)
+        ++near;
+    if (near == rows_.end() || near->first != entry.key) {
+        const auto found = by_id_.find(entry.key.id);
+        if (found == by_id_.end())
+            return nullptr;
+        near = found->second;
+    }
+    last_given_ = near;
+    return near->second;
 }
 
 std::shared_ptr<const ActivityRow> ActivityCache::find(const Id& id) {

@@ -55,6 +55,8 @@ private:
     void load_entries();
     void load_series();
     void keep(const store::ActivityRow& row);
+    std::shared_ptr<const store::ActivityRow> known(const store::ActivityEntry& entry);
+    void erase(Rows::iterator row);
     void drop(const store::Id& id);
     void update_entries(const store::ActivityChanges& changes);
     bool is_wanted(const store::ActivityRow& row) const;
@@ -64,7 +66,9 @@ private:
 
     Rows rows_;
     std::unordered_map<store::Id, Rows::iterator> by_id_;
-    std::vector<Scope> loaded_scopes_; // apart from each other
+    std::vector<Scope> loaded_scopes_;        // apart from each other
+    Rows::iterator last_kept_ = rows_.end();  // the next one read mostly comes behind it
+    Rows::iterator last_given_ = rows_.end(); // the next one asked for likewise
     bool has_all_series_ = false;
     std::size_t series_count_ = 0; // when they were read
 

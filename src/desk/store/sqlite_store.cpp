@@ -94,18 +94,18 @@ std::string SqliteStore::id_for(const std::string& own, const std::string& count
 }
 
 void SqliteStore::begin() {
-    connection_->execute(std::string(open_blocks_ == 0 ? sql::begin : sql::begin_inner));
+    connection_->run(open_blocks_ == 0 ? sql::begin : sql::begin_inner);
     ++open_blocks_;
 }
 
 void SqliteStore::commit() {
     try {
         if (open_blocks_ > 1) {
-            connection_->execute(std::string(sql::commit_inner));
+            connection_->run(sql::commit_inner);
         } else {
             for (const auto& [name, value] : counters_)
                 connection_->run(sql::set_counter, value, name);
-            connection_->execute(std::string(sql::commit));
+            connection_->run(sql::commit);
         }
     } catch (...) {
         roll_back();
@@ -125,10 +125,10 @@ void SqliteStore::roll_back() {
     if (!connection_->in_transaction())
         return;
     if (open_blocks_ == 0) {
-        connection_->execute(std::string(sql::roll_back));
+        connection_->run(sql::roll_back);
     } else {
-        connection_->execute(std::string(sql::roll_back_inner));
-        connection_->execute(std::string(sql::commit_inner));
+        connection_->run(sql::roll_back_inner);
+        connection_->run(sql::commit_inner);
     }
 }
 

@@ -1,5 +1,6 @@
 #include "adapters/qt/locale.h"
 #include "contact_desk/options.h"
+#include "import/import_file.h"
 #include "service/service.h"
 #include "store/store.h"
 #include "values/failure.h"
@@ -31,8 +32,16 @@ int run(const apps::NewSample& task, int, char**) {
     return 0;
 }
 
-int run(const apps::ImportFile&, int, char**) {
-    throw values::Failure(values::FailureNumber::automation, "This build can't import files.");
+int run(const apps::ImportFile& task, int, char**) {
+    const auto store = store::Store::open(task.database);
+    std::cout << importing::import_file(*store, task.file, {.user = task.user}).text();
+    return 0;
+}
+
+// The report as a message box has room for it.
+std::string import_for_window(store::Store& store, const std::string& file) {
+    constexpr std::size_t most_remarks = 12;
+    return importing::import_file(store, file).text(most_remarks);
 }
 
 int run(const apps::ShowWindow& task, int argc, char** argv) {
@@ -42,7 +51,7 @@ int run(const apps::ShowWindow& task, int argc, char** argv) {
     windows::dress(application);
     const values::Locale locale = qt::system_locale();
     windows::Session session(locale);
-    windows::MainWindow window(session, {});
+    windows::MainWindow window(session, import_for_window);
     windows::OpenToolbarCommands toolbar_commands(session);
     service::Service service(window.desk(), toolbar_commands, locale);
     window.show();

@@ -1,0 +1,226 @@
+#include "import/card_reader.h"
+
+#include "import/activity_text.h"
+#include "store/contact_fields.h"
+#include "values/text.h"
+
+#include <algorithm>
+
+namespace importing {
+namespace {
+
+namespace field = store::contact_field;
+
+struct Property {
+    std::string name;
+    std::string parameters; // in small letters, between ";"
+    std::string value;      // decoded, its escapes still there
+};
+
+bool has(const Property& property, std::string_view word) {
+    std::string current;
+    for (const char c : property.parameters + ";") {
+        if ((c >= 'a' && c <= 'z') || (c >= '0' && c <= '9') || c == '-') {
+            current += c;
+            continue;
+        }
+        if (current == word)
+            return true;
+        current.clear();
+    }
+    return false;
+}
+
+int hexadecimal(char c) {
+    constexpr std::string_view digits = "0123456789abcdefABCDEF";
+    const std::size_t place = digits.find(c);
+    return place == digits.npos ? -1 : static_cast<int>(place < 16 ? place : place - 6);
+}
+
+std::string from_quoted_printable(std::string_view text) {
+    std::string bytes;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const int high = text[i] == '=' && i + 2 < text.size() ? hexadecimal(text[i + 1]) : -1;
+        const int low = high >= 0 ? hexadecimal(text[i + 2]) : -1;
+        if (low >= 0) {
+            bytes += static_cast<char>(high * 16 + low);
+            i += 2;
+        } else {
+            bytes += text[i];
+        }
+    }
+    return values::is_utf8(bytes) ? bytes : values::utf8_from_windows_1252(bytes);
+}
+
+std::vector<Property> properties_of(const Component& card) {
+    std::vector<Property> properties;
+    for (std::size_t i = 0; i < card.lines.size(); ++i) {
+        const Line& line = card.lines[i];
+        Property property{name_of(line), {}, std::string(value_of(line))};
+        const std::string head = line.text.substr(0, line.text.size() - property.value.size());
+        if (const std::size_t parameters = head.find(';'); parameters != head.npos)
+            property.parameters = values::lower(std::string_view(head).substr(parameters));
+        if (has(property, "quoted-printable")) {
+            // A "=" at the end of a line takes the next one in.
+            while (property.value.ends_with('=') && i + 1 < card.lines.size()) {
+                property.value.pop_back();
+                property.value += card.lines[++i].text;
+            }
+            property.value = from_quoted_printable(property.value);
+        }
+        if (!property.name.empty() && !has(property, "base64") && !has(property, "b"))
+            properties.push_back(std::move(property));
+    }
+    return properties;
+}
+
+std::string unescaped(std::string_view text) {
+    std::string plain;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (text[i] != '\\' || i + 1 == text.size()) {
+            plain += text[i];
+            continue;
+        }
+        const char next = text[++i];
+        if (next == 'n' || next == 'N')
+            plain += '\n';
+        else if (next == ',' || next == ';' || next == '\\' || next == ':')
+            plain += next;
+        else
+            (plain += '\\') += next;
+    }
+    return plain;
+}
+
+// The parts between semicolons, each as one line.
+std::vector<std::string> parts_of(const std::string& value) {
+    std::vector<std::string> parts;
+    std::string part;
+    for (std::size_t i = 0; i <= value.size(); ++i) {
+        if (i == value.size() || value[i] == ';') {
+            parts.push_back(single_line(unescaped(part)));
+            part.clear();
+        } else {
+            part += value[i];
+            if (value[i] == '\\' && i + 1 < value.size())
+                part += value[++i];
+        }
+    }
+    return parts;
+}
+
+std::string part(const std::vector<std::string>& parts, std::size_t number) {
+    return number < parts.size() ? parts[number] : std::string();
+}
+
+class Card {
+public:
+    explicit Card(const Component& card) : properties_(properties_of(card)) {
+        found_.source.line = card.line;
+        read_names();
+        if (!found_.is_empty())
+            read_rest();
+        found_.source.title = text(field::name).empty() ? text(field::company) : text(field::name);
+        found_.source.uid = single_line(value_in(card, "UID"));
+    }
+    FoundCard take() { return std::move(found_); }
+
+private:
+    std::string text(int number) const {
+        const auto place = found_.contact.fields.find(number);
+        return place == found_.contact.fields.end() ? std::string() : place->second;
+    }
+
+    bool set(int number, const std::string& value) {
+        return !value.empty() && found_.contact.fields.emplace(number, value).second;
+    }
+
+    template <typename Take>
+    void each(std::string_view name, const Take& take) {
+        // Those that are preferred come first.
+        for (const bool preferred : {true, false})
+            for (const Property& property : properties_)
+                if (property.name == name && has(property, "pref") == preferred)
+                    take(property);
+    }
+
+    void read_names() {
+        each("FN", [&](const Property& p) { set(field::name, single_line(unescaped(p.value))); });
+        each("N", [&](const Property& p) {
+            const auto parts = parts_of(p.value);
+            std::string name;
+            for (const std::size_t number : {3, 1, 2, 0, 4}) // title, given, further, family, behind
+                if (const std::string word = part(parts, number); !word.empty())
+                    name += (name.empty() ? "" : " ") + word;
+            set(field::name, name);
+        });
+        each("ORG", [&](const Property& p) {
+            const auto parts = parts_of(p.value);
+            if (set(field::company, part(parts, 0)))
+                set(field::department, part(parts, 1));
+        });
+    }
+
+    void read_rest() {
+        const auto read_line = [&](std::string_view name, int number) {
+            each(name, [&](const Property& p) { set(number, single_line(unescaped(p.value))); });
+        };
+        read_line("TITLE", field::title);
+        read_line("EMAIL", field::e_mail);
+        read_line("URL", field::web_site);
+        read_line("BDAY", field::birthday);
+        each("TEL", [&](const Property& p) { read_phone(p); });
+        for (const bool home : {false, true})
+            each("ADR", [&](const Property& p) {
+                if (has(p, "home") == home)
+                    read_address(parts_of(p.value));
+            });
+        each("NOTE", [&](const Property& p) {
+            if (const std::string note = several_lines(unescaped(p.value)); !note.empty())
+                found_.notes.push_back(note);
+        });
+    }
+
+    void read_phone(const Property& property) {
+        std::string number = single_line(unescaped(property.value));
+        if (values::lower(number).starts_with("tel:"))
+            number.erase(0, 4);
+        if (has(property, "fax"))
+            set(field::fax, number);
+        else if (has(property, "pager"))
+            set(field::pager, number);
+        else if (has(property, "cell"))
+            set(field::mobile, number);
+        else if (has(property, "home"))
+            set(field::home_phone, number);
+        else
+            set(field::phone, number);
+    }
+
+    // Post box, extension, street, city, state, code, country. The first address is taken.
+    void read_address(const std::vector<std::string>& parts) {
+        const bool is_empty =
+            std::all_of(parts.begin(), parts.end(), [](const auto& part) { return part.empty(); });
+        if (is_empty || has_address_)
+            return;
+        has_address_ = true;
+        int line = field::address;
+        for (const std::size_t number : {2, 1, 0})
+            if (set(line, part(parts, number)))
+                ++line;
+        set(field::city, part(parts, 3));
+        set(field::state, part(parts, 4));
+        set(field::postcode, part(parts, 5));
+        set(field::country, part(parts, 6));
+    }
+
+    const std::vector<Property> properties_;
+    FoundCard found_;
+    bool has_address_ = false;
+};
+
+} // namespace
+
+FoundCard read_card(const Component& card) { return Card(card).take(); }
+
+} // namespace importing

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "import/content_lines.h"
+#include "import/report.h"
+#include "store/records.h"
+
+#include <string>
+#include <vector>
+
+namespace importing {
+
+struct FoundCard {
+    Source source{};
+    store::Contact contact{};
+    std::vector<std::string> notes{};
+    bool is_empty() const { return contact.fields.empty(); } // neither a name nor a company
+};
+
+// A VCARD of version 2.1, 3.0 or 4.0. Of several values that go into one field the first stays.
+FoundCard read_card(const Component& card);
+
+} // namespace importing

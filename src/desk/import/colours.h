@@ -1,0 +1,12 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string_view>
+
+namespace importing {
+
+// A colour as activities have it, from its CSS name in any case or "#rgb" or "#rrggbb"; absent for any other text.
+std::optional<std::uint32_t> colour_of(std::string_view text);
+
+} // namespace importing

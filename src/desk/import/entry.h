@@ -1,0 +1,29 @@
+#pragma once
+
+#include "import/calendar_times.h"
+#include "import/people.h"
+#include "import/report.h"
+#include "store/records.h"
+
+namespace importing {
+
+struct FoundActivity {
+    store::Activity activity{}; // without contacts and user
+    std::vector<Person> people{};
+};
+
+Source source_of(const Component& component);
+
+// An event or a to-do without its recurrence.
+struct Entry {
+    Source source{};
+    ParsedComponent component{};
+    FoundActivity found{};
+    icaltimetype start{};               // in its own zone
+    std::vector<std::string> changes{}; // what is taken otherwise than it stands, in sentences
+    std::string skipped{};              // why it can't be taken; empty when it can
+};
+
+Entry read_entry(const Component& component, Times& times);
+
+} // namespace importing

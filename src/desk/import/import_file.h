@@ -1,0 +1,39 @@
+#pragma once
+
+#include "import/local_zone.h"
+#include "import/report.h"
+#include "store/store.h"
+
+#include <string>
+#include <string_view>
+
+// Takes what an iCalendar or a vCard file holds into the database.
+//
+// Times become wall-clock times of the local zone; a floating time stays what it is. An all-day entry starts at
+// midnight and lasts its days of 1440 minutes each. An event without an end lasts no time, and a whole day when it
+// has no time of day either. A to-do without a start stands at its due time.
+//
+// A rule of recurrence becomes a series when the calendar shows that series on exactly the rule's dates; any other
+// becomes single activities: at most `most_of_a_rule` of them, and of a rule without an end those up to
+// `years_of_a_rule` years from today.
+namespace importing {
+
+inline constexpr std::size_t largest_file = 64 * 1024 * 1024; // bytes
+inline constexpr std::size_t most_of_a_rule = 1000;
+inline constexpr int years_of_a_rule = 2;
+
+struct Options {
+    std::string user{}; // the name of whom activities are scheduled for; empty for the database's first user
+    store::DateTime now = store::wall_clock();
+    LocalTime local_time = system_local_time;
+};
+
+// All or nothing: a failure (values::Failure, with a sentence for the user) leaves the database as it was. It
+// comes when the file can't be read or is no whole file of these kinds, when the user isn't there, and from the
+// store. An entry that can't be taken though the file is sound is told in the report.
+Report import_file(store::Store& store, const std::string& path, const Options& options = {});
+
+// The same for what such a file holds; the name is for messages alone.
+Report import_bytes(store::Store& store, std::string_view bytes, const std::string& name, const Options& options);
+
+} // namespace importing

@@ -1,0 +1,82 @@
+#include "import/people.h"
+
+#include "store/contact_fields.h"
+#include "values/text.h"
+
+#include <algorithm>
+
+namespace importing {
+namespace {
+
+namespace field = store::contact_field;
+
+std::string value_of(const store::Contact& contact, int number) {
+    const auto place = contact.fields.find(number);
+    return place == contact.fields.end() ? std::string() : values::lower(values::trimmed(place->second));
+}
+
+// What two cards of one person have in common.
+std::string card_key(const store::Contact& contact) {
+    const std::string mail = value_of(contact, field::e_mail);
+    const std::string rest = mail.empty() ? "\n" + value_of(contact, field::company) : mail;
+    return value_of(contact, field::name) + "\n" + rest;
+}
+
+} // namespace
+
+People::People(store::Store& store, std::string user) : store_(store), user_(values::lower(user)) {
+    for (const store::Contact& contact : store.contacts())
+        know(contact.id, contact);
+}
+
+void People::know(const std::string& id, const store::Contact& contact) {
+    if (const std::string mail = value_of(contact, field::e_mail); !mail.empty())
+        by_mail_.emplace(mail, id);
+    if (const std::string name = value_of(contact, field::name); !name.empty())
+        by_name_.emplace(name, id);
+    by_card_.emplace(card_key(contact), id);
+}
+
+std::string People::add(const store::Contact& contact) {
+    const std::string id = store_.add(contact);
+    know(id, contact);
+    ++added_;
+    return id;
+}
+
+std::string People::contact_of(const Person& person) {
+    const auto mail = by_mail_.find(values::lower(person.mail));
+    if (mail != by_mail_.end())
+        return mail->second;
+    const auto name = by_name_.find(values::lower(person.name));
+    if (name != by_name_.end())
+        return name->second;
+    if (values::lower(person.name) == user_ || (person.name.empty() && person.mail.empty()))
+        return {};
+    store::Contact contact;
+    contact.fields[field::name] = person.name.empty() ? person.mail : person.name;
+    if (!person.mail.empty())
+        contact.fields[field::e_mail] = person.mail;
+    return add(contact);
+}
+
+std::vector<std::string> People::contacts_of(const std::vector<Person>& persons) {
+    std::vector<std::string> contacts;
+    for (const Person& person : persons) {
+        const std::string id = contact_of(person);
+        if (!id.empty() && std::find(contacts.begin(), contacts.end(), id) == contacts.end())
+            contacts.push_back(id);
+    }
+    return contacts;
+}
+
+bool People::add(const store::Contact& contact, const std::vector<std::string>& notes, store::DateTime now) {
+    if (by_card_.contains(card_key(contact)))
+        return false;
+    const std::string id = add(contact);
+    for (const std::string& note : notes)
+        store_.add(store::Note{.contact = id, .written = now, .text = note});
+    return true;
+}
+
+} // namespace importing

@@ -1,0 +1,47 @@
+#include "import/report.h"
+
+#include <algorithm>
+
+namespace importing {
+namespace {
+
+std::string counted(std::size_t count, const std::string& one, const std::string& many) {
+    return std::to_string(count) + " " + (count == 1 ? one : many);
+}
+
+std::string line_of(const Remark& remark) {
+    std::string line = "  line " + std::to_string(remark.source.line);
+    if (!remark.source.title.empty())
+        line += ", \"" + remark.source.title + "\"";
+    if (!remark.source.uid.empty())
+        line += " (" + remark.source.uid + ")";
+    return line + ": " + remark.text + "\n";
+}
+
+std::string listed(const std::string& heading, const std::vector<Remark>& remarks, std::size_t most) {
+    if (remarks.empty())
+        return {};
+    std::string text = heading + "\n";
+    const std::size_t shown = std::min(most, remarks.size());
+    for (std::size_t i = 0; i < shown; ++i)
+        text += line_of(remarks[i]);
+    if (shown < remarks.size())
+        text += "  and " + std::to_string(remarks.size() - shown) + " more\n";
+    return text;
+}
+
+} // namespace
+
+std::string Report::text(std::size_t most_remarks) const {
+    std::string text = "Taken from " + file + ": " + counted(activities, "activity", "activities");
+    if (series > 0)
+        text += " (" + std::to_string(series) + " recurring)";
+    if (activities > 0)
+        text += " for " + user;
+    text +=
+        ", " + counted(contacts, "new contact", "new contacts") + ", " + counted(notes, "note", "notes") + ".\n";
+    return text + listed("Taken with a change:", changed, most_remarks) +
+           listed("Skipped:", skipped, most_remarks);
+}
+
+} // namespace importing

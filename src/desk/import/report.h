@@ -1,0 +1,37 @@
+#pragma once
+
+#include <cstddef>
+#include <limits>
+#include <string>
+#include <vector>
+
+namespace importing {
+
+// An entry of the file, so that a user finds it there.
+struct Source {
+    int line = 0; // of its beginning, from 1
+    std::string title{};
+    std::string uid{};
+};
+
+struct Remark {
+    Source source;
+    std::string text; // a sentence
+};
+
+// What became of the entries of a file.
+struct Report {
+    std::string file{};
+    std::string user{};         // for whom activities were scheduled
+    std::size_t activities = 0; // series among them
+    std::size_t series = 0;
+    std::size_t contacts = 0;
+    std::size_t notes = 0;
+    std::vector<Remark> changed{}; // taken, but not quite as they stood
+    std::vector<Remark> skipped{};
+
+    // For people, in lines. At most so many remarks of each kind are written out, the rest counted.
+    std::string text(std::size_t most_remarks = std::numeric_limits<std::size_t>::max()) const;
+};
+
+} // namespace importing

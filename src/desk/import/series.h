@@ -1,0 +1,24 @@
+#pragma once
+
+#include "store/records.h"
+
+#include <optional>
+#include <vector>
+
+namespace importing {
+
+// The dates on which a rule of some other program falls.
+struct RuleDates {
+    std::vector<store::DateTime> starts{}; // rising, to the minute, not empty
+    bool ended = false;                    // these are all; else the rule goes on behind `known_to`
+    store::DateTime known_to{};            // a date
+    int days = 0;                          // the rule's step in the unit that it is told in, the others 0
+    int weeks = 0;
+    int months = 0;
+};
+
+// The series that the calendar shows on exactly these starts, in whatever view of one day or of seven. Absent when
+// there is none.
+std::optional<store::Recurrence> series_on(const RuleDates& dates);
+
+} // namespace importing

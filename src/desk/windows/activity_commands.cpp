@@ -2,10 +2,8 @@
 
 #include "values/failure.h"
 #include "windows/activity_dialog.h"
+#include "windows/boxes.h"
 #include "windows/conversions.h"
-#include "windows/failure_box.h"
-
-#include <QMessageBox>
 
 namespace windows {
 namespace {
@@ -57,8 +55,7 @@ void ActivityCommands::remove(const std::string& activity) {
     const QString question = record.recurrence.kind == store::RecurrenceKind::none
                                  ? QObject::tr("Delete the activity \"%1\"?")
                                  : QObject::tr("Delete the whole series \"%1\"?");
-    if (QMessageBox::question(&window_, QObject::tr("Delete Activity"), question.arg(shown(record.regarding))) !=
-        QMessageBox::Yes)
+    if (!confirm(&window_, QObject::tr("Delete Activity"), question.arg(shown(record.regarding))))
         return;
     session_.store().remove_activity(activity);
     session_.refresh();

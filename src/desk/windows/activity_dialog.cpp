@@ -2,19 +2,22 @@
 
 #include "ui_activity_dialog.h"
 #include "values/failure.h"
+#include "windows/boxes.h"
 #include "windows/conversions.h"
-#include "windows/failure_box.h"
 #include "windows/rows.h"
 
 namespace windows {
 namespace {
 
-const QDate no_date(1900, 1, 1);
-
 void choose(QComboBox* box, const std::string& id, const QString& unknown) {
     if (box->findData(shown(id)) < 0)
         box->insertItem(0, unknown, shown(id));
     box->setCurrentIndex(box->findData(shown(id)));
+}
+
+void require(bool holds, const char* sentence) {
+    if (!holds)
+        throw values::Failure(values::FailureNumber::automation, sentence);
 }
 
 std::string chosen(const QComboBox* box) { return stored(box->currentData().toString()); }
@@ -45,14 +48,15 @@ void ActivityDialog::show_choices() {
     ui_->group_box->addItem(tr("None"), QString());
     for (const store::Group& group : session_.directory().groups())
         ui_->group_box->addItem(shown(group.name), shown(group.id));
-    ui_->date_edit->setDisplayFormat(date_pattern(session_.locale()));
-    ui_->time_edit->setDisplayFormat(time_pattern(session_.locale()));
+    ui_->date_edit->set_locale(session_.locale());
+    ui_->time_edit->set_locale(session_.locale());
 }
 
 void ActivityDialog::show_activity() {
     ui_->type_box->setCurrentIndex(ui_->type_box->findData(static_cast<int>(activity_.type)));
     ui_->priority_box->setCurrentIndex(ui_->priority_box->findData(static_cast<int>(activity_.priority)));
-    show_start();
+    ui_->date_edit->set_date(activity_.start);
+    ui_->time_edit->set_time(activity_.start.value_or(store::DateTime()));
     ui_->duration_box->setValue(activity_.duration);
     ui_->contact_chooser->show_contacts(activity_.contacts, session_.directory());
     ui_->regarding_edit->setText(shown(activity_.regarding));
@@ -68,28 +72,19 @@ void ActivityDialog::show_activity() {
                                   activity_.start.value_or(session_.today()), session_.locale());
 }
 
-// An activity that came without a date keeps none until the user gives it one.
-void ActivityDialog::show_start() {
-    if (activity_.start) {
-        ui_->date_edit->setDate(date_of(*activity_.start));
-        ui_->time_edit->setTime(time_of(*activity_.start));
-        return;
-    }
-    ui_->date_edit->setMinimumDate(no_date);
-    ui_->date_edit->setSpecialValueText(tr("No date"));
-    ui_->date_edit->setDate(no_date);
-}
-
 void ActivityDialog::connect_parts() {
     connect(ui_->alarm_box, &QCheckBox::toggled, ui_->alarm_lead_box, &QWidget::setEnabled);
-    connect(ui_->date_edit, &QDateEdit::dateChanged, this,
-            [this](QDate date) { ui_->recurring_tab->set_start(joined(date)); });
+    connect(ui_->date_edit, &DateField::date_changed, this,
+            [this] { ui_->recurring_tab->set_start(*ui_->date_edit->known_date()); });
 }
 
+// An activity that came without a date keeps none until the user gives it one.
 std::optional<store::DateTime> ActivityDialog::typed_start() const {
-    if (!activity_.start && ui_->date_edit->date() == no_date)
+    const auto date = ui_->date_edit->date();
+    require(date || !activity_.start, "Give the activity a date.");
+    if (!date)
         return std::nullopt;
-    return joined(ui_->date_edit->date(), ui_->time_edit->time());
+    return store::DateTime::from_seconds(date->seconds() + ui_->time_edit->time().seconds());
 }
 
 store::Activity ActivityDialog::typed() const {
@@ -112,10 +107,10 @@ store::Activity ActivityDialog::typed() const {
     result.details = stored(ui_->details_edit->toPlainText());
     result.recurrence = ui_->recurring_tab->rule();
     result.exceptions = ui_->recurring_tab->exceptions();
-    if (result.contacts.empty() && (activity_.id.empty() || !activity_.contacts.empty()))
-        throw values::Failure(values::FailureNumber::automation, "Choose at least one contact for the activity.");
-    if (!result.start && result.recurrence.kind != store::RecurrenceKind::none)
-        throw values::Failure(values::FailureNumber::automation, "An activity that repeats needs a date.");
+    const bool may_be_alone = !activity_.id.empty() && activity_.contacts.empty();
+    require(may_be_alone || !result.contacts.empty(), "Choose at least one contact for the activity.");
+    require(result.start || result.recurrence.kind == store::RecurrenceKind::none,
+            "An activity that repeats needs a date.");
     return result;
 }
 

@@ -26,7 +26,6 @@ public:
 private:
     void show_choices();
     void show_activity();
-    void show_start();
     void connect_parts();
     // The record as it stands in the dialog. Fails with 440 when something is missing or contradicts itself.
     store::Activity typed() const;

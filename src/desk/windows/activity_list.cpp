@@ -2,11 +2,9 @@
 
 #include "ui_activity_list.h"
 #include "values/failure.h"
+#include "windows/boxes.h"
 #include "windows/conversions.h"
-#include "windows/failure_box.h"
 #include "windows/rows.h"
-
-#include <QSignalBlocker>
 
 #include <algorithm>
 #include <tuple>
@@ -39,8 +37,10 @@ ActivityList::ActivityList(Session& session, Scope scope, QWidget* parent)
     : QWidget(parent), session_(session), scope_(scope), ui_(std::make_unique<Ui::ActivityList>()) {
     ui_->setupUi(this);
     ui_->activity_table->set_columns(activity_columns(), date_column);
-    for (QDateEdit* edit : {ui_->from_edit, ui_->to_edit})
-        edit->setDisplayFormat(date_pattern(session.locale()));
+    for (DateField* field : {ui_->from_edit, ui_->to_edit}) {
+        field->set_locale(session.locale());
+        connect(field, &DateField::date_changed, this, &ActivityList::take_filter);
+    }
     filter_.from = filter_.to = session.today();
     build_choices();
     show_users();
@@ -77,8 +77,6 @@ void ActivityList::build_choices() {
 
 void ActivityList::connect_bar() {
     connect(ui_->period_box, &QComboBox::activated, this, &ActivityList::take_filter);
-    connect(ui_->from_edit, &QDateEdit::dateChanged, this, &ActivityList::take_filter);
-    connect(ui_->to_edit, &QDateEdit::dateChanged, this, &ActivityList::take_filter);
     connect(ui_->cleared_box, &QCheckBox::clicked, this, &ActivityList::take_filter);
     connect(ui_->user_box, &QComboBox::activated, this, [this] {
         filter_.users = stored(ui_->user_box->currentData().toString());
@@ -104,16 +102,14 @@ void ActivityList::take_filter() {
     filter_.types = checked<store::ActivityType>(types_);
     filter_.priorities = checked<store::Priority>(priorities_);
     filter_.period = static_cast<Period>(ui_->period_box->currentIndex());
-    filter_.from = joined(ui_->from_edit->date());
-    filter_.to = joined(ui_->to_edit->date());
+    filter_.from = ui_->from_edit->known_date().value_or(filter_.from);
+    filter_.to = ui_->to_edit->known_date().value_or(filter_.to);
     filter_.with_cleared = ui_->cleared_box->isChecked();
     show_filter();
     attempt(window(), [this] { reload(); });
 }
 
 void ActivityList::show_filter() {
-    const QSignalBlocker no_from(ui_->from_edit);
-    const QSignalBlocker no_to(ui_->to_edit);
     for (const auto& choice : types_)
         choice.action->setChecked(filter_.types.contains(choice.kind));
     for (const auto& choice : priorities_)
@@ -121,8 +117,8 @@ void ActivityList::show_filter() {
     mark(ui_->types_button, tr("Types"), types_);
     mark(ui_->priorities_button, tr("Priorities"), priorities_);
     ui_->period_box->setCurrentIndex(static_cast<int>(filter_.period));
-    ui_->from_edit->setDate(date_of(filter_.from));
-    ui_->to_edit->setDate(date_of(filter_.to));
+    ui_->from_edit->set_date(filter_.from);
+    ui_->to_edit->set_date(filter_.to);
     const bool is_range = filter_.period == Period::range;
     for (QWidget* widget : {static_cast<QWidget*>(ui_->from_edit), static_cast<QWidget*>(ui_->to_edit),
                             static_cast<QWidget*>(ui_->to_label)})

@@ -15,7 +15,7 @@ ContactChooser::ContactChooser(QWidget* parent)
     auto* add_button = new QPushButton(tr("Add &Contacts..."), this);
     list_->setObjectName("contacts_list");
     list_->setAccessibleName(tr("Contacts of the activity"));
-    list_->setFixedHeight(list_->fontMetrics().height() * 4);
+    list_->setMinimumHeight(list_->fontMetrics().height() * 4);
     add_button->setObjectName("add_contacts_button");
     add_button->setAccessibleName(tr("Add contacts"));
     remove_button_->setObjectName("remove_contact_button");

@@ -1,6 +1,6 @@
 #include "windows/contact_list.h"
 
-#include "windows/failure_box.h"
+#include "windows/boxes.h"
 #include "windows/record_table.h"
 #include "windows/rows.h"
 
@@ -29,7 +29,7 @@ void ContactList::reload() {
 
 // When the page can't leave its contact, the table goes back to it.
 void ContactList::follow(const std::string& contact) {
-    if (contact.empty() || attempt(window(), [&] { lookup_.go_to(contact); }))
+    if (contact.empty() || contact == lookup_.current() || attempt(window(), [&] { lookup_.go_to(contact); }))
         return;
     table_->select(lookup_.current());
 }

@@ -4,8 +4,8 @@
 #include "ui_contact_page.h"
 #include "values/failure.h"
 #include "windows/activity_list.h"
+#include "windows/boxes.h"
 #include "windows/conversions.h"
-#include "windows/failure_box.h"
 #include "windows/groups_tab.h"
 #include "windows/notes_tab.h"
 

@@ -23,18 +23,12 @@ values::DateTime joined(QDate date, QTime time) {
     return values::DateTime::of(date.year(), date.month(), date.day(), time.hour(), time.minute(), time.second());
 }
 
-QString date_pattern(const values::Locale& locale) { return shown(locale.short_date); }
-
-QString time_pattern(const values::Locale& locale) {
-    return locale.is_24_hour() ? QStringLiteral("HH:mm") : QStringLiteral("h:mm AP");
-}
-
 QString date_text(values::DateTime value, const values::Locale& locale) {
     return shown(values::short_date(value, locale));
 }
 
 QString time_text(values::DateTime value, const values::Locale& locale) {
-    return locale.is_24_hour() ? shown(values::hh_nn(value)) : time_of(value).toString(time_pattern(locale));
+    return locale.is_24_hour() ? shown(values::hh_nn(value)) : time_of(value).toString(QStringLiteral("h:mm AP"));
 }
 
 QString duration_text(int minutes) {

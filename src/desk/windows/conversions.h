@@ -18,10 +18,7 @@ QDate date_of(values::DateTime value);
 QTime time_of(values::DateTime value);
 values::DateTime joined(QDate date, QTime time = QTime(0, 0));
 
-// The patterns for date and time fields, in the locale's order and with its 12 or 24 hours; times without seconds.
-QString date_pattern(const values::Locale& locale);
-QString time_pattern(const values::Locale& locale);
-
+// Dates in the locale's order, times with its 12 or 24 hours and without seconds.
 QString date_text(values::DateTime value, const values::Locale& locale);
 QString time_text(values::DateTime value, const values::Locale& locale);
 

@@ -1,7 +1,7 @@
 #include "windows/database_commands.h"
 
+#include "windows/boxes.h"
 #include "windows/conversions.h"
-#include "windows/failure_box.h"
 #include "windows/sample_file.h"
 
 #include <QFileDialog>
@@ -84,7 +84,7 @@ void DatabaseCommands::import_file() {
     attempt(&window_, [&] {
         const std::string result = import_(session_.store(), absolute(file));
         session_.refresh();
-        QMessageBox::information(&window_, tr("Import"), shown(result));
+        tell(&window_, tr("Import"), shown(result));
     });
 }
 

@@ -1,7 +1,7 @@
 #include "windows/groups_tab.h"
 
+#include "windows/boxes.h"
 #include "windows/conversions.h"
-#include "windows/failure_box.h"
 #include "windows/membership.h"
 
 #include <QSignalBlocker>

@@ -1,9 +1,9 @@
 #include "windows/groups_view.h"
 
 #include "ui_groups_view.h"
+#include "windows/boxes.h"
 #include "windows/contact_picker.h"
 #include "windows/conversions.h"
-#include "windows/failure_box.h"
 #include "windows/membership.h"
 #include "windows/rows.h"
 

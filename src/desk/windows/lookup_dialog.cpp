@@ -2,10 +2,9 @@
 
 #include "store/contact_fields.h"
 #include "ui_lookup_dialog.h"
+#include "windows/boxes.h"
 #include "windows/conversions.h"
-#include "windows/failure_box.h"
 
-#include <QMessageBox>
 #include <QPushButton>
 
 namespace windows {
@@ -26,7 +25,7 @@ void LookupDialog::accept() {
     const QString text = ui_->text_edit->text().trimmed();
     const auto found = lookup_.matching(stored(text), fields());
     if (found.empty()) {
-        QMessageBox::information(this, windowTitle(), tr("No contact has \"%1\" in its name.").arg(text));
+        tell(this, windowTitle(), tr("No contact has \"%1\" in its name.").arg(text));
         return;
     }
     if (attempt(this, [&] { lookup_.show(found); }))

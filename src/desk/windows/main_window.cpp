@@ -2,10 +2,10 @@
 
 #include "ui_main_window.h"
 #include "windows/activity_list.h"
+#include "windows/boxes.h"
 #include "windows/contact_list.h"
 #include "windows/contact_page.h"
 #include "windows/conversions.h"
-#include "windows/failure_box.h"
 #include "windows/groups_view.h"
 #include "windows/lookup_dialog.h"
 #include "windows/rows.h"
@@ -35,6 +35,7 @@ MainWindow::MainWindow(Session& session, Import import)
       view_actions_(this), count_label_(new QLabel(this)) {
     ui_->setupUi(this);
     setWindowIcon(picture("contact_desk"));
+    resize(size().boundedTo(screen()->availableSize()));
     build_views();
     connect_file_menu();
     connect_contact_menu();

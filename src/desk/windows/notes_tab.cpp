@@ -1,8 +1,8 @@
 #include "windows/notes_tab.h"
 
 #include "ui_notes_tab.h"
+#include "windows/boxes.h"
 #include "windows/conversions.h"
-#include "windows/failure_box.h"
 #include "windows/rows.h"
 
 namespace windows {

@@ -100,7 +100,7 @@ void RecordTable::fit_columns() {
         return;
     are_columns_fitted_ = true;
     resizeColumnsToContents();
-    const int widest = fontMetrics().averageCharWidth() * 30;
+    const int widest = fontMetrics().averageCharWidth() * 34;
     const int air = fontMetrics().averageCharWidth() * 2;
     for (int column = 0; column < sorted_.columnCount(); ++column)
         setColumnWidth(column, std::min(columnWidth(column) + air, widest));

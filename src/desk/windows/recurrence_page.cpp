@@ -2,6 +2,7 @@
 
 #include "ui_recurrence_page.h"
 #include "values/failure.h"
+#include "windows/boxes.h"
 #include "windows/conversions.h"
 
 #include <QGridLayout>
@@ -41,15 +42,14 @@ void RecurrencePage::show_rule(const store::Recurrence& rule, const std::vector<
                                store::DateTime start, const values::Locale& locale) {
     build_ticks(locale);
     start_ = start;
-    date_pattern_ = date_pattern(locale);
-    for (QDateEdit* edit : {ui_->until_edit, ui_->exception_edit}) {
-        edit->setDisplayFormat(date_pattern_);
-        edit->setDate(date_of(start));
-    }
+    locale_ = &locale;
+    for (DateField* field : {ui_->until_edit, ui_->exception_edit})
+        field->set_locale(locale);
+    ui_->exception_edit->set_date(start);
     ui_->kind_box->setCurrentIndex(static_cast<int>(rule.kind));
     ui_->frequency_box->setValue(rule.frequency);
     ui_->until_box->setChecked(rule.until.has_value());
-    ui_->until_edit->setDate(date_of(rule.until.value_or(start.plus_months(12))));
+    ui_->until_edit->set_date(rule.until.value_or(start.plus_months(12)));
     const auto days = static_cast<std::uint32_t>(rule.days_of_week);
     tick(weekly_days_, days);
     tick(month_weekdays_, days);
@@ -103,13 +103,11 @@ void RecurrencePage::connect_parts() {
     });
     connect(ui_->frequency_box, &QSpinBox::valueChanged, this, &RecurrencePage::show_kind);
     connect(ui_->until_box, &QCheckBox::toggled, this, &RecurrencePage::show_kind);
-    connect(ui_->add_exception_button, &QPushButton::clicked, this, [this] {
-        exceptions_.insert(joined(ui_->exception_edit->date()));
-        show_exceptions();
-    });
+    connect(ui_->add_exception_button, &QPushButton::clicked, this,
+            [this] { attempt(window(), [this] { add_exception(); }); });
     connect(ui_->remove_exception_button, &QPushButton::clicked, this, [this] {
         if (const QListWidgetItem* item = ui_->exceptions_list->currentItem())
-            exceptions_.erase(joined(item->data(Qt::UserRole).toDate()));
+            exceptions_.erase(store::DateTime::from_seconds(item->data(Qt::UserRole).toLongLong()));
         show_exceptions();
     });
     connect(ui_->exceptions_list, &QListWidget::currentRowChanged, this,
@@ -145,11 +143,18 @@ void RecurrencePage::suggest() {
         tick(month_days_, 1u << (start_.day() - 1));
 }
 
+void RecurrencePage::add_exception() {
+    const auto date = ui_->exception_edit->date();
+    require(date.has_value(), "Give the date to leave out.");
+    exceptions_.insert(*date);
+    show_exceptions();
+}
+
 void RecurrencePage::show_exceptions() {
     ui_->exceptions_list->clear();
     for (const store::DateTime date : exceptions_) {
-        auto* item = new QListWidgetItem(date_of(date).toString(date_pattern_), ui_->exceptions_list);
-        item->setData(Qt::UserRole, date_of(date));
+        auto* item = new QListWidgetItem(date_text(date, *locale_), ui_->exceptions_list);
+        item->setData(Qt::UserRole, qlonglong{date.seconds()});
     }
     ui_->remove_exception_button->setEnabled(false);
 }
@@ -160,8 +165,10 @@ store::Recurrence RecurrencePage::rule() const {
     if (rule.kind == RecurrenceKind::none)
         return rule;
     rule.frequency = ui_->frequency_box->value();
-    if (ui_->until_box->isChecked())
-        rule.until = joined(ui_->until_edit->date());
+    if (ui_->until_box->isChecked()) {
+        rule.until = ui_->until_edit->date();
+        require(rule.until.has_value(), "Give the last date of the series.");
+    }
     if (rule.kind == RecurrenceKind::weekly)
         rule.days_of_week = static_cast<int>(bits_of(weekly_days_));
     if (rule.kind == RecurrenceKind::days_of_month)

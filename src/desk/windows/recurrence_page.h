@@ -24,8 +24,8 @@ public:
     explicit RecurrencePage(QWidget* parent = nullptr);
     ~RecurrencePage() override;
 
-    // Called once, before the page is shown. A kind that is chosen afterwards begins with the start's own weekday
-    // or day.
+    // Called once, before the page is shown; the locale outlives it. A kind that is chosen afterwards begins with
+    // the start's own weekday or day.
     void show_rule(const store::Recurrence& rule, const std::vector<store::DateTime>& exceptions,
                    store::DateTime start, const values::Locale& locale);
     void set_start(store::DateTime start) { start_ = start; }
@@ -41,6 +41,7 @@ private:
     void connect_parts();
     void show_kind();
     void suggest();
+    void add_exception();
     void show_exceptions();
     store::RecurrenceKind kind() const;
 
@@ -51,7 +52,7 @@ private:
     std::vector<QCheckBox*> month_weekdays_;
     std::set<store::DateTime> exceptions_;
     store::DateTime start_;
-    QString date_pattern_;
+    const values::Locale* locale_ = nullptr;
 };
 
 } // namespace windows

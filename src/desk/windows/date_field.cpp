@@ -1,0 +1,79 @@
+#include "windows/date_field.h"
+
+#include "values/failure.h"
+#include "values/text_forms.h"
+#include "windows/conversions.h"
+
+#include <QAction>
+#include <QCalendarWidget>
+#include <QKeyEvent>
+
+namespace windows {
+
+DateField::DateField(QWidget* parent) : QLineEdit(parent), locale_(&values::english_us()) {
+    QAction* calendar = addAction(QIcon(QStringLiteral(":/desk/calendar.svg")), TrailingPosition);
+    calendar->setToolTip(tr("Show a calendar"));
+    connect(calendar, &QAction::triggered, this, &DateField::show_calendar);
+    connect(this, &QLineEdit::editingFinished, this, &DateField::take_typed);
+    setMinimumWidth(fontMetrics().averageCharWidth() * 16);
+}
+
+void DateField::set_date(std::optional<values::DateTime> date) {
+    known_ = date ? std::optional(date->date()) : std::nullopt;
+    setText(date ? date_text(*date, *locale_) : QString());
+}
+
+std::optional<values::DateTime> DateField::read() const {
+    const auto moment = values::parse_date(stored(text().trimmed()), *locale_);
+    if (!moment || moment->date() == values::DateTime())
+        return std::nullopt;
+    return moment->date();
+}
+
+std::optional<values::DateTime> DateField::date() const {
+    if (text().trimmed().isEmpty())
+        return std::nullopt;
+    const auto date = read();
+    if (!date)
+        throw values::Failure(values::FailureNumber::automation, "\"" + stored(text()) + "\" is no date.");
+    return date;
+}
+
+void DateField::take_typed() {
+    if (const auto date = read())
+        take(*date);
+}
+
+void DateField::take(values::DateTime date) {
+    const bool is_new = known_ != date;
+    set_date(date);
+    if (is_new)
+        emit date_changed();
+}
+
+void DateField::keyPressEvent(QKeyEvent* event) {
+    const int days = event->key() == Qt::Key_Up ? 1 : event->key() == Qt::Key_Down ? -1 : 0;
+    const auto date = read();
+    if (days != 0 && date)
+        take(date->plus_days(days));
+    else
+        QLineEdit::keyPressEvent(event);
+}
+
+void DateField::show_calendar() {
+    auto* calendar = new QCalendarWidget(this);
+    calendar->setWindowFlag(Qt::Popup);
+    calendar->setAttribute(Qt::WA_DeleteOnClose);
+    if (const auto date = read())
+        calendar->setSelectedDate(date_of(*date));
+    const auto pick = [this, calendar](QDate date) {
+        take(joined(date));
+        calendar->close();
+    };
+    connect(calendar, &QCalendarWidget::clicked, this, pick);
+    connect(calendar, &QCalendarWidget::activated, this, pick);
+    calendar->move(mapToGlobal(QPoint(0, height())));
+    calendar->show();
+}
+
+} // namespace windows

@@ -1,0 +1,108 @@
+#include "windows/activity_commands.h"
+
+#include "desk_fixture.h"
+#include "values/failure.h"
+#include "windows/activity_dialog.h"
+
+#include <QComboBox>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QSpinBox>
+
+using namespace windows;
+
+namespace {
+
+class ActivityCommandsTest : public DeskTest {
+protected:
+    ActivityCommandsTest() : lookup(session), commands(session, lookup, window) {
+        session.open(path);
+        window.show();
+    }
+    ActivityDialog* dialog() { return window.findChild<ActivityDialog*>(); }
+    void press(Qt::Key key) {
+        QTest::keyClick(child<QLineEdit>(*dialog(), "regarding_edit"), key);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+
+    Lookup lookup;
+    QWidget window;
+    ActivityCommands commands;
+    int finished = 0;
+    std::function<void()> count = [this] { ++finished; };
+};
+
+} // namespace
+
+TEST_F(ActivityCommandsTest, SchedulesWithTheShownContactAtTheNextHalfHour) {
+    lookup.go_to(cedar);
+    commands.schedule(store::ActivityType::call, count);
+    ASSERT_NE(dialog(), nullptr);
+    EXPECT_EQ(child<QLineEdit>(*dialog(), "date_edit")->text(), "3/6/2024");
+    EXPECT_EQ(child<QComboBox>(*dialog(), "time_edit")->currentText(), "10:30 AM");
+    EXPECT_EQ(child<QSpinBox>(*dialog(), "duration_box")->value(), 15);
+    EXPECT_EQ(child<QComboBox>(*dialog(), "user_box")->currentText(), "Anna Berg");
+    type(child<QLineEdit>(*dialog(), "regarding_edit"), "Ring up");
+    EXPECT_EQ(finished, 0);
+    press(Qt::Key_Return);
+    EXPECT_EQ(finished, 1);
+    store::ActivityQuery query;
+    query.contact = cedar;
+    query.from = at(3, 6);
+    const auto found = elsewhere()->activities(query);
+    ASSERT_EQ(found.size(), 1u);
+    EXPECT_EQ(found[0].regarding, "Ring up");
+}
+
+TEST_F(ActivityCommandsTest, WhatWasStoredIsShownWhenTheCommandHasFinished) {
+    int changes = 0;
+    QObject::connect(&session, &Session::changed, [&] { ++changes; });
+    commands.edit(call, [&] { EXPECT_EQ(changes, 1); });
+    retype(child<QLineEdit>(*dialog(), "regarding_edit"), "Other prices");
+    press(Qt::Key_Return);
+    EXPECT_EQ(changes, 1);
+    EXPECT_EQ(elsewhere()->activity(call)->regarding, "Other prices");
+}
+
+TEST_F(ActivityCommandsTest, CancelFinishesToo) {
+    commands.edit(call, count);
+    press(Qt::Key_Escape);
+    EXPECT_EQ(finished, 1);
+    EXPECT_FALSE(commands.is_dialog_open());
+}
+
+TEST_F(ActivityCommandsTest, ASecondDialogIsRefusedWhileOneIsOpen) {
+    commands.edit(call, count);
+    EXPECT_TRUE(commands.is_dialog_open());
+    EXPECT_THROW(commands.edit(meeting, count), values::Failure);
+    EXPECT_THROW(commands.schedule(store::ActivityType::call, count), values::Failure);
+    EXPECT_THROW(commands.remove(call), values::Failure);
+    press(Qt::Key_Escape);
+    EXPECT_EQ(finished, 1);
+    EXPECT_NO_THROW(commands.edit(meeting, count));
+}
+
+TEST_F(ActivityCommandsTest, WithoutAnActivityThereIsNothingToEdit) {
+    EXPECT_THROW(commands.edit("", count), values::Failure);
+    EXPECT_THROW(commands.edit("NOTHING00000", count), values::Failure);
+    EXPECT_EQ(finished, 0);
+    EXPECT_EQ(dialog(), nullptr);
+}
+
+TEST_F(ActivityCommandsTest, WithoutADatabaseNothingOpens) {
+    session.close();
+    EXPECT_THROW(commands.schedule(store::ActivityType::call, count), values::Failure);
+    EXPECT_THROW(commands.edit(call, count), values::Failure);
+    EXPECT_EQ(dialog(), nullptr);
+}
+
+TEST_F(ActivityCommandsTest, DeletesAfterAYes) {
+    const auto answer = [](QMessageBox::StandardButton button) {
+        return [button](QWidget& box) { click(dynamic_cast<QMessageBox&>(box).button(button)); };
+    };
+    with_dialogs({answer(QMessageBox::No)}, [&] { commands.remove(call); });
+    EXPECT_TRUE(elsewhere()->activity(call).has_value());
+    with_dialogs({answer(QMessageBox::Yes)}, [&] { commands.remove(call); });
+    EXPECT_FALSE(elsewhere()->activity(call).has_value());
+}

@@ -1,0 +1,192 @@
+#include "windows/activity_list.h"
+
+#include "desk_fixture.h"
+#include "values/failure.h"
+#include "windows/date_field.h"
+#include "windows/record_table.h"
+#include "windows/rows.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QMenu>
+#include <QPushButton>
+
+using namespace windows;
+using Scope = ActivityList::Scope;
+
+namespace {
+
+class ActivityListTest : public DeskTest {
+protected:
+    ActivityListTest() { session.open(path); }
+
+    static std::vector<std::string> ids(const ActivityList& list) {
+        std::vector<std::string> result;
+        for (int row = 0; row < list.row_count(); ++row)
+            result.push_back(list.activity(row).id);
+        return result;
+    }
+
+    static void show(ActivityList& list) {
+        list.resize(900, 300);
+        list.show();
+    }
+
+    static void choose(ActivityList& list, const char* box, const QString& text) {
+        auto* combo = child<QComboBox>(list, box);
+        combo->setFocus();
+        while (combo->currentText() != text && combo->currentIndex() + 1 < combo->count())
+            QTest::keyClick(combo, Qt::Key_Down);
+        EXPECT_EQ(combo->currentText(), text);
+    }
+
+    using Ids = std::vector<std::string>;
+};
+
+} // namespace
+
+TEST_F(ActivityListTest, ShowsTheContactsOpenActivities) {
+    ActivityList list(session, Scope::contact);
+    EXPECT_EQ(ids(list), Ids{});
+    list.show_contact(amber);
+    EXPECT_EQ(ids(list), (Ids{call, meeting}));
+    EXPECT_EQ(child<QLabel>(list, "count_label")->text(), "2 activities");
+    list.show_contact(cedar);
+    EXPECT_EQ(ids(list), Ids{series});
+    EXPECT_EQ(child<QLabel>(list, "count_label")->text(), "1 activity");
+}
+
+TEST_F(ActivityListTest, ATickShowsTheClearedOnesToo) {
+    ActivityList list(session, Scope::contact);
+    list.show_contact(amber);
+    show(list);
+    auto* box = child<QCheckBox>(list, "cleared_box");
+    QTest::mouseClick(box, Qt::LeftButton, {}, QPoint(8, box->height() / 2));
+    EXPECT_EQ(ids(list), (Ids{old_task, call, meeting}));
+    EXPECT_TRUE(list.filter().with_cleared);
+}
+
+TEST_F(ActivityListTest, FiltersByUser) {
+    ActivityList list(session, Scope::everybody);
+    show(list);
+    choose(list, "user_box", "Bert Cole");
+    EXPECT_EQ(ids(list), Ids{meeting});
+    EXPECT_EQ(list.filter().users, bert);
+}
+
+TEST_F(ActivityListTest, FiltersByPeriod) {
+    ActivityList list(session, Scope::everybody);
+    show(list);
+    choose(list, "period_box", "Today");
+    EXPECT_EQ(ids(list), (Ids{series, call}));
+    EXPECT_FALSE(child<DateField>(list, "from_edit")->isVisible());
+}
+
+TEST_F(ActivityListTest, ARangeIsTypedIntoTwoDateFields) {
+    ActivityList list(session, Scope::everybody);
+    show(list);
+    choose(list, "period_box", "Date range");
+    auto* from = child<DateField>(list, "from_edit");
+    EXPECT_TRUE(from->isVisible());
+    EXPECT_EQ(from->date(), at(3, 6));
+    from->setFocus();
+    retype(from, "3/7/2024");
+    QTest::keyClick(from, Qt::Key_Return);
+    auto* to = child<DateField>(list, "to_edit");
+    retype(to, "3/8/2024");
+    QTest::keyClick(to, Qt::Key_Return);
+    EXPECT_EQ(ids(list), (Ids{series, meeting}));
+}
+
+TEST_F(ActivityListTest, FiltersByTypeAndTellsSoOnTheButton) {
+    ActivityList list(session, Scope::everybody);
+    show(list);
+    auto* button = child<QPushButton>(list, "types_button");
+    QTimer::singleShot(0, [&] {
+        auto* menu = child<QMenu>(list, "types_menu");
+        QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(menu->actions().front()).center());
+    });
+    click(button);
+    EXPECT_EQ(ids(list), (Ids{series, meeting}));
+    EXPECT_EQ(button->text(), "Types (2 of 3)");
+}
+
+TEST_F(ActivityListTest, AFilterSetFromOutsideShowsInTheBar) {
+    ActivityList list(session, Scope::contact);
+    list.show_contact(amber);
+    show(list);
+    list.set_filter(filter_of({234, "6\\1/31/2024\\2/2/2024", anna}, session.locale()));
+    EXPECT_EQ(ids(list), Ids{});
+    list.set_filter(filter_of({242, "6\\1/31/2024\\2/2/2024", anna}, session.locale()));
+    EXPECT_EQ(ids(list), Ids{old_task});
+    EXPECT_EQ(child<QPushButton>(list, "types_button")->text(), "Types (1 of 3)");
+    EXPECT_EQ(child<QComboBox>(list, "period_box")->currentText(), "Date range");
+    EXPECT_EQ(child<DateField>(list, "from_edit")->date(), at(1, 31));
+    EXPECT_EQ(child<QComboBox>(list, "user_box")->currentText(), "Anna Berg");
+    EXPECT_TRUE(child<QCheckBox>(list, "cleared_box")->isChecked());
+}
+
+TEST_F(ActivityListTest, KeepsAFilterForSeveralUsersWhileOtherPartsOfItChange) {
+    ActivityList list(session, Scope::everybody);
+    show(list);
+    list.set_filter(filter_of({252, "1", anna + bert}, session.locale()));
+    EXPECT_EQ(child<QComboBox>(list, "user_box")->currentIndex(), -1);
+    choose(list, "period_box", "Today");
+    EXPECT_EQ(list.filter().users, anna + bert);
+}
+
+TEST_F(ActivityListTest, SelectsTheRowThatIsAskedFor) {
+    ActivityList list(session, Scope::contact);
+    list.show_contact(amber);
+    list.select(1, true);
+    EXPECT_EQ(list.current_id(), meeting);
+    list.select(0, false);
+    EXPECT_EQ(list.current_id(), meeting);
+    list.select(1, false);
+    EXPECT_EQ(list.current_id(), "");
+}
+
+TEST_F(ActivityListTest, ARowThatThereIsNotFails) {
+    ActivityList list(session, Scope::contact);
+    list.show_contact(amber);
+    EXPECT_THROW(list.activity(2), values::Failure);
+    EXPECT_THROW(list.activity(-1), values::Failure);
+    EXPECT_THROW(list.select(2, true), values::Failure);
+}
+
+TEST_F(ActivityListTest, RowsCountAsTheyAreSortedOnTheScreen) {
+    ActivityList list(session, Scope::contact);
+    list.show_contact(amber);
+    child<RecordTable>(list, "activity_table")->sortByColumn(date_column, Qt::DescendingOrder);
+    EXPECT_EQ(ids(list), (Ids{meeting, call}));
+}
+
+TEST_F(ActivityListTest, FollowsTheDatabaseAndKeepsItsSelection) {
+    ActivityList list(session, Scope::contact);
+    list.show_contact(amber);
+    list.select(1, true);
+    auto other = elsewhere();
+    const auto added = activity(*other, store::ActivityType::call, at(3, 7), "Remind", anna, {amber});
+    session.refresh();
+    EXPECT_EQ(ids(list), (Ids{call, added, meeting}));
+    EXPECT_EQ(list.current_id(), meeting);
+}
+
+TEST_F(ActivityListTest, EverybodysActivitiesAreReadWhenTheyAreSeen) {
+    ActivityList list(session, Scope::everybody);
+    show(list);
+    list.hide();
+    activity(*elsewhere(), store::ActivityType::call, at(3, 7), "Remind", anna, {amber});
+    session.refresh();
+    list.show();
+    EXPECT_EQ(list.row_count(), 4);
+}
+
+TEST_F(ActivityListTest, IsEmptyWhenTheDatabaseCloses) {
+    ActivityList list(session, Scope::everybody);
+    show(list);
+    session.close();
+    EXPECT_EQ(list.row_count(), 0);
+    EXPECT_EQ(child<QComboBox>(list, "user_box")->count(), 1);
+}

@@ -1,0 +1,27 @@
+#include "windows/open_toolbar_commands.h"
+
+#include "desk_fixture.h"
+#include "values/failure.h"
+
+using windows::OpenToolbarCommands;
+
+using OpenToolbarCommandsTest = DeskTest;
+
+TEST_F(OpenToolbarCommandsTest, AreThoseOfTheOpenDatabase) {
+    OpenToolbarCommands commands(session);
+    session.open(path);
+    commands.add({"Orvanta", "/opt/orvanta", "/opt", "Orvanta", "Click to launch Orvanta", "", "", 1});
+    EXPECT_TRUE(commands.place("Orvanta", store::CommandPlace::toolbar, 2));
+    EXPECT_TRUE(commands.exists("Orvanta"));
+    EXPECT_TRUE(commands.stands("Orvanta", store::CommandPlace::toolbar, 2));
+    EXPECT_EQ(commands.at(store::CommandPlace::toolbar, 2).size(), 1u);
+    EXPECT_TRUE(commands.displace("Orvanta", store::CommandPlace::toolbar, 2));
+    EXPECT_EQ(commands.all().size(), 1u);
+    session.create(in_folder("other.desk"));
+    EXPECT_FALSE(commands.exists("Orvanta"));
+}
+
+TEST_F(OpenToolbarCommandsTest, FailWithoutADatabase) {
+    OpenToolbarCommands commands(session);
+    EXPECT_THROW(commands.exists("Orvanta"), values::Failure);
+}

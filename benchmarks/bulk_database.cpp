@@ -1,4 +1,4 @@
-#include "bench/bulk_database.h"
+#include "benchmarks/bulk_database.h"
 
 #include "store/contact_fields.h"
 

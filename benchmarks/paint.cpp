@@ -1,16 +1,15 @@
 // How long a page of the calendar's grid takes to paint, beside a QTableView that shows the same texts and
 // colours.
+#include "benchmarks/times.h"
 #include "grid_widget/grid_style.h"
 #include "grid_widget/grid_widget.h"
 
 #include <QAbstractTableModel>
 #include <QApplication>
-#include <QElapsedTimer>
 #include <QHeaderView>
 #include <QImage>
 #include <QTableView>
 
-#include <algorithm>
 #include <array>
 #include <cstdio>
 #include <optional>
@@ -21,7 +20,6 @@ namespace {
 constexpr int columns = 9;
 constexpr int title_height = 390, row_height = 820, column_width = 2200; // twips
 constexpr QSize page(1400, 900);
-constexpr int runs = 11;
 
 void fill(grid::GridModel& model, int row_count) {
     static const std::array<const char*, 5> texts{
@@ -115,35 +113,17 @@ struct Pages {
     QTableView table;
 };
 
-// Milliseconds of the runs of one case.
-class Times {
-public:
-    void add(double time) { times_.push_back(time); }
-    double median() {
-        std::sort(times_.begin(), times_.end());
-        return times_[times_.size() / 2];
-    }
-    double least() const { return *std::min_element(times_.begin(), times_.end()); }
-    double most() const { return *std::max_element(times_.begin(), times_.end()); }
-
-private:
-    std::vector<double> times_;
-};
-
 // What is painted is the viewport: the page without scroll bars and frame.
 double paint(const QAbstractScrollArea& area, QImage& image) {
-    QElapsedTimer timer;
-    timer.start();
-    area.viewport()->render(&image);
-    return static_cast<double>(timer.nsecsElapsed()) / 1e6;
+    return bench::measured([&] { area.viewport()->render(&image); });
 }
 
 // All cases are measured by turns, so that whatever else the machine does falls on all of them.
 void compare(Pages& short_one, Pages& long_one, qreal ratio) {
     QImage image(page * ratio, QImage::Format_RGB32);
     image.setDevicePixelRatio(ratio);
-    std::array<Times, 2> grids, tables;
-    for (int run = 0; run <= runs; ++run)
+    std::array<bench::Times, 2> grids, tables;
+    for (int run = 0; run <= bench::runs; ++run)
         for (Pages* pages : {&short_one, &long_one}) {
             const std::size_t which = pages == &long_one ? 1 : 0;
             const double grid = paint(*pages->grid, image);
@@ -154,8 +134,8 @@ void compare(Pages& short_one, Pages& long_one, qreal ratio) {
             tables[which].add(table);
         }
     for (const std::size_t which : {0, 1}) {
-        Times& grid = grids[which];
-        Times& table = tables[which];
+        const bench::Times& grid = grids[which];
+        const bench::Times& table = tables[which];
         std::printf("paint rows=%d cols=%d dpr=%.0f grid_ms=%.3f (%.3f..%.3f) tableview_ms=%.3f (%.3f..%.3f) "
                     "ratio=%.3f\n",
                     which == 0 ? short_one.rows : long_one.rows, columns, ratio, grid.median(), grid.least(),

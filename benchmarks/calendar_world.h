@@ -1,0 +1,80 @@
+#pragma once
+
+#include "adapters/desk/desk_data.h"
+#include "adapters/qt/files.h"
+#include "engine/calendar_engine.h"
+#include "support/fake_act_server.h"
+#include "support/fake_timer.h"
+#include "support/grid_world.h"
+
+#include <memory>
+#include <string>
+
+namespace bench {
+
+// The calendar over a database file, as far as a refresh goes: the real engine, grid, settings and data; no window
+// and no running desk.
+class CalendarWorld : private act::Server {
+public:
+    // Shows the week that holds the day.
+    CalendarWorld(std::string database, const std::string& settings_file, values::DateTime day)
+        : database_(std::move(database)) {
+        ini.SettingsFile = settings_file;
+        session.Create_Database();
+        users.Initialize_Users(false);
+        users.map_users();
+        calendar.layout.NumDays = 7;
+        calendar.layout.Initialize_Dates(day);
+        calendar.Setup_Calendar(calendar.layout.StartDate, calendar.layout.EndDate);
+    }
+
+    // Raises the changed flag of every slot that holds something.
+    void touch_slots() {
+        for (grid::clsMsgSchedSlot& slot : calendar.layout.Slots)
+            if (const grid::SlotRecord first = slot.record(0); first.InUse) {
+                slot.DeleteCell(first.ActivityID);
+                slot.SetCell(first.ActivityID, first.ContactID, first.Recurring, first.Cleared, first.BackColor,
+                             first.ForeColor, first.Type, first.Text, first.Detail, first.HasDetails,
+                             first.GoesBeyond);
+            }
+    }
+    void draw() { calendar.rendering.Display_Changes(""); }
+
+private:
+    std::unique_ptr<act::Application> create_application() override { return desk_.create_application(); }
+    std::unique_ptr<act::Database> create_database() override {
+        return desk::make_database([this] { return database_; });
+    }
+    std::unique_ptr<act::AuxCommands> create_aux_commands() override { return desk_.create_aux_commands(); }
+
+    std::string database_;
+    support::FakeActData desk_data_;
+    support::FakeApplicationState desk_state_;
+    support::FakeServer desk_{desk_data_, desk_state_};
+    support::FakeMessageBox box_;
+    host::ApplicationInfo application_{.title = "Orvanta", .major = 1, .support_address = ""};
+    host::Guard guarded_{box_, application_};
+    std::unique_ptr<host::Files> files_ = qt::make_files();
+    support::FakeUserStore user_values_;
+    settings::PerUserStore user_store_{user_values_};
+    support::FakeClock clock_;
+    support::FakeWindow window_;
+    support::FakeFolders folders_;
+    support::FakeTimer timer_;
+    const values::Locale& locale_ = values::english_us();
+    const bool is_loading_ = false;
+
+public:
+    settings::IniLib ini{*files_, guarded_};
+    act::Session session{*this, guarded_};
+    act::ListPopulator lists{session, guarded_};
+    act::UserList users{session, lists, ini, guarded_};
+    grid::CalendarGrid calendar{users, folders_,
+                                grid::Surroundings{ini, user_store_, locale_, clock_, window_, guarded_}};
+    engine::CalendarEngine engine{engine::Surroundings{session, users, lists, calendar, ini, locale_, clock_,
+                                                       timer_, box_, window_, guarded_, is_loading_}};
+    // Boxes that were shown: a run with one of them measured something else.
+    std::size_t failures() const { return box_.shown.size(); }
+};
+
+} // namespace bench

@@ -130,21 +130,26 @@ def wait_to_find(process, role, name=None):
     return wait_for(lambda: find(process, role, name), f"an object of role {role.value_nick} named {name!r}")
 
 
+def names(process, role):
+    """The names of all objects of that role."""
+    return [node.get_name() for node in descendants(application_of(process)) if node.get_role() == role]
+
+
 def press(process, role, name):
     """Does the default action of an object: a button's press, a menu entry's choice."""
-    wait_to_find(process, role, name).get_action_iface().do_action(0)
+    Atspi.Action.do_action(wait_to_find(process, role, name), 0)
 
 
 class Grid:
     """The calendar's grid as the accessibility bus tells it."""
 
     def __init__(self, calendar):
-        self.table = wait_to_find(calendar, Atspi.Role.TABLE).get_table_iface()
-        self.rows = self.table.get_n_rows()
-        self.columns = self.table.get_n_columns()
+        self.table = wait_to_find(calendar, Atspi.Role.TABLE)
+        self.rows = Atspi.Table.get_n_rows(self.table)
+        self.columns = Atspi.Table.get_n_columns(self.table)
 
     def text(self, row, column):
-        return self.table.get_accessible_at(row, column).get_name()
+        return Atspi.Table.get_accessible_at(self.table, row, column).get_name()
 
     def column(self, column):
         return [self.text(row, column) for row in range(self.rows)]

@@ -5,7 +5,7 @@ import os
 import signal
 import unittest
 
-from desktop import Atspi, Desktop, Grid, press, wait_for, wait_to_find
+from desktop import Atspi, Desktop, Grid, names, press, wait_for
 from sample_week import cells_of_week, users, week_of
 
 PLAIN_ONLY = "[Settings]\r\nCheckRecurring=0\r\n"
@@ -140,10 +140,8 @@ class CalendarBesideTheDesk(unittest.TestCase):
 
     def dismiss_box(self, process, beginning):
         """Waits for a box with a text that begins so, and closes it by its button."""
-        def look():
-            label = wait_to_find(process, Atspi.Role.LABEL)
-            return label.get_name().startswith(beginning)
-        wait_for(look, f"a box with the text '{beginning}'")
+        wait_for(lambda: any(label.startswith(beginning) for label in names(process, Atspi.Role.LABEL)),
+                 f"a box with the text '{beginning}'")
         press(process, Atspi.Role.PUSH_BUTTON, "OK")
 
     def user_store(self):

@@ -30,7 +30,7 @@ std::string mailbox(const Name& name) {
 class SampleMaker {
 public:
     SampleMaker(Store& store, DateTime day)
-        : store_(store), today_(day.date()), monday_(today_.plus_days(1 - today_.weekday_from(2))) {}
+        : store_(store), today_(day.date()), monday_(today_.plus_days(2 - today_.weekday())) {}
 
     void fill() {
         for (const Person& person : colleagues)
@@ -147,8 +147,10 @@ private:
     }
 
     void add(Activity activity) {
+        // Most of what lies weeks back has been cleared; of the present week, which is looked at first, little.
         const bool is_past = *activity.start < today_;
-        if (activity.recurrence.kind == RecurrenceKind::none && is_past && in_so_many_of_100(80)) {
+        const int cleared_of_100 = *activity.start < monday_ ? 80 : 15;
+        if (activity.recurrence.kind == RecurrenceKind::none && is_past && in_so_many_of_100(cleared_of_100)) {
             activity.cleared = true;
             activity.result = text_of(results);
         }
@@ -160,7 +162,7 @@ private:
         return one_of(lengths);
     }
 
-    // The present week is dense, the others less so. Now and then two of a user's activities overlap.
+    // The present week, which begins on a Sunday, is dense, the others less so. Now and then two of a user's activities overlap.
     void add_week(int week) {
         const bool is_present = week == 0;
         for (int weekday = 0; weekday < 5; ++weekday) {

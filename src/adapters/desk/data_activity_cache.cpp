@@ -45,7 +45,6 @@ void ActivityCache::take_in(const store::ActivityChanges& changes) {
 void ActivityCache::update_entries(const store::ActivityChanges& changes) {
     if (changes.changed.empty() && changes.removed.empty())
         return;
-    ++generation_;
     std::unordered_set<Id> outdated(changes.removed.begin(), changes.removed.end());
     for (const ActivityRow& row : changes.changed)
         outdated.insert(row.entry.key.id);
@@ -71,7 +70,6 @@ void ActivityCache::forget_all() {
     has_all_series_ = false;
     series_count_ = 0;
     entries_.reset();
-    ++generation_;
     exceptions_.reset();
     details_.clear();
 }
@@ -129,7 +127,6 @@ void ActivityCache::load_entries() {
     if (entries_)
         return;
     entries_.emplace();
-    ++generation_;
     reading_.each_entry([this](const ActivityEntry& entry) { entries_->push_back(entry); });
 }
 
@@ -149,7 +146,7 @@ const ActivityEntry* ActivityCache::first(const std::optional<Scope>& scope, Hin
         return found != rows_.end() && holds(*scope, found->first.start) ? &found->second->entry : nullptr;
     }
     load_entries();
-    hint = {.generation = generation_, .index = 0};
+    hint = 0;
     return entries_->empty() ? nullptr : &entries_->front();
 }
 
@@ -163,14 +160,14 @@ const ActivityEntry* ActivityCache::next(const ActivityKey& place, const std::op
         return found != rows_.end() && holds(*scope, found->first.start) ? &found->second->entry : nullptr;
     }
     load_entries();
-    if (hint.generation == generation_ && hint.index < entries_->size() && (*entries_)[hint.index].key == place) {
-        ++hint.index;
+    if (hint < entries_->size() && (*entries_)[hint].key == place) {
+        ++hint;
     } else {
         const auto found =
             std::upper_bound(entries_->begin(), entries_->end(), ActivityEntry{.key = place}, by_key);
-        hint = {.generation = generation_, .index = static_cast<std::size_t>(found - entries_->begin())};
+        hint = static_cast<std::size_t>(found - entries_->begin());
     }
-    return hint.index < entries_->size() ? &(*entries_)[hint.index] : nullptr;
+    return hint < entries_->size() ? &(*entries_)[hint] : nullptr;
 }
 
 std::shared_ptr<const ActivityRow> ActivityCache::row(const ActivityEntry& entry) {

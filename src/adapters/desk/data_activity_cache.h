@@ -30,11 +30,8 @@ public:
     void take_in(const store::ActivityChanges& changes);
     void forget_all();
 
-    // Where the last step of a walk without a scope arrived, so that the next one needs no search.
-    struct Hint {
-        std::uint64_t generation = 0;
-        std::size_t index = 0;
-    };
+    // Where the last step of a walk without a scope arrived, so that the next one mostly needs no search.
+    using Hint = std::size_t;
     // The first entry of the list, and the first one behind a place. None at its end. What they give lives until
     // the next call of any member.
     const store::ActivityEntry* first(const std::optional<Scope>& scope, Hint& hint);
@@ -73,7 +70,6 @@ private:
     std::size_t series_count_ = 0; // when they were read
 
     std::optional<std::vector<store::ActivityEntry>> entries_; // in order
-    std::uint64_t generation_ = 1;                             // of entries_
 
     std::optional<std::unordered_map<store::Id, std::vector<store::DateTime>>> exceptions_;
     std::unordered_map<store::Id, std::string> details_;

@@ -57,7 +57,7 @@ private:
     bool walked_here_ = false; // rather than gone to by id
     store::ActivityEntry entry_;
     std::shared_ptr<const store::ActivityRow> row_; // none until it is asked for
-    ActivityCache::Hint hint_;
+    ActivityCache::Hint hint_ = 0;
 };
 
 } // namespace desk

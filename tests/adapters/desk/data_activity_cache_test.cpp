@@ -67,7 +67,7 @@ protected:
     // The subjects of a walk, each record's row read.
     std::string walk(const std::optional<Scope>& scope) {
         std::string names;
-        ActivityCache::Hint hint;
+        ActivityCache::Hint hint = 0;
         const ActivityEntry* entry = cache.first(scope, hint);
         while (entry) {
             const ActivityEntry here = *entry;
@@ -105,7 +105,7 @@ TEST_F(Cache, WalksTheWholeListByItsEntriesAlone) {
             store.add(i % 10 == 0 ? daily("series", i) : meeting("plain", i));
     });
     int series = 0, all = 0;
-    ActivityCache::Hint hint;
+    ActivityCache::Hint hint = 0;
     for (const ActivityEntry* entry = cache.first({}, hint); entry;
          entry = cache.next(ActivityKey(entry->key), {}, hint)) {
         series += entry->recurring;
@@ -121,7 +121,7 @@ TEST_F(Cache, ReadsAllSeriesAtOnceForTheFirstThatIsAskedFor) {
         for (int i = 0; i < 600; ++i)
             store.add(i % 2 == 0 ? daily("s", i) : meeting("p", i));
     });
-    ActivityCache::Hint hint;
+    ActivityCache::Hint hint = 0;
     for (const ActivityEntry* entry = cache.first({}, hint); entry;) {
         const ActivityEntry here = *entry;
         if (here.recurring) {

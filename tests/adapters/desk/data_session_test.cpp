@@ -45,7 +45,7 @@ TEST_F(Sessions, GiveNothingForAContactOrAGroupThatThereIsNot) {
 
 TEST_F(Sessions, CatchUpWithMoreChangesThanTheyTakeIn) {
     const std::string first = store.add(meeting("first"));
-    desk::ActivityCache::Hint hint;
+    desk::ActivityCache::Hint hint = 0;
     ASSERT_NE(session.activities().first({}, hint), nullptr);
     store.together([&] {
         for (int i = 0; i < 20100; ++i)

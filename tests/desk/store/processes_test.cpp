@@ -35,9 +35,13 @@ TEST(Processes, LoseNothingWhenTwoWriteTenThousandActivitiesAtTheSameTime) {
     database.close();
     const auto write = [path = database.path()](int first) {
         const auto store = Store::open(path, any_moment);
-        for (int i = first; i < first + 5000; i += 2) {
-            store->add(numbered(i));
-            store->together([&] { store->add(numbered(i + 1)); });
+        for (int i = first; i < first + 5000; i += 20) {
+            for (int j = 0; j < 10; ++j)
+                store->add(numbered(i + j));
+            store->together([&] {
+                for (int j = 10; j < 20; ++j)
+                    store->add(numbered(i + j));
+            });
         }
     };
     ChildProcess other([&](ChildProcess::Report) { write(5000); });

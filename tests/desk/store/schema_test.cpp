@@ -108,8 +108,10 @@ TEST(Schema, RefusesADatabaseOfANewerVersionAndLeavesItAsItIs) {
 
 TEST(Schema, RefusesAFileThatWasCutInHalf) {
     TemporaryDatabase database;
-    for (int i = 0; i < 300; ++i)
-        database.store().add(store::Contact{});
+    database.store().together([&] {
+        for (int i = 0; i < 300; ++i)
+            database.store().add(store::Contact{});
+    });
     database.close();
     const auto size = std::filesystem::file_size(database.path());
     std::filesystem::resize_file(database.path(), size / 2);

@@ -198,8 +198,7 @@ private:
         series.recurrence = recurrence;
         series.exceptions = exceptions;
         series.colour = one_of(colours);
-        if (user % 2 == 0)
-            series.contacts.push_back(contacts_[pick_from(contacts_)]);
+        series.contacts.push_back(contacts_[pick_from(contacts_)]);
         add(series);
     }
 

@@ -6,27 +6,20 @@
 #include <gtest/gtest.h>
 #include <sqlite3.h>
 
+#include <algorithm>
 #include <filesystem>
-#include <fstream>
-#include <sstream>
 
 using store::Connection;
 using store::Migration;
 using store::Store;
+using support::content_of;
 using support::store_failure;
 using support::TemporaryDatabase;
 using support::TemporaryFolder;
+using support::write_file;
 using values::DateTime;
 
 namespace {
-
-void write(const std::string& path, const std::string& bytes) { std::ofstream(path, std::ios::binary) << bytes; }
-
-std::string content_of(const std::string& path) {
-    std::ostringstream bytes;
-    bytes << std::ifstream(path, std::ios::binary).rdbuf();
-    return bytes.str();
-}
 
 // Runs a script on a file that need not be there yet.
 void run_script(const std::string& path, const std::string& script) {
@@ -76,7 +69,7 @@ TEST(Schema, RefusesAPipe) { expect_failure_with("/dev/null", "can't be opened")
 
 TEST(Schema, RefusesAnEmptyFileAndLeavesItEmpty) {
     const TemporaryFolder folder;
-    write(folder.file("empty.desk"), "");
+    write_file(folder.file("empty.desk"), "");
     expect_failure_with(folder.file("empty.desk"), "isn't a contact database");
     EXPECT_EQ(content_of(folder.file("empty.desk")), "");
 }
@@ -84,7 +77,7 @@ TEST(Schema, RefusesAnEmptyFileAndLeavesItEmpty) {
 TEST(Schema, RefusesATextAndLeavesItAsItIs) {
     const TemporaryFolder folder;
     const std::string text(5000, 'x');
-    write(folder.file("letter.txt"), text);
+    write_file(folder.file("letter.txt"), text);
     expect_failure_with(folder.file("letter.txt"), "isn't a contact database");
     EXPECT_EQ(content_of(folder.file("letter.txt")), text);
 }
@@ -142,14 +135,14 @@ TEST(Schema, FailsAsDamagedWhenAPageInTheMiddleIsOverwritten) {
     database.close();
     std::string bytes = content_of(database.path());
     std::fill(bytes.begin() + 100000, bytes.end(), '\x55');
-    write(database.path(), bytes);
+    write_file(database.path(), bytes);
     const std::string sentence = store_failure([&] { database.open_again()->activities({}); });
     EXPECT_NE(sentence.find("damaged"), std::string::npos) << sentence;
 }
 
 TEST(Schema, MakesNoDatabaseOverAnExistingFile) {
     const TemporaryFolder folder;
-    write(folder.file("letter.txt"), "Dear all");
+    write_file(folder.file("letter.txt"), "Dear all");
     const std::string sentence = store_failure([&] { Store::create(folder.file("letter.txt")); });
     EXPECT_NE(sentence.find("already"), std::string::npos);
     EXPECT_EQ(content_of(folder.file("letter.txt")), "Dear all");
@@ -215,7 +208,7 @@ protected:
     std::unique_ptr<Connection> connection;
 
     void SetUp() override {
-        write(path, "");
+        write_file(path, "");
         connection = std::make_unique<Connection>(path, Connection::Mode::read_write);
     }
     std::int64_t number(std::string_view sql) { return ::number(*connection, sql); }

@@ -15,11 +15,15 @@ const std::set<std::string>& wanted_lines() {
     return names;
 }
 
+bool is_free_text(std::string_view name) {
+    return name == "DESCRIPTION" || name == "SUMMARY" || name == "LOCATION" || name == "CATEGORIES";
+}
+
 void write(const Component& component, std::string& text) {
     text += "BEGIN:" + component.name + "\r\n";
     for (const Line& line : component.lines)
-        if (wanted_lines().contains(name_of(line)))
-            text += line.text + "\r\n";
+        if (const std::string name = name_of(line); wanted_lines().contains(name) && !is_too_long(line))
+            text += line.text.substr(0, longest_line) + "\r\n";
     for (const Component& part : component.parts)
         if (part.name == "VALARM" || part.name == "STANDARD" || part.name == "DAYLIGHT")
             write(part, text);
@@ -72,6 +76,8 @@ icaltimezone* system_zone(const std::string& name) {
 }
 
 } // namespace
+
+bool is_too_long(const Line& line) { return line.text.size() > longest_line && !is_free_text(name_of(line)); }
 
 ParsedComponent parsed(const Component& component) {
     std::string text;

@@ -21,6 +21,11 @@ struct FreeComponent {
 };
 using ParsedComponent = std::unique_ptr<icalcomponent, FreeComponent>;
 
+// The parser's time rises with the square of a line's length. Of a free text, which is stored shorter anyway, so
+// many bytes go through it; any other line that is longer doesn't go at all.
+inline constexpr std::size_t longest_line = 200000;
+bool is_too_long(const Line& line);
+
 // The component through the library's parser, with those of its lines and parts that an import reads. Absent when
 // the parser makes nothing of it.
 ParsedComponent parsed(const Component& component);

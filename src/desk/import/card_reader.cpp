@@ -54,20 +54,13 @@ std::string from_quoted_printable(std::string_view text) {
 
 std::vector<Property> properties_of(const Component& card) {
     std::vector<Property> properties;
-    for (std::size_t i = 0; i < card.lines.size(); ++i) {
-        const Line& line = card.lines[i];
+    for (const Line& line : card.lines) {
         Property property{name_of(line), {}, std::string(value_of(line))};
         const std::string head = line.text.substr(0, line.text.size() - property.value.size());
         if (const std::size_t parameters = head.find(';'); parameters != head.npos)
             property.parameters = values::lower(std::string_view(head).substr(parameters));
-        if (has(property, "quoted-printable")) {
-            // A "=" at the end of a line takes the next one in.
-            while (property.value.ends_with('=') && i + 1 < card.lines.size()) {
-                property.value.pop_back();
-                property.value += card.lines[++i].text;
-            }
+        if (has(property, "quoted-printable"))
             property.value = from_quoted_printable(property.value);
-        }
         if (!property.name.empty() && !has(property, "base64") && !has(property, "b"))
             properties.push_back(std::move(property));
     }

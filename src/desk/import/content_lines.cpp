@@ -33,6 +33,15 @@ bool is_empty(std::string_view line) {
     return std::all_of(line.begin(), line.end(), [](char c) { return c == ' ' || c == '\t' || c == '\x1A'; });
 }
 
+// In quoted-printable text a "=" at the end of a line takes the next one in as it stands.
+bool takes_next_line_in(std::string_view line) {
+    constexpr std::size_t longest_head = 200;
+    if (!line.ends_with('='))
+        return false;
+    const std::string head = capitals(line.substr(0, longest_head));
+    return head.substr(0, head.find(':')).find("QUOTED-PRINTABLE") != head.npos;
+}
+
 // A fold may part the bytes of a character, so lines are joined before they are read as text.
 std::vector<Line> unfolded(std::string_view bytes) {
     std::vector<Line> lines;
@@ -43,6 +52,11 @@ std::vector<Line> unfolded(std::string_view bytes) {
         bytes.remove_prefix(end);
         bytes.remove_prefix(bytes.starts_with("\r\n") ? 2 : bytes.empty() ? 0 : 1);
         ++number;
+        if (!lines.empty() && takes_next_line_in(lines.back().text)) {
+            lines.back().text.pop_back();
+            lines.back().text += line;
+            continue;
+        }
         const bool goes_on = !lines.empty() && (line.starts_with(' ') || line.starts_with('\t'));
         if (goes_on)
             lines.back().text += line.substr(1);

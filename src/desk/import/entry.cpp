@@ -52,7 +52,8 @@ bool reads_start(Entry& entry, bool is_to_do, Times& times) {
 }
 
 // In minutes, as the entry says it.
-std::int64_t told_duration(Entry& entry, bool is_to_do, Times& times) {
+std::int64_t told_duration(Entry& entry, const Component& told, Times& times) {
+    const bool is_to_do = told.name == "VTODO";
     const DateTime start = *entry.found.activity.start;
     icalcomponent* component = entry.component.get();
     const auto end = times.first(component, is_to_do ? ICAL_DUE_PROPERTY : ICAL_DTEND_PROPERTY);
@@ -60,11 +61,14 @@ std::int64_t told_duration(Entry& entry, bool is_to_do, Times& times) {
         return (times.local(*end).seconds() - start.seconds()) / 60;
     if (icalproperty* duration = property_of(entry, ICAL_DURATION_PROPERTY))
         return seconds_of(icalproperty_get_duration(duration)) / 60;
+    for (const char* name : {is_to_do ? "DUE" : "DTEND", "DURATION"})
+        if (!value_in(told, name).empty())
+            entry.changes.push_back(std::string("Its ") + name + " can't be read and was left out.");
     return entry.start.is_date && !is_to_do ? minutes_of_day : 0;
 }
 
-void read_duration(Entry& entry, bool is_to_do, Times& times) {
-    const std::int64_t told = told_duration(entry, is_to_do, times);
+void read_duration(Entry& entry, const Component& component, Times& times) {
+    const std::int64_t told = told_duration(entry, component, times);
     if (told < 0)
         entry.changes.push_back("It ends before it starts, so it was taken without a duration.");
     if (told > longest)
@@ -172,18 +176,14 @@ void read_people(Entry& entry) {
         }
 }
 
-void tell_unreadable_lines(Entry& entry, const Component& component) {
+void tell_lines_left_out(Entry& entry, const Component& component) {
     for (const Line& line : component.lines)
         if (name_of(line).empty())
             entry.changes.push_back("Line " + std::to_string(line.number) + " can't be read and was left out.");
-    const struct {
-        const char* name;
-        icalproperty_kind kind;
-    } told[] = {
-        {"RRULE", ICAL_RRULE_PROPERTY}, {"DTEND", ICAL_DTEND_PROPERTY}, {"DURATION", ICAL_DURATION_PROPERTY}};
-    for (const auto& [name, kind] : told)
-        if (!value_in(component, name).empty() && !property_of(entry, kind))
-            entry.changes.push_back(std::string("Its ") + name + " can't be read and was left out.");
+        else if (is_too_long(line))
+            entry.changes.push_back("Line " + std::to_string(line.number) + " is too long and was left out.");
+    if (!value_in(component, "RRULE").empty() && !property_of(entry, ICAL_RRULE_PROPERTY))
+        entry.changes.push_back("Its RRULE can't be read and was left out.");
 }
 
 } // namespace
@@ -219,11 +219,11 @@ Entry read_entry(const Component& component, Times& times) {
         const icalproperty_class kind = icalproperty_get_class(secrecy);
         activity.is_private = kind == ICAL_CLASS_PRIVATE || kind == ICAL_CLASS_CONFIDENTIAL;
     }
-    read_duration(entry, is_to_do, times);
+    read_duration(entry, component, times);
     read_alarm(entry, times);
     read_colour(entry);
     read_people(entry);
-    tell_unreadable_lines(entry, component);
+    tell_lines_left_out(entry, component);
     return entry;
 }
 

@@ -6,6 +6,7 @@
 #include "values/failure.h"
 #include "values/text.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 
@@ -100,6 +101,8 @@ Report import_bytes(store::Store& store, std::string_view bytes, const std::stri
         fail("Nothing was taken from \"" + name + "\": " + failure.description() + ".");
     }
     store.together([&] { write(store, found, user, options.now, report); });
+    for (std::vector<Remark>* remarks : {&report.changed, &report.skipped})
+        std::ranges::stable_sort(*remarks, {}, [](const Remark& remark) { return remark.source.line; });
     return report;
 }
 

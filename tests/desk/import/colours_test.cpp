@@ -1,0 +1,25 @@
+#include "import/colours.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using importing::colour_of;
+
+TEST(ColourOf, PutsBlueIntoTheHighByte) {
+    EXPECT_EQ(colour_of("#102030"), 0x302010u);
+    EXPECT_EQ(colour_of("red"), 0x0000FFu);
+    EXPECT_EQ(colour_of("blue"), 0xFF0000u);
+}
+
+TEST(ColourOf, ReadsNamesInAnyCaseAndShortNumbers) {
+    EXPECT_EQ(colour_of(" RebeccaPurple "), 0x993366u);
+    EXPECT_EQ(colour_of("#f80"), 0x0088FFu);
+}
+
+TEST(ColourOf, KnowsNoOtherText) {
+    for (const char* text : {"", "#", "#12", "#1234567", "#12345g", "#-12345", "redd", "12345678"})
+        EXPECT_FALSE(colour_of(text)) << text;
+}
+
+} // namespace

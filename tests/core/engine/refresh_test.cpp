@@ -151,6 +151,7 @@ TEST_F(RefreshTest, SkipsAStartInTextBeforeTheViewAndPlacesOneInside) {
     world_.add("Early", day(10)).fields[field::start] = std::string("1/6/2024 9:00:00 AM");
     world_.add("Inside", day(10)).fields[field::start] = std::string("1/7/2024 9:00:00 AM");
     EXPECT_EQ(refresh(), Texts{"1/2 Inside"});
+    EXPECT_TRUE(world_.box.shown.empty());
 }
 
 TEST_F(RefreshTest, AStartInTextBehindTheViewShowsTheBoxAndTheWalkGoesOn) {

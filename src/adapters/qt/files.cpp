@@ -1,10 +1,10 @@
 #include "adapters/qt/files.h"
 
+#include "adapters/qt/file_lock.h"
 #include "adapters/qt/file_state.h"
 
 #include <QFile>
 #include <QFileInfo>
-#include <QLockFile>
 #include <QSaveFile>
 
 namespace qt {
@@ -12,17 +12,6 @@ namespace qt {
 namespace {
 
 constexpr int lock_milliseconds = 5000;
-
-class QtFileLock : public host::FileLock {
-public:
-    explicit QtFileLock(const QString& path) : lock_(path + ".lock") {
-        lock_.setStaleLockTime(0); // only the death of its process frees a lock
-    }
-    bool take() { return lock_.tryLock(lock_milliseconds); }
-
-private:
-    QLockFile lock_;
-};
 
 // The file behind the links, so that a link stays one.
 QString target_of(const QString& path) {
@@ -68,10 +57,7 @@ public:
     }
 
     std::unique_ptr<host::FileLock> lock(const std::string& path) override {
-        auto lock = std::make_unique<QtFileLock>(target_of(QString::fromStdString(path)));
-        if (!lock->take())
-            return nullptr;
-        return lock;
+        return take_lock(target_of(QString::fromStdString(path)) + ".lock", lock_milliseconds);
     }
 };
 

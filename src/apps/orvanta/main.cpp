@@ -13,12 +13,14 @@
 
 #include <QApplication>
 #include <QDBusConnection>
+#include <QIcon>
 
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
     const host::ApplicationInfo& info = host::application_info();
     QApplication::setApplicationName(QString::fromStdString(info.title));
     QGuiApplication::setDesktopFileName("orvanta");
+    QGuiApplication::setWindowIcon(QIcon(":/orvanta/orvanta.svg"));
     QApplication::setQuitOnLastWindowClosed(false); // the program says itself when it ends
     qt::dress(application);
 

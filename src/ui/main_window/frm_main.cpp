@@ -12,6 +12,7 @@ namespace ui {
 namespace {
 
 constexpr int retry_milliseconds = 20;
+constexpr qreal grid_points = 8; // what the standard sizes of rows and columns have room for
 
 std::unique_ptr<Ui::frmMain> make_controls(QMainWindow& window) {
     auto controls = std::make_unique<Ui::frmMain>();
@@ -28,6 +29,10 @@ frmMain::frmMain(const shell::Platform& platform)
     : controls_(make_controls(*this)), face_(*this, *controls_, [this] { unload(); }), calendar_(face_, platform),
       msgSched_(std::make_unique<GridWidget>(calendar_.grid.msgSched, controls_->picForm)) {
     msgSched_->setObjectName("msgSched");
+    msgSched_->setFrameShape(QFrame::StyledPanel);
+    QFont small = msgSched_->font();
+    small.setPointSizeF(grid_points);
+    msgSched_->setFont(small);
     msgSched_->setFocus();
     face_.msgSched = msgSched_.get();
     calendar_.grid.msgSched.add_observer(*this);

@@ -1,8 +1,10 @@
 #include "adapters/qt/files.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QProcess>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
@@ -102,6 +104,33 @@ TEST_F(Files, LeaveNothingButThemselvesBehind) {
     ASSERT_TRUE(files->replace(path("a"), "x"));
     ASSERT_NE(files->lock(path("a")), nullptr);
     EXPECT_EQ(QDir(place.path()).entryList(QDir::Files | QDir::Hidden), QStringList{"a"});
+}
+
+TEST_F(Files, AreLockedByOneProcessAfterTheOther) {
+    constexpr int processes = 4, rounds = 25;
+    ASSERT_TRUE(files->replace(path("count"), "0"));
+    std::vector<std::unique_ptr<QProcess>> others;
+    for (int i = 0; i < processes; ++i) {
+        others.push_back(std::make_unique<QProcess>());
+        others.back()->start(QCoreApplication::applicationDirPath() + "/test_counter",
+                             {place.filePath("count"), QString::number(rounds)});
+    }
+    for (const auto& other : others) {
+        ASSERT_TRUE(other->waitForFinished());
+        EXPECT_EQ(other->exitCode(), 0);
+    }
+    EXPECT_EQ(bytes(path("count")), std::to_string(processes * rounds));
+    EXPECT_EQ(QDir(place.path()).entryList(QDir::Files), QStringList{"count"});
+}
+
+TEST_F(Files, CanBeLockedAfterAProcessDiedWithTheLock) {
+    QProcess other;
+    other.start(QCoreApplication::applicationDirPath() + "/test_counter", {place.filePath("a"), "hold"});
+    ASSERT_TRUE(other.waitForReadyRead());
+    ASSERT_EQ(other.readLine().trimmed(), "locked");
+    other.kill();
+    ASSERT_TRUE(other.waitForFinished());
+    EXPECT_NE(files->lock(path("a")), nullptr);
 }
 
 #ifdef Q_OS_UNIX

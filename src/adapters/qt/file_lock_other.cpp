@@ -1,0 +1,29 @@
+#include "adapters/qt/file_lock.h"
+
+#include <QLockFile>
+
+namespace qt {
+
+namespace {
+
+class Lock : public host::FileLock {
+public:
+    explicit Lock(const QString& lock_file) : file_(lock_file) {
+        file_.setStaleLockTime(0); // only the death of its process frees a lock
+    }
+    bool take(int milliseconds) { return file_.tryLock(milliseconds); }
+
+private:
+    QLockFile file_;
+};
+
+} // namespace
+
+std::unique_ptr<host::FileLock> take_lock(const QString& lock_file, int milliseconds) {
+    auto lock = std::make_unique<Lock>(lock_file);
+    if (!lock->take(milliseconds))
+        return nullptr;
+    return lock;
+}
+
+} // namespace qt

@@ -162,7 +162,8 @@ private:
         return one_of(lengths);
     }
 
-    // The present week, which begins on a Sunday, is dense, the others less so. Now and then two of a user's activities overlap.
+    // The present week, which begins on a Sunday, is dense, the others less so. Now and then two of a user's
+    // activities overlap.
     void add_week(int week) {
         const bool is_present = week == 0;
         for (int weekday = 0; weekday < 5; ++weekday) {

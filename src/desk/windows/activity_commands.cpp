@@ -1,9 +1,9 @@
 #include "windows/activity_commands.h"
 
-#include "values/failure.h"
 #include "windows/activity_dialog.h"
 #include "windows/boxes.h"
 #include "windows/conversions.h"
+#include "windows/refusal.h"
 
 namespace windows {
 namespace {
@@ -20,10 +20,6 @@ std::string first_enabled(const std::vector<store::User>& users) {
         if (user.access == "Enabled")
             return user.id;
     return users.empty() ? std::string() : users.front().id;
-}
-
-[[noreturn]] void refuse(const char* sentence) {
-    throw values::Failure(values::FailureNumber::automation, sentence);
 }
 
 } // namespace

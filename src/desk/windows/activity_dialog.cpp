@@ -1,9 +1,9 @@
 #include "windows/activity_dialog.h"
 
 #include "ui_activity_dialog.h"
-#include "values/failure.h"
 #include "windows/boxes.h"
 #include "windows/conversions.h"
+#include "windows/refusal.h"
 #include "windows/rows.h"
 
 namespace windows {
@@ -13,11 +13,6 @@ void choose(QComboBox* box, const std::string& id, const QString& unknown) {
     if (box->findData(shown(id)) < 0)
         box->insertItem(0, unknown, shown(id));
     box->setCurrentIndex(box->findData(shown(id)));
-}
-
-void require(bool holds, const char* sentence) {
-    if (!holds)
-        throw values::Failure(values::FailureNumber::automation, sentence);
 }
 
 std::string chosen(const QComboBox* box) { return stored(box->currentData().toString()); }

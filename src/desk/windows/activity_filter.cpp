@@ -1,10 +1,10 @@
 #include "windows/activity_filter.h"
 
 #include "store/activity_reading.h"
-#include "values/failure.h"
 #include "values/ids.h"
 #include "values/text.h"
 #include "values/text_forms.h"
+#include "windows/refusal.h"
 
 #include <algorithm>
 #include <array>
@@ -63,8 +63,7 @@ void read_dates(ActivityFilter& filter, const std::string& dates, const values::
     const auto from = pieces.size() == 3 ? values::parse_date(pieces[1], locale) : std::nullopt;
     const auto to = pieces.size() == 3 ? values::parse_date(pieces[2], locale) : std::nullopt;
     if (pieces.empty() || pieces[0] != "6" || !from || !to)
-        throw values::Failure(values::FailureNumber::automation,
-                              "The dates of the activity filter can't be read: \"" + dates + "\".");
+        refuse("The dates of the activity filter can't be read: \"" + dates + "\".");
     filter.period = Period::range;
     filter.from = from->date();
     filter.to = to->date();

@@ -3,6 +3,7 @@
 #include "store/contact_fields.h"
 #include "windows/conversions.h"
 #include "windows/directory.h"
+#include "windows/rows.h"
 
 #include <QLabel>
 
@@ -20,13 +21,6 @@ const std::vector<std::vector<int>> columns = {
      field::country},
 };
 
-QString label_of(int number) {
-    for (const store::ContactField& one : store::contact_fields())
-        if (one.number == number)
-            return QString::fromUtf8(one.label.data(), static_cast<qsizetype>(one.label.size()));
-    return {};
-}
-
 } // namespace
 
 ContactForm::ContactForm(QGridLayout& grid, QWidget* page) : QObject(page) {
@@ -39,7 +33,7 @@ ContactForm::ContactForm(QGridLayout& grid, QWidget* page) : QObject(page) {
 }
 
 void ContactForm::add_line(QGridLayout& grid, QWidget* page, int number, int row, int column) {
-    const QString name = label_of(number);
+    const QString name = field_label(number);
     auto* label = new QLabel(name + ":", page);
     auto* line = new QLineEdit(page);
     line->setObjectName(QStringLiteral("field_%1").arg(number));

@@ -2,12 +2,12 @@
 
 #include "store/contact_fields.h"
 #include "ui_contact_page.h"
-#include "values/failure.h"
 #include "windows/activity_list.h"
 #include "windows/boxes.h"
 #include "windows/conversions.h"
 #include "windows/groups_tab.h"
 #include "windows/notes_tab.h"
+#include "windows/refusal.h"
 
 namespace windows {
 namespace {
@@ -69,7 +69,7 @@ void ContactPage::set_active_tab(const std::string& name) {
             ui_->tabs->setCurrentIndex(tab);
             return;
         }
-    throw values::Failure(values::FailureNumber::automation, "The contact page has no tab \"" + name + "\".");
+    refuse("The contact page has no tab \"" + name + "\".");
 }
 
 void ContactPage::begin_new() {

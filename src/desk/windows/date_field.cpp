@@ -1,8 +1,8 @@
 #include "windows/date_field.h"
 
-#include "values/failure.h"
 #include "values/text_forms.h"
 #include "windows/conversions.h"
+#include "windows/refusal.h"
 
 #include <QAction>
 #include <QCalendarWidget>
@@ -35,7 +35,7 @@ std::optional<values::DateTime> DateField::date() const {
         return std::nullopt;
     const auto date = read();
     if (!date)
-        throw values::Failure(values::FailureNumber::automation, "\"" + stored(text()) + "\" is no date.");
+        refuse("\"" + stored(text()) + "\" is no date.");
     return date;
 }
 

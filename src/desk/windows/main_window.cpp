@@ -54,7 +54,11 @@ MainWindow::MainWindow(Session& session, Import import)
     show_state();
 }
 
-MainWindow::~MainWindow() { poll_.stop(); }
+// The views go first: they use members of the window to their end.
+MainWindow::~MainWindow() {
+    poll_.stop();
+    delete takeCentralWidget();
+}
 
 void MainWindow::build_views() {
     auto* contact_list = new ContactList(session_, lookup_);

@@ -1,6 +1,6 @@
 #include "windows/membership.h"
 
-#include "values/failure.h"
+#include "windows/refusal.h"
 
 #include <algorithm>
 
@@ -12,7 +12,7 @@ void change_group(Session& session, const std::string& id, Change&& change) {
     session.store().together([&] {
         auto group = session.store().group(id);
         if (!group)
-            throw values::Failure(values::FailureNumber::automation, "The group isn't in the database any more.");
+            refuse("The group isn't in the database any more.");
         change(group->contacts);
         session.store().update(*group);
     });

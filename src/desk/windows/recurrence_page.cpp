@@ -1,9 +1,9 @@
 #include "windows/recurrence_page.h"
 
 #include "ui_recurrence_page.h"
-#include "values/failure.h"
 #include "windows/boxes.h"
 #include "windows/conversions.h"
+#include "windows/refusal.h"
 
 #include <QGridLayout>
 
@@ -23,11 +23,6 @@ std::uint32_t bits_of(const std::vector<QCheckBox*>& ticks) {
 void tick(const std::vector<QCheckBox*>& ticks, std::uint32_t bits) {
     for (std::size_t place = 0; place < ticks.size(); ++place)
         ticks[place]->setChecked((bits >> place & 1u) != 0);
-}
-
-void require(bool holds, const char* sentence) {
-    if (!holds)
-        throw values::Failure(values::FailureNumber::automation, sentence);
 }
 
 } // namespace

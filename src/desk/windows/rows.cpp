@@ -13,13 +13,6 @@ namespace field = store::contact_field;
 constexpr int contact_list_fields[] = {field::company, field::name,   field::title, field::phone,
                                        field::e_mail,  field::mobile, field::city,  field::country};
 
-QString label_of(int number) {
-    for (const store::ContactField& one : store::contact_fields())
-        if (one.number == number)
-            return QString::fromUtf8(one.label.data(), static_cast<qsizetype>(one.label.size()));
-    return {};
-}
-
 QString names_of(const std::vector<std::string>& contacts, const Directory& directory) {
     QStringList names;
     for (const std::string& contact : contacts)
@@ -64,7 +57,7 @@ Row activity_row(const store::Activity& activity, const Directory& directory, co
 std::vector<Column> contact_columns() {
     std::vector<Column> columns;
     for (const int number : contact_list_fields)
-        columns.push_back({label_of(number)});
+        columns.push_back({field_label(number)});
     return columns;
 }
 
@@ -116,6 +109,13 @@ std::vector<Row> group_rows(const std::vector<store::Group>& groups) {
         rows.push_back({group.id, {{shown(group.name)}, {QString::number(count), count}}});
     }
     return rows;
+}
+
+QString field_label(int number) {
+    for (const store::ContactField& one : store::contact_fields())
+        if (one.number == number)
+            return QString::fromUtf8(one.label.data(), static_cast<qsizetype>(one.label.size()));
+    return {};
 }
 
 QString type_name(store::ActivityType type) {

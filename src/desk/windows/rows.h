@@ -26,6 +26,8 @@ std::vector<Row> note_rows(const std::vector<store::Note>& notes, const values::
 std::vector<Column> group_columns();
 std::vector<Row> group_rows(const std::vector<store::Group>& groups);
 
+// The name of a contact field; empty for a number that there is not.
+QString field_label(int number);
 QString type_name(store::ActivityType type);
 QString priority_name(store::Priority priority);
 QIcon type_icon(store::ActivityType type);

@@ -1,6 +1,6 @@
 #include "windows/session.h"
 
-#include "values/failure.h"
+#include "windows/refusal.h"
 
 namespace windows {
 
@@ -32,7 +32,7 @@ void Session::close() {
 
 store::Store& Session::store() const {
     if (!store_)
-        throw values::Failure(values::FailureNumber::automation, "No database is open.");
+        refuse("No database is open.");
     return *store_;
 }
 

@@ -1,8 +1,8 @@
 #include "windows/time_field.h"
 
-#include "values/failure.h"
 #include "values/text_forms.h"
 #include "windows/conversions.h"
+#include "windows/refusal.h"
 
 namespace windows {
 
@@ -32,7 +32,7 @@ values::DateTime TimeField::time() const {
         return given_;
     const auto moment = values::parse_date(stored(text), *locale_);
     if (!moment || moment->date() != values::DateTime())
-        throw values::Failure(values::FailureNumber::automation, "\"" + stored(text) + "\" is no time of day.");
+        refuse("\"" + stored(text) + "\" is no time of day.");
     return moment->time();
 }
 

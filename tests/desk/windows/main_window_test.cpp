@@ -13,6 +13,7 @@
 #include <QMenuBar>
 #include <QStackedWidget>
 
+#include <filesystem>
 #include <fstream>
 
 using namespace windows;
@@ -79,6 +80,34 @@ TEST_F(MainWindowTest, AFileThatIsNoDatabaseIsToldAndTheWindowStaysUsable) {
     EXPECT_EQ(view(), "start_page");
     window->open(path);
     EXPECT_EQ(count(), "4 of 4 contacts");
+}
+
+TEST_F(MainWindowTest, ADamagedDatabaseIsToldAndTheOpenOneStays) {
+    window->open(path);
+    const auto broken = in_folder("broken.desk");
+    std::filesystem::copy_file(path, broken);
+    std::fstream file(broken, std::ios::in | std::ios::out | std::ios::binary);
+    for (int page = 1; page < 40; ++page) {
+        file.seekp(page * 4096);
+        file << std::string(64, '#');
+    }
+    file.close();
+    with_dialogs({[](QWidget& box) { QTest::keyClick(&box, Qt::Key_Return); }}, [&] { window->open(broken); });
+    EXPECT_EQ(window->windowTitle(), "team.desk - Contact Desk");
+    EXPECT_EQ(count(), "4 of 4 contacts");
+}
+
+TEST_F(MainWindowTest, ADatabaseThatCantBeWrittenCanBeReadAndSaysSo) {
+    std::filesystem::permissions(path, std::filesystem::perms::owner_read);
+    if (std::ofstream(path, std::ios::app))
+        GTEST_SKIP() << "This user may write every file.";
+    window->open(path);
+    EXPECT_EQ(window->windowTitle(), "team.desk (read-only) - Contact Desk");
+    EXPECT_EQ(count(), "4 of 4 contacts");
+    EXPECT_FALSE(action("schedule_call")->isEnabled());
+    EXPECT_FALSE(action("contact_new")->isEnabled());
+    EXPECT_FALSE(child<QLineEdit>(*window, "field_26")->isEnabled());
+    EXPECT_THROW(window->desk().run_command(act::CommandNumber::schedule_activity, [] {}), values::Failure);
 }
 
 TEST_F(MainWindowTest, TheMenusSwitchTheViews) {

@@ -14,6 +14,7 @@ namespace ui {
 namespace {
 
 constexpr int margin_below_labels = 4; // pixels
+constexpr int thickest_border = 8;
 
 int twips(int pixels) { return pixels * twips_per_pixel; }
 int pixels(int twips) { return qRound(static_cast<double>(twips) / twips_per_pixel); }
@@ -30,15 +31,23 @@ QRect WindowFace::normal_place() const {
         return {window_.pos(), window_.size()};
     const QPoint frame = window_.geometry().topLeft() - window_.frameGeometry().topLeft();
     const QRect normal = window_.normalGeometry();
-    return {normal.topLeft() - frame, normal.size()};
+    // The frame can be thinner now than the one that the window goes back to, and the difference would add up from
+    // start to start.
+    const QPoint corner = normal.topLeft() - frame;
+    const bool is_unmoved = (corner - given_corner_).manhattanLength() <= thickest_border;
+    return {is_unmoved ? given_corner_ : corner, normal.size()};
 }
 
 int WindowFace::left() const { return twips(normal_place().x()); }
 int WindowFace::top() const { return twips(normal_place().y()); }
 int WindowFace::width() const { return twips(normal_place().width()); }
 int WindowFace::height() const { return twips(normal_place().height()); }
-void WindowFace::set_left(int twips) { window_.move(pixels(twips), window_.y()); }
-void WindowFace::set_top(int twips) { window_.move(window_.x(), pixels(twips)); }
+void WindowFace::set_left(int twips) { move_to({pixels(twips), window_.y()}); }
+void WindowFace::set_top(int twips) { move_to({window_.x(), pixels(twips)}); }
+void WindowFace::move_to(QPoint corner) {
+    given_corner_ = corner;
+    window_.move(corner);
+}
 void WindowFace::set_size(int width, int height) { window_.resize(pixels(width), pixels(height)); }
 int WindowFace::screen_width() const { return twips(window_.screen()->size().width()); }
 int WindowFace::screen_height() const { return twips(window_.screen()->size().height()); }

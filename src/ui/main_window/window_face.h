@@ -2,6 +2,7 @@
 
 #include "shell/main_window.h"
 
+#include <QPoint>
 #include <QRect>
 
 #include <functional>
@@ -59,10 +60,12 @@ public:
 
 private:
     QRect normal_place() const;
+    void move_to(QPoint corner);
 
     QMainWindow& window_;
     Ui::frmMain& controls_;
     std::function<void()> unload_;
+    QPoint given_corner_; // of the frame, when the shell last moved it
 };
 
 } // namespace ui

@@ -16,6 +16,7 @@ ContactChooser::ContactChooser(QWidget* parent)
     list_->setObjectName("contacts_list");
     list_->setAccessibleName(tr("Contacts of the activity"));
     list_->setMinimumHeight(list_->fontMetrics().height() * 4);
+    list_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
     add_button->setObjectName("add_contacts_button");
     add_button->setAccessibleName(tr("Add contacts"));
     remove_button_->setObjectName("remove_contact_button");

@@ -26,21 +26,31 @@ def users(database):
         return [name for name, in connection.execute("SELECT name FROM users ORDER BY name")]
 
 
-def cells_of_week(database, first_day, one_row_per_user=True, first_hour=8, slots=9):
-    """{(slot, day, user): contact names in the order they are sorted}; user is None where users share the rows."""
+def cells_of_week(database, first_day, first_hour=8, slots=9):
+    """{(slot, day, user): the first line of the cell} where every user has a row of his own in each hourly slot."""
     start = datetime.datetime.combine(first_day, datetime.time())
     with sqlite3.connect(f"file:{database}?mode=ro", uri=True) as connection:
         rows = connection.execute(
-            "SELECT activities.starts_at, users.name, contacts.name, activities.id FROM activities"
+            "SELECT activities.starts_at, duration, users.name, contacts.name FROM activities"
             " JOIN users ON users.id = activities.scheduled_for JOIN contacts ON contacts.id = activities.contact"
             " WHERE recurrence = 0 AND cleared = 0 AND starts_at >= ? AND starts_at < ?",
             (seconds(start), seconds(start + datetime.timedelta(days=7)))).fetchall()
-    cells = {}
-    for starts_at, user, contact, _ in rows:
+    records = {}
+    for starts_at, duration, user, contact in rows:
         moment = EMPTY_DATE + datetime.timedelta(seconds=starts_at)
         slot = moment.hour - first_hour
         # The last minute of a slot belongs to none.
         if 0 <= slot < slots and moment.minute < 59:
-            key = (slot, (moment.date() - first_day).days, user if one_row_per_user else None)
-            cells.setdefault(key, []).append((f"{user}||{us_text(moment)}{contact}", contact))
-    return {key: [contact for _, contact in sorted(records)] for key, records in cells.items()}
+            key = (slot, (moment.date() - first_day).days, user)
+            end = moment + datetime.timedelta(minutes=duration)
+            records.setdefault(key, []).append((us_text(moment), contact, end))
+    cells = {}
+    for (slot, day, user), found in records.items():
+        _, contact, end = min(found)
+        cells[slot, day, user] = contact
+        for later in range(slot + 1, slots):
+            if (end.hour, end.minute) <= (first_hour + later, 0):
+                break
+            if (later, day, user) not in records:
+                cells[later, day, user] = "( Continued )"
+    return cells

@@ -39,8 +39,8 @@ class CalendarBesideTheDesk(unittest.TestCase):
             for day in range(7):
                 for position, user in enumerate(names):
                     shown = grid.text(slot * 6 + position + 1, day + 2).strip()
-                    first = expected.get((slot, day, user), [""])[0]
-                    self.assertEqual(shown.splitlines()[0] if shown else "", first, (slot, day, user))
+                    first_line = shown.splitlines()[0] if shown else ""
+                    self.assertEqual(first_line, expected.get((slot, day, user), ""), (slot, day, user))
 
     def test_rows_that_users_share_are_filled_from_the_top_in_sorted_order(self):
         settings(self.desktop, PLAIN_ONLY + "OneRowPerUser=0\r\nCellsPerSlot=4\r\n[Filter]\r\nPriority1=0\r\n"

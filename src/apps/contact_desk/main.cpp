@@ -1,3 +1,4 @@
+#include "adapters/qt/appearance.h"
 #include "adapters/qt/locale.h"
 #include "contact_desk/options.h"
 #include "import/import_file.h"
@@ -7,7 +8,6 @@
 #include "windows/main_window.h"
 #include "windows/open_toolbar_commands.h"
 #include "windows/sample_file.h"
-#include "windows/style.h"
 
 #include <QApplication>
 #include <QMessageBox>
@@ -48,7 +48,7 @@ int run(const apps::ShowWindow& task, int argc, char** argv) {
     QApplication application(argc, argv);
     QApplication::setApplicationName("contact-desk");
     QApplication::setApplicationVersion(CONTACT_DESK_VERSION);
-    windows::dress(application);
+    qt::dress(application);
     const values::Locale locale = qt::system_locale();
     windows::Session session(locale);
     windows::MainWindow window(session, import_for_window);

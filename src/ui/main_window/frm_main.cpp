@@ -13,6 +13,7 @@ namespace {
 
 constexpr int retry_milliseconds = 20;
 constexpr qreal grid_points = 8; // what the standard sizes of rows and columns have room for
+constexpr int title_row_height = 540; // twips: two lines, as the bold title of today needs on a Wednesday
 
 std::unique_ptr<Ui::frmMain> make_controls(QMainWindow& window) {
     auto controls = std::make_unique<Ui::frmMain>();
@@ -33,6 +34,7 @@ frmMain::frmMain(const shell::Platform& platform)
     QFont small = msgSched_->font();
     small.setPointSizeF(grid_points);
     msgSched_->setFont(small);
+    calendar_.grid.msgSched.RowHeight(0, title_row_height);
     msgSched_->setFocus();
     face_.msgSched = msgSched_.get();
     calendar_.grid.msgSched.add_observer(*this);

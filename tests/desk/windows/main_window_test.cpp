@@ -100,6 +100,9 @@ TEST_F(MainWindowTest, ADamagedDatabaseIsToldAndTheOpenOneStays) {
 
 TEST_F(MainWindowTest, ADatabaseThatCantBeWrittenCanBeReadAndSaysSo) {
     using std::filesystem::perms;
+    std::filesystem::permissions(folder.path().toStdString(), perms::all);
+    for (const auto& entry : std::filesystem::directory_iterator(folder.path().toStdString()))
+        std::filesystem::permissions(entry, perms::all); // the log beside it, which may be open
     std::filesystem::permissions(path, perms::owner_read | perms::group_read | perms::others_read);
     const support::Unprivileged reader;
     window->open(path);

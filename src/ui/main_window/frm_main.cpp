@@ -13,7 +13,7 @@ namespace {
 
 constexpr int retry_milliseconds = 20;
 constexpr qreal grid_points = 8; // what the standard sizes of rows and columns have room for
-constexpr int title_row_height = 540; // twips: two lines, as the bold title of today needs on a Wednesday
+constexpr int title_row_height = 600; // twips: two lines, as the bold title of today needs on a Wednesday
 
 std::unique_ptr<Ui::frmMain> make_controls(QMainWindow& window) {
     auto controls = std::make_unique<Ui::frmMain>();

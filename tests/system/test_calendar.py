@@ -42,7 +42,7 @@ class CalendarBesideTheDesk(unittest.TestCase):
                     first_line = shown.splitlines()[0] if shown else ""
                     self.assertEqual(first_line, expected.get((slot, day, user), ""), (slot, day, user))
 
-    def test_rows_that_users_share_are_filled_from_the_top_in_sorted_order(self):
+    def test_shared_rows_give_a_grid_of_four_rows_a_slot_and_one_column_a_day(self):
         settings(self.desktop, PLAIN_ONLY + "OneRowPerUser=0\r\nCellsPerSlot=4\r\n[Filter]\r\nPriority1=0\r\n"
                                "Priority2=0\r\n")
         self.start_both()
@@ -115,7 +115,7 @@ class CalendarBesideTheDesk(unittest.TestCase):
         finally:
             desk.send_signal(signal.SIGCONT)
 
-    def test_a_settings_file_that_has_gone_is_told_and_made_anew_at_its_old_place(self):
+    def test_a_settings_file_that_has_gone_is_told_and_none_is_made_in_the_programs_folder(self):
         self.start_both()
         press(self.calendar, Atspi.Role.MENU_ITEM, "Exit")
         self.calendar.wait(10)

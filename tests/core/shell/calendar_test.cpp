@@ -7,22 +7,14 @@
 namespace {
 
 TEST(Calendar, HearsTheEventsOfACTForAsLongAsItLives) {
-    support::ShellWorld world;
-    support::FakeEventControl events;
+    support::PlatformWorld world;
+    support::FakeMainWindow window;
+    support::FakeActData data;
+    support::FakeApplicationState state;
+    support::FakeServer server{data, state};
+    const support::FakeEventControl& events = world.events;
     {
-        const shell::Calendar calendar(world.window, {.application = world.application,
-                                                      .locale = values::english_us(),
-                                                      .box = world.box,
-                                                      .clock = world.clock,
-                                                      .tmrRefresh = world.tmrRefresh,
-                                                      .tmr2 = world.tmr2,
-                                                      .shell = world.shell,
-                                                      .user_store = world.user_store,
-                                                      .files = world.files,
-                                                      .folders = world.folders,
-                                                      .program = world.program,
-                                                      .server = world.server,
-                                                      .ActEvent1 = events});
+        const shell::Calendar calendar(window, world.platform(server));
         EXPECT_TRUE(events.OnDatabaseClose);
         EXPECT_TRUE(events.OnActUserWantsToClose);
     }

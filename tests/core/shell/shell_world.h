@@ -1,14 +1,6 @@
 #pragma once
 
-#include "shell/calendar.h"
-#include "support/fake_act_server.h"
-#include "support/fake_clock.h"
-#include "support/fake_folders.h"
-#include "support/fake_message_box.h"
-#include "support/fake_shell.h"
-#include "support/fake_timer.h"
-#include "support/fake_user_store.h"
-#include "support/memory_files.h"
+#include "support/platform_world.h"
 
 #include <functional>
 #include <string>
@@ -72,17 +64,8 @@ public:
     std::function<void()> Form_Unload;
 };
 
-class FakeProgram : public shell::Program {
-public:
-    bool already_running() override { return is_second; }
-    void end() override { ++ends; }
-
-    bool is_second = false;
-    int ends = 0;
-};
-
-// The calendar in a world of fakes: Wednesday, 10 January 2024, 9:00; two users, no activities, empty stores.
-class ShellWorld {
+// The calendar in a world of fakes: two users, no activities.
+class ShellWorld : public PlatformWorld {
 public:
     ShellWorld() {
         for (const char* name : {"Ann", "Bob"})
@@ -92,56 +75,18 @@ public:
 
     static std::string id(const std::string& name) { return name + std::string(12 - name.size(), '-'); }
 
-    // Values of the per-user store, and of the settings file in the program's folder.
-    void store(const std::string& key, const std::string& value) { values.write("Settings", key, value); }
-    std::string stored(const std::string& key) const { return values.read("Settings", key, "absent"); }
-    void have_settings(const std::string& text) { files.content["/program/Orvanta.ini"] = text; }
-
     void load() { calendar.start_up.Form_Load(); }
     void start() {
         load();
         calendar.start_up.Form_Activate();
     }
-
-    // The first line of each box.
-    std::vector<std::string> boxes() const {
-        std::vector<std::string> lines;
-        for (const host::Message& message : box.shown)
-            lines.push_back(message.text.substr(0, message.text.find('\r')));
-        return lines;
-    }
     const grid::Layout& layout() const { return calendar.grid.layout; }
 
     FakeMainWindow window;
-    FakeProgram program;
-    FakeMessageBox box;
-    host::ApplicationInfo application{
-        .title = "Orvanta", .major = 1, .minor = 2, .revision = 3, .support_address = "help@example.org"};
-    FakeClock clock{values::DateTime::of(2024, 1, 10, 9, 0)};
-    FakeTimer tmrRefresh, tmr2;
-    FakeShell shell;
-    FakeUserStore user_store;
-    settings::PerUserStore values{user_store};
-    MemoryFiles files;
-    FakeFolders folders;
     FakeActData data;
     FakeApplicationState state;
     FakeServer server{data, state};
-    FakeEventControl events;
-    shell::Calendar calendar{window,
-                             {.application = application,
-                              .locale = values::english_us(),
-                              .box = box,
-                              .clock = clock,
-                              .tmrRefresh = tmrRefresh,
-                              .tmr2 = tmr2,
-                              .shell = shell,
-                              .user_store = user_store,
-                              .files = files,
-                              .folders = folders,
-                              .program = program,
-                              .server = server,
-                              .ActEvent1 = events}};
+    shell::Calendar calendar{window, platform(server)};
 };
 
 } // namespace support

@@ -2,14 +2,7 @@
 
 #include "adapters/desk/desk_data.h"
 #include "main_window/frm_main.h"
-#include "support/fake_act_server.h"
-#include "support/fake_clock.h"
-#include "support/fake_folders.h"
-#include "support/fake_message_box.h"
-#include "support/fake_shell.h"
-#include "support/fake_timer.h"
-#include "support/fake_user_store.h"
-#include "support/memory_files.h"
+#include "support/platform_world.h"
 #include "support/temporary_database.h"
 
 #include <QCoreApplication>
@@ -36,18 +29,9 @@ private:
     FakeServer fakes_{data_, state_};
 };
 
-class FakeProgram : public shell::Program {
-public:
-    bool already_running() override { return is_second; }
-    void end() override { ++ends; }
-
-    bool is_second = false;
-    int ends = 0;
-};
-
 // The calendar's window over a real database with one user, Ann, one contact, Chris Smith, and a meeting of an
 // hour on Wednesday, 10 January 2024, at 9:00, which is now.
-class WindowWorld {
+class WindowWorld : public PlatformWorld {
 public:
     WindowWorld() {
         ann = database.store().add(store::User{.name = "Ann"});
@@ -70,7 +54,6 @@ public:
         QCoreApplication::sendPostedEvents();
         QCoreApplication::processEvents();
     }
-    std::string stored(const std::string& key) { return values.read("Settings", key, "absent"); }
     // What the grid shows at that hour on the Wednesday.
     QString at(int hour) {
         return QString::fromStdString(window.calendar().grid.msgSched.TextMatrix(hour - 8 + 1, 5)).trimmed();
@@ -82,32 +65,8 @@ public:
 
     TemporaryDatabase database;
     std::string ann, chris;
-    FakeMessageBox fake_box;
-    host::ApplicationInfo application{
-        .title = "Orvanta", .major = 1, .minor = 2, .revision = 3, .support_address = "help@example.org"};
-    FakeClock clock{values::DateTime::of(2024, 1, 10, 9, 0)};
-    FakeTimer tmrRefresh, tmr2;
-    FakeShell shell;
-    FakeUserStore user_store;
-    settings::PerUserStore values{user_store};
-    MemoryFiles files;
-    FakeFolders folders;
-    FakeProgram program;
     HalfRealServer server{database.path()};
-    FakeEventControl events;
-    ui::frmMain window{{.application = application,
-                        .locale = values::english_us(),
-                        .box = fake_box,
-                        .clock = clock,
-                        .tmrRefresh = tmrRefresh,
-                        .tmr2 = tmr2,
-                        .shell = shell,
-                        .user_store = user_store,
-                        .files = files,
-                        .folders = folders,
-                        .program = program,
-                        .server = server,
-                        .ActEvent1 = events}};
+    ui::frmMain window{platform(server)};
 };
 
 } // namespace support

@@ -13,7 +13,7 @@ import time
 import gi
 
 gi.require_version("Atspi", "2.0")
-from gi.repository import Atspi  # noqa: E402
+from gi.repository import Atspi, GLib  # noqa: E402
 
 PROGRAMS = os.environ["ORVANTA_PROGRAMS"]
 
@@ -138,6 +138,19 @@ def names(process, role):
 def press(process, role, name):
     """Does the default action of an object: a button's press, a menu entry's choice."""
     Atspi.Action.do_action(wait_to_find(process, role, name), 0)
+
+
+def press_to_open_a_box(process, role, name):
+    """The same where the action opens a box: the program answers only once the box has closed."""
+    node = wait_to_find(process, role, name)
+    Atspi.set_timeout(100, 100)
+    try:
+        Atspi.Action.do_action(node, 0)
+    except GLib.GError:
+        pass
+    finally:
+        Atspi.set_timeout(800, 15000)  # the library's own
+    wait_to_find(process, Atspi.Role.PUSH_BUTTON, "OK")
 
 
 class Grid:

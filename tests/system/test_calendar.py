@@ -5,7 +5,7 @@ import os
 import signal
 import unittest
 
-from desktop import Atspi, Desktop, Grid, names, press, wait_for
+from desktop import Atspi, Desktop, Grid, names, press, press_to_open_a_box, wait_for
 from sample_week import cells_of_week, users, week_of
 
 PLAIN_ONLY = "[Settings]\r\nCheckRecurring=0\r\n"
@@ -77,6 +77,25 @@ class CalendarBesideTheDesk(unittest.TestCase):
     def test_a_desk_that_is_killed_takes_the_calendar_down_in_order(self):
         self.start_both()
         self.desk.kill()
+        self.assertEqual(self.calendar.wait(10), 0)
+        self.assertIn("WeeklyView=1", self.user_store())
+
+    def test_the_signals_to_end_end_the_calendar_with_its_state_saved(self):
+        for number in (signal.SIGTERM, signal.SIGINT):
+            with self.subTest(number.name), Desktop() as self.desktop:
+                self.start_both()
+                Grid(self.calendar)
+                self.calendar.send_signal(number)
+                self.assertEqual(self.calendar.wait(10), 0)
+                self.assertIsNone(self.desk.poll())
+                saved = self.user_store()
+                self.assertIn("WeeklyView=1", saved)
+                self.assertIn("RowHeightWeekly1=", saved)
+
+    def test_a_signal_to_end_does_not_wait_for_an_open_box(self):
+        self.start_both()
+        press_to_open_a_box(self.calendar, Atspi.Role.MENU_ITEM, "About...")
+        self.calendar.terminate()
         self.assertEqual(self.calendar.wait(10), 0)
         self.assertIn("WeeklyView=1", self.user_store())
 

@@ -1,5 +1,6 @@
 #include "adapters/qt/appearance.h"
 #include "adapters/qt/clock.h"
+#include "adapters/qt/end_requests.h"
 #include "adapters/qt/files.h"
 #include "adapters/qt/folders.h"
 #include "adapters/qt/locale.h"
@@ -14,6 +15,8 @@
 #include <QApplication>
 #include <QDBusConnection>
 #include <QIcon>
+
+#include <memory>
 
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
@@ -51,7 +54,12 @@ int main(int argc, char** argv) {
                         .program = process,
                         .server = server,
                         .ActEvent1 = *ActEvent1});
-    QMetaObject::invokeMethod(
-        &window, [&window] { window.load(); }, Qt::QueuedConnection);
+    std::unique_ptr<qt::EndRequests> end_requests;
+    const auto load = [&] {
+        window.load();
+        // Not before, as what isn't loaded yet would be stored over the state of the last time.
+        end_requests = qt::make_end_requests([&window] { window.unload(); });
+    };
+    QMetaObject::invokeMethod(&window, load, Qt::QueuedConnection);
     return QApplication::exec();
 }

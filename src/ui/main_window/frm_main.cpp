@@ -12,7 +12,7 @@ namespace ui {
 namespace {
 
 constexpr int retry_milliseconds = 20;
-constexpr qreal grid_points = 8; // what the standard sizes of rows and columns have room for
+constexpr qreal grid_points = 8;      // what the standard sizes of rows and columns have room for
 constexpr int title_row_height = 600; // twips: two lines, as the bold title of today needs on a Wednesday
 
 std::unique_ptr<Ui::frmMain> make_controls(QMainWindow& window) {
@@ -72,8 +72,9 @@ void frmMain::finish_unload() {
         calendar_.closing.Form_Unload();
         return;
     }
-    if (QWidget* box = QApplication::activeModalWidget())
-        box->close();
+    for (QWidget* waiting : {QApplication::activePopupWidget(), QApplication::activeModalWidget()})
+        if (waiting)
+            waiting->close();
     QTimer::singleShot(retry_milliseconds, this, [this] { finish_unload(); });
 }
 

@@ -8,11 +8,14 @@
 #include <QDialog>
 #include <QEventLoop>
 #include <QLabel>
+#include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
 #include <QTimer>
 #include <QToolButton>
 #include <gtest/gtest.h>
+
+#include <functional>
 
 namespace {
 
@@ -29,6 +32,29 @@ protected:
         for (const QAction* action : control<QMenu>(name)->actions())
             entries << (action->isSeparator() ? QStringLiteral("-") : action->text());
         return entries;
+    }
+    // The database closes while a procedure waits for the user; the end that wants to come ends the waiting.
+    void close_database_while(const std::function<void()>& waits) {
+        QEventLoop outer;
+        int ends_while_it_waits = -1, ends_behind_it = -1;
+        QTimer::singleShot(0, &window, [&] {
+            QTimer::singleShot(0, &window, [&] {
+                events.OnDatabaseClose();
+                ends_while_it_waits = program.ends;
+            });
+            waits();
+            ends_behind_it = program.ends;
+        });
+        QTimer poll;
+        QObject::connect(&poll, &QTimer::timeout, [&] {
+            if (program.ends > 0)
+                outer.quit();
+        });
+        poll.start(5);
+        outer.exec();
+        EXPECT_EQ(ends_while_it_waits, 0);
+        EXPECT_EQ(ends_behind_it, 0);
+        EXPECT_EQ(program.ends, 1);
     }
 };
 
@@ -48,7 +74,7 @@ TEST_F(FrmMain, HasItsControlsByName) {
 
 TEST_F(FrmMain, ShowsTheWeekOfTheDatabase) {
     load();
-    EXPECT_TRUE(fake_box.shown.empty());
+    EXPECT_TRUE(box.shown.empty());
     EXPECT_TRUE(window.isVisible());
     EXPECT_EQ(window.windowTitle(), "Orvanta");
     EXPECT_TRUE(at(9).startsWith("Chris Smith")) << at(9).toStdString();
@@ -92,14 +118,14 @@ TEST_F(FrmMain, ShowsWhatIsNewAfterAQuickRefresh) {
     add_meeting(11);
     choose("mnuRefresh");
     EXPECT_TRUE(at(11).startsWith("Chris Smith"));
-    EXPECT_TRUE(fake_box.shown.empty());
+    EXPECT_TRUE(box.shown.empty());
 }
 
 TEST_F(FrmMain, TellsAboutItself) {
     load();
     choose("mnuAbout");
-    ASSERT_EQ(fake_box.shown.size(), 1U);
-    EXPECT_EQ(fake_box.shown[0].text, "Orvanta\r1.2.3");
+    ASSERT_EQ(box.shown.size(), 1U);
+    EXPECT_EQ(box.shown[0].text, "Orvanta\r1.2.3");
 }
 
 TEST_F(FrmMain, EndsByItsExitEntry) {
@@ -132,27 +158,15 @@ TEST_F(FrmMain, EndsWithItsDatabaseAndStoresItsPlace) {
 
 TEST_F(FrmMain, EndsAfterTheProcedureThatWaitsInABox) {
     load();
-    QEventLoop outer;
-    int ends_in_the_box = -1, ends_behind_it = -1;
-    QTimer::singleShot(0, &window, [&] {
-        QDialog box;
-        QTimer::singleShot(0, &box, [&] {
-            events.OnDatabaseClose();
-            ends_in_the_box = program.ends;
-        });
-        box.exec(); // closed by the end that wants to come
-        ends_behind_it = program.ends;
-    });
-    QTimer poll;
-    QObject::connect(&poll, &QTimer::timeout, [&] {
-        if (program.ends > 0)
-            outer.quit();
-    });
-    poll.start(5);
-    outer.exec();
-    EXPECT_EQ(ends_in_the_box, 0);
-    EXPECT_EQ(ends_behind_it, 0);
-    EXPECT_EQ(program.ends, 1);
+    QDialog dialog;
+    close_database_while([&] { dialog.exec(); });
+}
+
+TEST_F(FrmMain, EndsAfterTheProcedureThatWaitsInAMenu) {
+    load();
+    QMenu menu;
+    menu.addAction("Schedule");
+    close_database_while([&] { menu.exec(QPoint(10, 10)); });
 }
 
 TEST_F(FrmMain, HidesAndWaitsTwoSecondsWhenItRestartsACT) {
@@ -180,11 +194,11 @@ TEST_F(FrmMain, KeepsTheGridAsLargeAsItIsTold) {
 }
 
 TEST_F(FrmMain, TakesUpItsPlaceAndState) {
-    values.write("Settings", "Left", "1500");
-    values.write("Settings", "Top", "3000");
-    values.write("Settings", "Width", "12000");
-    values.write("Settings", "Height", "7500");
-    values.write("Settings", "WindowState", "2");
+    store("Left", "1500");
+    store("Top", "3000");
+    store("Width", "12000");
+    store("Height", "7500");
+    store("WindowState", "2");
     load();
     EXPECT_TRUE(window.isMaximized());
     window.setWindowState(Qt::WindowNoState);
@@ -194,9 +208,9 @@ TEST_F(FrmMain, TakesUpItsPlaceAndState) {
 }
 
 TEST_F(FrmMain, KeepsTheSizeOfItsDesignBesideAStoredOneThatIsTooSmall) {
-    values.write("Settings", "Width", "2000");
-    values.write("Settings", "Height", "9000");
-    values.write("Settings", "Left", "150");
+    store("Width", "2000");
+    store("Height", "9000");
+    store("Left", "150");
     load();
     EXPECT_EQ(window.size(), QSize(1200, 760));
     EXPECT_EQ(window.x(), 10);

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "grid/cell.h"
+#include "values/locale.h"
+#include "values/text_forms.h"
+
+namespace interaction {
+
+// A day and a slot's start, put together as texts. Fails with 13 for a slot whose start isn't a time of the day.
+inline values::DateTime date_and_time(values::DateTime date, values::DateTime time, const values::Locale& locale) {
+    return values::to_date(values::short_date(date, locale) + " " + values::default_text(time, locale), locale);
+}
+
+// When an activity in the cell starts.
+inline values::DateTime start_of(const grid::clsMsgSchedCell& cell, const values::Locale& locale) {
+    return date_and_time(cell.DateDay(), cell.DateTime(), locale);
+}
+
+} // namespace interaction

@@ -1,0 +1,140 @@
+#include "interaction/launcher.h"
+
+#include "settings/catalogue.h"
+#include "values/failure.h"
+#include "values/text_forms.h"
+#include "values/value.h"
+
+namespace interaction {
+
+namespace field = act::activity_field;
+namespace keys = settings::keys;
+
+namespace {
+
+constexpr int cleared_bit = 2;
+constexpr const char* all_dates = "1";
+
+// The activities of one type, as the filter of the contact view's list writes it.
+int mask_of_type(int type) {
+    switch (type) {
+    case 0:
+        return 228;
+    case 1:
+        return 232;
+    default:
+        return 240;
+    }
+}
+
+template <typename Statement>
+void ignoring_failure(Statement&& statement) {
+    try {
+        statement();
+    } catch (const values::Failure&) {
+    }
+}
+
+} // namespace
+
+void Launcher::Setup_ActivityWin(const grid::clsMsgSchedCell& cell, const std::string& type) {
+    here_.guarded("in frmMain: Sub Setup_ActivityWin - Line # ", [&](host::Step& step) {
+        settings::PerUserStore& store = here_.user_store;
+        step = 10;
+        write(store, keys::activity_type, type);
+        step = 20;
+        write(store, keys::activity_date, values::default_text(cell.DateDay(), here_.locale));
+        step = 30;
+        write(store, keys::activity_time, values::default_text(cell.DateTime(), here_.locale));
+        step = 40;
+        write(store, keys::activity_duration, cell.Duration());
+        step = 50;
+        write(store, keys::activity_regarding, read(here_.settings, keys::acty_regarding));
+        step = 60;
+        write(store, keys::activity_priority, read(here_.settings, keys::acty_priority));
+        step = 70;
+        if (here_.layout.OneRowPerUser)
+            write(store, keys::activity_for, std::string(cell.User()));
+        else
+            ignoring_failure([&] { remove(store, keys::activity_for); }); // there may be none
+        step = 80;
+        start_companion();
+    });
+}
+
+// Without the companion the dialog opens all the same, with ACT!'s own values.
+void Launcher::start_companion() { here_.shell.start_companion("ActivityWin"); }
+
+void Launcher::Select_and_Launch_Command(const std::string& id, act::CommandNumber command, bool allDates,
+                                         bool showCleared, bool startCompanion) {
+    here_.guarded("in frmMain: Sub Select_and_Launch_Command - Line # ", [&](host::Step& step) {
+        step = 10;
+        here_.session.ActActivity->Goto(id);
+        step = 20;
+        const int mask = mask_of_type(values::int16_of(here_.session.ActActivity->Data(field::type))) |
+                         (showCleared ? cleared_bit : 0);
+        step = 30;
+        show_contact(text(field::contact));
+        step = 40;
+        act::ContactView& view = *here_.session.ActContactView;
+        const std::string tab = view.GetActiveTab();
+        step = 50;
+        view.SetActiveTab("Activities");
+        act::ActivityList& list = view.Activities();
+        step = 60;
+        const act::ListFilter users_own = list.GetFilter();
+        step = 70;
+        list.SetFilter({mask, allDates ? all_dates : dates_shown(), text(field::scheduled_for)});
+        step = 80;
+        const auto put_back = [&] {
+            list.SetFilter(users_own);
+            view.SetActiveTab(tab);
+        };
+        try {
+            run_selected(list, command, startCompanion);
+        } catch (...) {
+            ignoring_failure(put_back); // the first failure is the one to tell
+            throw;
+        }
+        step = 90;
+        put_back();
+        step = 100;
+        here_.window.unlock_updates();
+        step = 110;
+        here_.window.bring_to_front();
+    });
+}
+
+// The view may stand on another page of ACT!, and then doesn't follow.
+void Launcher::show_contact(const std::string& contact) {
+    act::ContactView& view = *here_.session.ActContactView;
+    if (view.Goto(contact) == contact)
+        return;
+    Command(act::CommandNumber::show_contact_view);
+    view.Goto(contact);
+}
+
+std::string Launcher::dates_shown() const {
+    const values::DateTime start = here_.layout.StartDate, end = start.plus_days(here_.layout.NumDays);
+    return "6\\" + values::short_date(start, here_.locale) + "\\" + values::short_date(end, here_.locale);
+}
+
+void Launcher::run_selected(act::ActivityList& list, act::CommandNumber command, bool startCompanion) {
+    const std::string id = text(field::id);
+    const int count = list.GetRowCount();
+    int row = 0;
+    while (row < count && list.GetField(field::id, row) != id)
+        ++row;
+    if (row == count)
+        return;
+    list.SelectRow(row, true);
+    if (startCompanion)
+        start_companion();
+    Command(command);
+}
+
+std::string Launcher::text(int number) const {
+    return values::text_of(here_.session.ActActivity->Data(number), here_.locale);
+}
+
+} // namespace interaction

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "grid/calendar_grid.h"
+#include "host/guard.h"
+#include "interaction/click.h"
+#include "interaction/places.h"
+#include "interaction/presenter.h"
+
+namespace interaction {
+
+// What a press on the grid does: it works out what was hit, extends the selection for titles, remembers the cell,
+// opens the context menu and begins a drag.
+class Mouse {
+public:
+    Mouse(Click& click, grid::CalendarGrid& grid, Presenter& presenter, const host::Guard& guarded)
+        : click_(click), grid_(grid), msgSched_(grid.msgSched), places_(grid.msgSched), presenter_(presenter),
+          guarded_(guarded) {}
+
+    // Buttons are 1 left and 2 right; Shift 2 is Ctrl held alone. The place is twips on the screen.
+    void msgSched_MouseDown(int Button, int Shift, int X, int Y);
+    // A key that moved the current cell or the selection's end stands for a press on a day's cell.
+    void cursor_moved();
+
+private:
+    bool spans_several() const {
+        return msgSched_.RowSel() != msgSched_.Row() || msgSched_.ColSel() != msgSched_.Col();
+    }
+    void work_out(int X, int Y);
+    void make_row_current(int Y);
+    void make_col_current(int X);
+    void decide_on_selection();
+    void select_lines(int X, int Y);
+    void select_cell();
+    void open_menu();
+    void begin_drag();
+
+    Click& click_;
+    grid::CalendarGrid& grid_;
+    grid::GridModel& msgSched_;
+    Places places_;
+    Presenter& presenter_;
+    const host::Guard& guarded_;
+    PopupMenu menu_;
+};
+
+} // namespace interaction

@@ -1,0 +1,187 @@
+#pragma once
+
+#include "adapters/desk/desk_data.h"
+#include "core/engine/engine_world.h"
+#include "interaction/interaction.h"
+#include "support/fake_shell.h"
+#include "support/recording_act.h"
+#include "support/scripted_desk.h"
+#include "support/temporary_database.h"
+#include "values/text.h"
+
+#include <deque>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace support {
+
+// Remembers what was asked of the main window and answers frmActivityChange from a list, then with "Cancel".
+class FakePresenter : public interaction::Presenter {
+public:
+    void show_mnuPopup(const interaction::PopupMenu& menu) override { popup = menu; }
+    void begin_drag() override { ++drags; }
+    void show_drag_icon(interaction::DragIcon icon) override { drag_icon = static_cast<int>(icon); }
+    int ask_activity_change() override {
+        ++questions;
+        if (while_asking)
+            while_asking();
+        if (answers.empty())
+            return 2;
+        const int answer = answers.front();
+        answers.pop_front();
+        return answer;
+    }
+    void minimise() override { ++minimised; }
+    void Switch_View(int col) override { switched_to = col; }
+
+    std::optional<interaction::PopupMenu> popup;
+    int drags = 0, drag_icon = 0, questions = 0, minimised = 0, switched_to = -1;
+    std::deque<int> answers;
+    std::function<void()> while_asking;
+};
+
+// What the user does with a grid over a real database: the week of Sunday, 7 to Saturday, 13 January 2024, now
+// Wednesday, 10 January, 9:00; Ann and Bob with a row each in nine slots of an hour from 8:00. Column 2 is the
+// Sunday, column 5 the Wednesday.
+class InteractionWorld : public EngineWorld {
+public:
+    InteractionWorld() {
+        database.now = clock.time;
+        ann = store().add(store::User{.name = "Ann"});
+        bob = store().add(store::User{.name = "Bob"});
+        chris = store().add(store::Contact{.fields = {{26, "Chris Smith"}}});
+        dana = store().add(store::Contact{.fields = {{26, "Dana Jones"}}});
+        erin = store().add(store::Contact{.fields = {{26, "Erin Black"}}});
+    }
+
+    // With the activities that the store has by then.
+    void open(int days = 7, bool one_row_per_user = true, DateTime date = DateTime::of(2024, 1, 10)) {
+        session.Create_Database();
+        session.ActDatabase =
+            std::make_unique<RecordingDatabase>(desk::make_database([this] { return database.path(); }), record);
+        session.ActDatabase->OpenEx("");
+        session.ActContact = session.ActDatabase->Contact();
+        session.ActActivity = session.ActDatabase->Activity();
+        session.ActUsers = session.ActDatabase->Users();
+        session.ActFields = session.ActContact->Fields();
+        session.ActGroup = session.ActDatabase->Group();
+        session.ActApp = static_cast<act::Application&>(running_desk);
+        session.ActContactView = static_cast<act::ContactView&>(running_desk);
+        users.Initialize_Users(false);
+        users.map_users();
+        grid::Layout& layout = calendar.layout;
+        layout.NumDays = days;
+        layout.OneRowPerUser = one_row_per_user;
+        layout.FixedCols = one_row_per_user ? 2 : 1;
+        layout.Initialize_Dates(date);
+        if (days == 1)
+            layout.StartDate = layout.EndDate = date;
+        calendar.Setup_Calendar(layout.StartDate, layout.EndDate);
+        engine.refresh.Refresh_Data();
+        select(row_of(0), layout.FixedCols);
+        forget();
+    }
+
+    store::Store& store() { return database.store(); }
+    // An hour with Chris Smith for Ann on that day of January 2024.
+    store::Activity meeting(int day, int hour, int minutes = 60) {
+        const DateTime start = DateTime::of(2024, 1, day, hour);
+        return {.start = start,
+                .end = start.plus_minutes(minutes),
+                .duration = minutes,
+                .user = ann,
+                .contacts = {chris}};
+    }
+    // The same every day from then on.
+    store::Activity daily(int day, int hour, int minutes = 60) {
+        store::Activity series = meeting(day, hour, minutes);
+        series.recurrence.kind = store::RecurrenceKind::daily;
+        return series;
+    }
+    std::string add(const store::Activity& activity) { return store().add(activity); }
+    store::Activity stored(const std::string& id) { return store().activity(id).value(); }
+    bool exists(const std::string& id) { return store().activity(id).has_value(); }
+    std::vector<store::Activity> all() { return store().activities({}); }
+    // The one activity that isn't one of those.
+    store::Activity other_than(const std::string& id) {
+        std::vector<store::Activity> others = all();
+        std::erase_if(others, [&](const store::Activity& one) { return one.id == id; });
+        if (others.size() != 1)
+            throw std::logic_error(std::to_string(others.size()) + " other activities");
+        return others.front();
+    }
+    std::int64_t revision() { return store().revision(); }
+    // A change that the desk's user makes now; what is stored later is later by a minute.
+    template <typename Change>
+    void change(const std::string& id, Change change) {
+        tick();
+        store::Activity activity = stored(id);
+        change(activity);
+        store().update(activity);
+    }
+    void tick() { database.now = clock.time = clock.time.plus_minutes(1); }
+
+    // Slot 0 is 8:00; of a slot's rows the first is Ann's, the second Bob's.
+    int row_of(int hour_from_8, int position = 0) const {
+        return calendar.layout.first_row_of(hour_from_8) + position;
+    }
+    static int col_of(int day) { return day - 7 + 2; } // of January 2024
+    grid::clsMsgSchedCell& cell(int row, int col) { return calendar.layout.Cells(row, col); }
+    void select(int row, int col) {
+        calendar.msgSched.Row(row);
+        calendar.msgSched.Col(col);
+        calendar.selection.SelectedCell = calendar.layout.Cells.reference(row, col);
+    }
+    grid::clsMsgSchedCell& selected() { return calendar.selection.selected(); }
+    std::string shown(int row, int col) const {
+        return std::string(values::trimmed(calendar.msgSched.TextMatrix(row, col)));
+    }
+    // The middle of a cell on the screen.
+    int x(int col) const { return calendar.msgSched.ColPos(col) + calendar.msgSched.ColWidth(col) / 2; }
+    int y(int row) const { return calendar.msgSched.RowPos(row) + calendar.msgSched.RowHeight(row) / 2; }
+    void press(int button, int shift, int row, int col) {
+        hands.mouse.msgSched_MouseDown(button, shift, x(col), y(row));
+    }
+    // From one cell to another, with the keys and moves of a drag.
+    void drag(int row, int col, int to_row, int to_col) {
+        press(1, 2, row, col);
+        hands.drag_drop.msgSched_DragDrop(x(to_col), y(to_row));
+    }
+
+    void forget() {
+        record.calls.clear();
+        box.shown.clear();
+        window.calls.clear();
+    }
+    // The calls up to the first refresh.
+    std::vector<std::string> calls() const {
+        return {record.calls.begin(), std::find(record.calls.begin(), record.calls.end(), "Rebuild")};
+    }
+    bool refreshed() const {
+        return std::find(record.calls.begin(), record.calls.end(), "Rebuild") != record.calls.end();
+    }
+
+    TemporaryDatabase database;
+    CallRecord record;
+    ScriptedDesk running_desk{database.store(), record};
+    FakeShell shell;
+    FakePresenter presenter;
+    std::string ann, bob, chris, dana, erin;
+    interaction::Interaction hands{{.session = session,
+                                    .users = users,
+                                    .grid = calendar,
+                                    .engine = engine,
+                                    .settings = ini,
+                                    .user_store = user_store,
+                                    .locale = surroundings_locale,
+                                    .clock = clock,
+                                    .box = box,
+                                    .window = window,
+                                    .shell = shell,
+                                    .application = application,
+                                    .presenter = presenter,
+                                    .guarded = guarded}};
+};
+
+} // namespace support

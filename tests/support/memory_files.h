@@ -3,6 +3,7 @@
 #include "host/files.h"
 
 #include <map>
+#include <set>
 #include <string>
 
 namespace support {
@@ -26,6 +27,8 @@ public:
         return host::FileContent{.bytes = found->second, .stamp = *stamp(path), .settled = true};
     }
     bool replace(const std::string& path, const std::string& bytes) override {
+        if (read_only.contains(path))
+            return false;
         content[path] = bytes;
         return true;
     }
@@ -34,6 +37,7 @@ public:
     }
 
     std::map<std::string, std::string> content;
+    std::set<std::string> read_only; // paths that can't be written
 };
 
 } // namespace support

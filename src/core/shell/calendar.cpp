@@ -2,7 +2,7 @@
 
 namespace shell {
 
-Calendar::Calendar(MainWindow& window, const Platform& platform)
+Calendar::Calendar(MainWindow& window, Dialogs& dialogs, const Platform& platform)
     : ActEvent1_(platform.ActEvent1), guarded_(platform.box, platform.application), ini(platform.files, guarded_),
       user_store(platform.user_store), holidays(platform.files, guarded_), session(platform.server, guarded_),
       lists(session, guarded_), users(session, lists, ini, guarded_), grid(users, platform.folders,
@@ -43,7 +43,7 @@ Calendar::Calendar(MainWindow& window, const Platform& platform)
       sizing(window, grid.msgSched, bLoading_, guarded_),
       closing(window, platform.program, session, platform.ActEvent1, grid.layout, user_store, platform.shell,
               platform.tmr2, guarded_),
-      menu(engine, platform.box, platform.application, guarded_) {
+      menu(engine, dialogs, platform.box, platform.application, guarded_) {
     ActEvent1_.OnDatabaseClose = [this] { closing.ActEvent1_OnDatabaseClose(); };
     ActEvent1_.OnActUserWantsToClose = [this] { closing.ActEvent1_OnActUserWantsToClose(); };
 }

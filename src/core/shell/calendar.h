@@ -17,6 +17,7 @@
 #include "settings/ini_lib.h"
 #include "settings/per_user_store.h"
 #include "shell/closing.h"
+#include "shell/dialogs.h"
 #include "shell/holidays.h"
 #include "shell/main_window.h"
 #include "shell/menu_commands.h"
@@ -47,7 +48,7 @@ struct Platform {
 // The calendar put together over its main window. It only composes: the window raises its events on the parts.
 class Calendar {
 public:
-    Calendar(MainWindow& window, const Platform& platform);
+    Calendar(MainWindow& window, Dialogs& dialogs, const Platform& platform);
     ~Calendar();
     Calendar(const Calendar&) = delete; // its parts point to each other
     Calendar& operator=(const Calendar&) = delete;

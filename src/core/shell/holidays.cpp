@@ -1,5 +1,7 @@
 #include "shell/holidays.h"
 
+#include "settings/ini_file.h"
+#include "settings/text_encoding.h"
 #include "values/failure.h"
 #include "values/text.h"
 
@@ -7,7 +9,8 @@ namespace shell {
 
 namespace {
 
-constexpr std::size_t most_bytes = 16 * 1024 * 1024;
+// The titles look the descriptions up in the file as they look up settings.
+constexpr std::size_t most_bytes = settings::IniFile::most_bytes;
 
 using values::Failure;
 using values::FailureNumber;
@@ -25,31 +28,48 @@ std::string_view next_line(std::string_view& text) {
 
 } // namespace
 
+std::vector<std::string> HolidayFile::lines(const std::string& path) const {
+    std::vector<std::string> lines;
+    if (!files_.exists(path))
+        return lines;
+    const std::optional<host::FileContent> file = files_.read(path, most_bytes);
+    if (!file)
+        throw Failure(FailureNumber::path_file_access);
+    const settings::FileText content = settings::decoded(file->bytes);
+    std::string_view rest = content.text;
+    next_line(rest);
+    while (!rest.empty())
+        lines.emplace_back(next_line(rest));
+    return lines;
+}
+
 std::string HolidayFile::Get_Holidays(const std::string& path) const {
     return guarded_("in frmMain: Function Get_Holidays - Line # ", [&](host::Step& step) {
         std::string holidays;
         step = 10;
-        if (!files_.exists(path))
-            return holidays;
-        step = 20;
-        const std::optional<host::FileContent> file = files_.read(path, most_bytes);
-        if (!file)
-            throw Failure(FailureNumber::path_file_access);
-        const std::string text =
-            values::is_utf8(file->bytes) ? file->bytes : values::utf8_from_windows_1252(file->bytes);
-        std::string_view rest = text;
-        step = 30;
-        next_line(rest);
-        while (!rest.empty()) {
-            step = 40;
-            const std::vector<std::string> pieces = values::split(next_line(rest), "=");
-            step = 50;
+        for (const std::string& line : lines(path)) {
+            step = 20;
+            const std::vector<std::string> pieces = values::split(line, "=");
+            step = 30;
             if (pieces.empty())
                 throw Failure(FailureNumber::subscript_out_of_range);
             holidays += "|" + pieces.front() + "|";
         }
         return holidays;
     });
+}
+
+void HolidayFile::write(const std::string& path, std::span<const Holiday> holidays) {
+    settings::FileText file;
+    if (const auto old = files_.read(path, most_bytes))
+        file = settings::decoded(old->bytes);
+    file.odd_byte.clear();
+    file.text = "[Holidays]\r\n";
+    for (const Holiday& holiday : holidays)
+        file.text += holiday.date + "=" + holiday.description + "\r\n";
+    const std::string bytes = settings::encoded(file);
+    if (bytes.size() > most_bytes || !files_.replace(path, bytes))
+        throw Failure(FailureNumber::path_file_access);
 }
 
 } // namespace shell

@@ -16,6 +16,13 @@ void MenuCommands::mnuFullRefresh_Click() {
     });
 }
 
+void MenuCommands::mnuHolidays_Click() {
+    guarded_("in frmMain: Sub mnuHolidays_Click - Line # ", [&](host::Step& step) {
+        step = 10;
+        dialogs_.show_frmHolidays();
+    });
+}
+
 void MenuCommands::mnuAbout_Click() {
     guarded_("in frmMain: Sub mnuAbout_Click - Line # ", [&](host::Step& step) {
         step = 10;

@@ -27,7 +27,8 @@ bool a_procedure_waits() { return QThread::currentThread()->loopLevel() > 1; }
 } // namespace
 
 frmMain::frmMain(const shell::Platform& platform)
-    : controls_(make_controls(*this)), face_(*this, *controls_, [this] { unload(); }), calendar_(face_, platform),
+    : controls_(make_controls(*this)), face_(*this, *controls_, [this] { unload(); }),
+      dialogs_(*this, platform, calendar_), calendar_(face_, dialogs_, platform),
       msgSched_(std::make_unique<GridWidget>(calendar_.grid.msgSched, controls_->picForm)) {
     msgSched_->setObjectName("msgSched");
     msgSched_->setFrameShape(QFrame::StyledPanel);
@@ -48,6 +49,7 @@ void frmMain::connect_menu() {
     connect(controls_->mnuRefresh, &QAction::triggered, this, [&menu] { menu.mnuRefresh_Click(); });
     connect(controls_->mnuFullRefresh, &QAction::triggered, this, [&menu] { menu.mnuFullRefresh_Click(); });
     connect(controls_->mnuExit, &QAction::triggered, this, [this] { calendar_.closing.mnuExit_Click(); });
+    connect(controls_->mnuHolidays, &QAction::triggered, this, [&menu] { menu.mnuHolidays_Click(); });
     connect(controls_->mnuAbout, &QAction::triggered, this, [&menu] { menu.mnuAbout_Click(); });
 }
 
@@ -72,10 +74,11 @@ void frmMain::finish_unload() {
         calendar_.closing.Form_Unload();
         return;
     }
+    // The closing of a dialog can ask in a box of its own, which the next try closes.
+    QTimer::singleShot(retry_milliseconds, this, [this] { finish_unload(); });
     for (QWidget* waiting : {QApplication::activePopupWidget(), QApplication::activeModalWidget()})
         if (waiting)
             waiting->close();
-    QTimer::singleShot(retry_milliseconds, this, [this] { finish_unload(); });
 }
 
 void frmMain::closeEvent(QCloseEvent* event) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "dialogs/dialogs.h"
 #include "grid/grid_model.h"
 #include "grid_widget/grid_widget.h"
 #include "main_window/window_face.h"
@@ -41,6 +42,7 @@ private:
 
     std::unique_ptr<Ui::frmMain> controls_;
     WindowFace face_;
+    Dialogs dialogs_;
     shell::Calendar calendar_;
     std::unique_ptr<GridWidget> msgSched_;
     bool is_unloading_ = false;

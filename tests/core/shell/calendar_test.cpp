@@ -9,12 +9,13 @@ namespace {
 TEST(Calendar, HearsTheEventsOfACTForAsLongAsItLives) {
     support::PlatformWorld world;
     support::FakeMainWindow window;
+    support::FakeDialogs dialogs;
     support::FakeActData data;
     support::FakeApplicationState state;
     support::FakeServer server{data, state};
     const support::FakeEventControl& events = world.events;
     {
-        const shell::Calendar calendar(window, world.platform(server));
+        const shell::Calendar calendar(window, dialogs, world.platform(server));
         EXPECT_TRUE(events.OnDatabaseClose);
         EXPECT_TRUE(events.OnActUserWantsToClose);
     }

@@ -52,12 +52,62 @@ TEST_F(Holidays, WithAnEmptyLineAreAFailure) {
     EXPECT_EQ(of("[Holidays]\r\n1/1/2024=New Year\r\n\r\n5/1/2024=May Day\r\n"), "");
     ASSERT_EQ(box.shown.size(), 1U);
     EXPECT_TRUE(box.shown[0].text.starts_with(
-        "Error 9: 'Subscript out of range'\rin frmMain: Function Get_Holidays - Line # 50\r"));
+        "Error 9: 'Subscript out of range'\rin frmMain: Function Get_Holidays - Line # 30\r"));
 }
 
 TEST_F(Holidays, ThatCantBeReadAreAFailure) {
-    EXPECT_EQ(of(std::string(17 * 1024 * 1024, '\n')), "");
+    EXPECT_EQ(of(std::string(10 * 1024 * 1024, '\n')), "");
     EXPECT_EQ(boxes(), std::vector<std::string>{"Error 75: 'Path/File access error'"});
+}
+
+TEST_F(Holidays, AreReadFromNoiseAndNULs) {
+    std::string noise = "[Holidays]\n";
+    for (int byte = 0; byte < 100000; ++byte)
+        noise += static_cast<char>((byte * byte / 7 + byte) % 251 + 3);
+    files.content["/program/holidays.dat"] = noise;
+    EXPECT_GT(holidays.lines("/program/holidays.dat").size(), 10U);
+    const std::string with_nul("|1/1\0/2024|", 11);
+    EXPECT_EQ(of(std::string("[Holidays]\n1/1\0/2024=a\0b", 25)), with_nul);
+    EXPECT_EQ(of(std::string(50000, '\0')), "");
+}
+
+TEST_F(Holidays, OfAFolderAreAFailure) {
+    class Folder : public support::MemoryFiles {
+        bool exists(const std::string&) const override { return true; }
+    } folder;
+    EXPECT_EQ(shell::HolidayFile(folder, guarded).Get_Holidays("/program/holidays.dat"), "");
+    EXPECT_EQ(boxes(), std::vector<std::string>{"Error 75: 'Path/File access error'"});
+}
+
+class HolidaysWritten : public Holidays {
+protected:
+    std::string written(std::span<const shell::Holiday> list) {
+        holidays.write("/program/holidays.dat", list);
+        return files.content["/program/holidays.dat"];
+    }
+};
+
+TEST_F(HolidaysWritten, StandOnALineEachBehindTheHeader) {
+    const shell::Holiday list[] = {{"1/1/2024", "New Year"}, {"12/25/2024", "Christmas = Noël"}};
+    EXPECT_EQ(written(list), "[Holidays]\r\n1/1/2024=New Year\r\n12/25/2024=Christmas = Noël\r\n");
+}
+
+TEST_F(HolidaysWritten, AreTheHeaderAloneWhenThereAreNone) { EXPECT_EQ(written({}), "[Holidays]\r\n"); }
+
+TEST_F(HolidaysWritten, KeepTheFilesEncodingAsLongAsItHasTheirCharacters) {
+    files.content["/program/holidays.dat"] = "[Holidays]\r\n1. M\xe4rz=F\xfchling\r\n";
+    const shell::Holiday fits[] = {{"1. März", "Fühling"}};
+    EXPECT_EQ(written(fits), "[Holidays]\r\n1. M\xe4rz=F\xfchling\r\n");
+    const shell::Holiday does_not[] = {{"1. März", "Frühling 春"}};
+    EXPECT_EQ(written(does_not), "[Holidays]\r\n1. März=Frühling 春\r\n");
+}
+
+TEST_F(HolidaysWritten, LeaveAFileAloneThatCantBeWrittenOrCouldNotBeReadAgain) {
+    files.content["/program/holidays.dat"] = "[Holidays]\r\n";
+    EXPECT_THROW(written(std::vector{shell::Holiday{"1/1/2024", std::string(1024 * 1024, 'x')}}), values::Failure);
+    files.read_only.insert("/program/holidays.dat");
+    EXPECT_THROW(written(std::vector{shell::Holiday{"1/1/2024", "New Year"}}), values::Failure);
+    EXPECT_EQ(files.content["/program/holidays.dat"], "[Holidays]\r\n");
 }
 
 } // namespace

@@ -47,6 +47,13 @@ TEST_F(MenuCommands, QuickRefreshReadsWhatChangedSinceTheLastRefresh) {
     EXPECT_TRUE(box.shown.empty());
 }
 
+TEST_F(MenuCommands, DaysOffOpensItsDialogAndDoesNothingAfterIt) {
+    add("SECOND------", 11);
+    calendar.menu.mnuHolidays_Click();
+    EXPECT_EQ(dialogs.shown, std::vector<std::string>{"frmHolidays"});
+    EXPECT_FALSE(shows(11));
+}
+
 TEST_F(MenuCommands, AboutTellsTitleAndVersion) {
     calendar.menu.mnuAbout_Click();
     ASSERT_EQ(box.shown.size(), 1U);

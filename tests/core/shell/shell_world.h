@@ -64,6 +64,14 @@ public:
     std::function<void()> Form_Unload;
 };
 
+// Remembers which dialogs were opened.
+class FakeDialogs : public shell::Dialogs {
+public:
+    void show_frmHolidays() override { shown.emplace_back("frmHolidays"); }
+
+    std::vector<std::string> shown;
+};
+
 // The calendar in a world of fakes: two users, no activities.
 class ShellWorld : public PlatformWorld {
 public:
@@ -83,10 +91,11 @@ public:
     const grid::Layout& layout() const { return calendar.grid.layout; }
 
     FakeMainWindow window;
+    FakeDialogs dialogs;
     FakeActData data;
     FakeApplicationState state;
     FakeServer server{data, state};
-    shell::Calendar calendar{window, platform(server)};
+    shell::Calendar calendar{window, dialogs, platform(server)};
 };
 
 } // namespace support

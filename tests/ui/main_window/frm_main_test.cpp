@@ -88,6 +88,7 @@ TEST_F(FrmMain, ShowsTheWeekOfTheDatabase) {
 TEST_F(FrmMain, OffersWhatItCanDoAndNothingElse) {
     load();
     EXPECT_EQ(menu("mnuFile"), (QStringList{"Quick Refresh", "Full Refresh", "-", "Exit"}));
+    EXPECT_EQ(menu("mnuOptionsMenu"), QStringList{"Days Off..."});
     EXPECT_EQ(menu("mnuHelp"), QStringList{"About..."});
     for (const char* later :
          {"cmdPrevious", "cmdNext", "cboGoTo", "chkView_0", "chkView_1", "chkAMPM_0", "cmdFilter"})

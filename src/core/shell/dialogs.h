@@ -1,0 +1,12 @@
+#pragma once
+
+namespace shell {
+
+// The dialogs that the main window's commands open. Each call shows one and returns when it has closed.
+class Dialogs {
+public:
+    virtual ~Dialogs() = default;
+    virtual void show_frmHolidays() = 0;
+};
+
+} // namespace shell

@@ -1,0 +1,23 @@
+#include "dialogs/dialogs.h"
+
+#include "dialogs/frm_holidays.h"
+
+namespace ui {
+
+void Dialogs::show_frmHolidays() {
+    frmHolidays({.file = calendar_.holidays,
+                 .background = calendar_.grid.background,
+                 .layout = calendar_.grid.layout,
+                 .ini = calendar_.ini,
+                 .user_store = calendar_.user_store,
+                 .locale = platform_.locale,
+                 .clock = platform_.clock,
+                 .box = platform_.box,
+                 .shell = platform_.shell,
+                 .application = platform_.application,
+                 .guarded = guarded_},
+                &window_)
+        .exec();
+}
+
+} // namespace ui

@@ -1,0 +1,64 @@
+#pragma once
+
+#include "host/shell.h"
+#include "shell/days_off.h"
+#include "shell/holidays_form.h"
+
+#include <QDialog>
+
+#include <memory>
+#include <vector>
+
+class QCheckBox;
+
+namespace Ui {
+class frmHolidays;
+}
+
+namespace ui {
+
+// The weekly days off and the holidays. It raises its events on the core's procedures and shows what they set.
+class frmHolidays : public QDialog, private shell::HolidaysForm {
+public:
+    // What the form's procedures need besides the form.
+    struct Needs {
+        shell::HolidayFile& file;
+        grid::Background& background;
+        const grid::Layout& layout;
+        settings::IniLib& ini;
+        settings::PerUserStore& user_store;
+        const values::Locale& locale;
+        const host::Clock& clock;
+        host::MessageBox& box;
+        host::Shell& shell;
+        const host::ApplicationInfo& application;
+        const host::Guard& guarded;
+    };
+    frmHolidays(const Needs& needs, QWidget* parent);
+    ~frmHolidays() override;
+
+    void done(int result) override;
+
+private:
+    void connect_controls();
+
+    void show_first_tab() override;
+    bool chkday(int weekday) const override;
+    void set_chkday(int weekday, bool checked) override;
+    values::DateTime dtpHol() const override;
+    void set_dtpHol(values::DateTime date) override;
+    void fill_lvwHol(std::span<const shell::Holiday> holidays) override;
+    void insert_into_lvwHol(std::size_t place, const shell::Holiday& holiday) override;
+    void remove_from_lvwHol(std::size_t place) override;
+    std::optional<std::size_t> selected_in_lvwHol() const override;
+    void set_cmdOK_enabled(bool enabled) override;
+    void show_frmDescr(std::string& sDescr) override;
+    void unload() override;
+
+    Needs need_;
+    std::unique_ptr<Ui::frmHolidays> controls_;
+    const std::vector<QCheckBox*> chkday_; // Sunday first
+    shell::DaysOff procedures_;
+};
+
+} // namespace ui

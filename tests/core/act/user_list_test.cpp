@@ -79,6 +79,14 @@ TEST_F(UserListTest, ShowsAllUsersWhenNoChosenOneIsLeft) {
     EXPECT_EQ(users.NumUsers, 3);
 }
 
+TEST_F(UserListTest, IsNeverEmptyAsLongAsThereIsOneUser) {
+    data.users.resize(1);
+    have_filter("GONE--------");
+    users.Initialize_Users(false);
+    EXPECT_EQ(shown(), Texts{"Ann"});
+    EXPECT_EQ(users.NumUsers, 1);
+}
+
 TEST_F(UserListTest, IgnoresTheFilterWhenAllUsersAreAskedFor) {
     have_filter("BOB---------");
     users.Initialize_Users(true);

@@ -101,9 +101,13 @@ TEST_F(QuickRefreshTest, OfTwoEditedActivitiesOnlyTheLaterInTheListIsReadNow) {
     add("Early", day(10));
     add("Later", day(11));
     fill();
+    world_.clock.time = day(10, 9, 15);
+    move("Early", day(10, 14));
     edit("Early", day(10, 10));
+    move("Later", day(11, 14));
     edit("Later", day(10, 9, 30));
     EXPECT_EQ(quick_refresh().Find_New(world_.engine.refresh.LastRefresh), id("Later"));
+    EXPECT_EQ(quick(), (Texts{"1/5 Early", "6/6 Later"}));
 }
 
 TEST_F(QuickRefreshTest, AnActivityEditedAtExactlyLastRefreshIsNotFound) {

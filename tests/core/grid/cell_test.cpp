@@ -69,12 +69,12 @@ TEST_F(CellTest, BelongsToTheUserOfItsRow) {
     EXPECT_EQ(layout.Cells(3, 5).User(), "Ann");
 }
 
-TEST_F(CellTest, BelongsToNobodyWhereRowsHaveNoUsers) {
+TEST_F(CellTest, HasAnEmptyUserWhereOneRowPerUserIsOff) {
     layout.OneRowPerUser = false;
     EXPECT_EQ(layout.Cells(1, 5).User(), "");
 }
 
-TEST_F(CellTest, FollowsAChangeOfItsSlotsStartAtOnceButKeepsItsLength) {
+TEST_F(CellTest, TimeFollowsAChangeOfItsSlotsStartAtOnceButDurationMinutesStays) {
     const grid::clsMsgSchedCell& cell = layout.Cells(3, 2);
     EXPECT_EQ(cell.Time(), DateTime::time_of_day(9, 0));
     world.set("Slots", "Slot1", "09:20 AM");
@@ -90,7 +90,7 @@ TEST_F(CellTest, FollowsTheFirstDayShown) {
     EXPECT_EQ(cell.DateDay(), DateTime::of(2024, 3, 1));
 }
 
-TEST_F(CellTest, LosesOnlyTextActivityContactAndSortTextWhenCleared) {
+TEST_F(CellTest, ClearLeavesDependsOnActivityInPlace) {
     grid::clsMsgSchedCell& cell = layout.Cells(1, 2);
     cell.Text("Call");
     cell.ActivityID("ACTIVITY0001");

@@ -67,6 +67,15 @@ TEST_F(LayoutShape, ShowsTheFailureBoxForMoreRowsThan16BitsCount) {
     EXPECT_NE(world.box.shown[0].text.find("in frmMain: Sub Initialize_Calendar"), std::string::npos);
 }
 
+TEST_F(LayoutShape, HasAtLeastOneRowPerSlotWhereTheFilterNamesNobodyThatExists) {
+    world.set("Filter", "Users", "GONE--------");
+    world.have_users({"Ann"});
+    open(true);
+    EXPECT_EQ(layout.CellsPerSlot, 1);
+    EXPECT_EQ(model.Rows(), 10);
+    EXPECT_TRUE(world.box.shown.empty());
+}
+
 TEST_F(LayoutShape, HasOnlyTheTitleRowWithoutUsers) {
     open(true);
     EXPECT_EQ(model.Rows(), 1);
@@ -136,6 +145,16 @@ TEST_F(LayoutShape, KeepsSizesDuringAJump) {
 
 //   column   2  3  4  5  6  7  8
 //   day     Su Mo Tu We Th Fr Sa
+TEST_F(LayoutShape, BeginsAWeekOnADayOffInAColumnOfWidthZero) {
+    world.set("Settings", "1stday", "3");
+    world.have_users({"Ann"});
+    layout.DaysOff = "3";
+    open(true);
+    EXPECT_EQ(layout.StartDate, DateTime::of(2024, 1, 9));
+    EXPECT_EQ(model.ColWidth(2), 0);
+    EXPECT_EQ(model.ColWidth(3), 1800);
+}
+
 TEST_F(LayoutShape, HidesDaysOffAndShowsThemAgain) {
     world.have_users({"Ann"});
     layout.DaysOff = "17";

@@ -133,7 +133,7 @@ TEST_F(RenderingTest, SaysNothingWhenNoCellIsSelectedYetOrTheGridGotSmaller) {
     EXPECT_TRUE(world.box.shown.empty());
 }
 
-TEST_F(RenderingTest, UnlinksAndEmptiesTheContinuationsOfTheSoughtActivity) {
+TEST_F(RenderingTest, Clear_DependentsEmptiesDependsOnActivityOfTheContinuations) {
     world.open_with_rows(1, 3);
     world.put(0, 2, {.id = "A1", .user = "a", .text = "long", .goes_beyond = 2});
     world.put(2, 2, {.id = "A2", .user = "a", .text = "other"});

@@ -69,7 +69,7 @@ TEST_F(SlotTest, GrowsByOneBeyondItsRowsInOrderOfArrival) {
     EXPECT_EQ(ids(slot()), (std::vector<std::string>{"D", "B", "C", "A"}));
 }
 
-TEST_F(SlotTest, FillsAFreedRecordBeforeAnyLaterOne) {
+TEST_F(SlotTest, SetCellFillsTheRecordThatDeleteCellFreedBeforeAnyLaterOne) {
     for (const char* id : {"A", "B", "C"})
         world.put(2, 4, {.id = id, .user = id, .text = "x"});
     slot().DeleteCell("A");

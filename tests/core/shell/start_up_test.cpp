@@ -103,6 +103,17 @@ TEST_F(StartUp, KeepsAStoredPathAtWhichNoSettingsFileStands) {
     EXPECT_FALSE(files.exists("/program/Orvanta.ini"));
 }
 
+TEST_F(StartUp, TellsOfAStoredPathWithoutAFileOnceAtEachStartUntilTheFileIsThere) {
+    store("SettingsFile", "/elsewhere/my.ini");
+    start();
+    EXPECT_EQ(box.shown.size(), 1U);
+    load();
+    EXPECT_EQ(box.shown.size(), 2U);
+    calendar.ini.WriteKeyValue("Settings", "1stday", "2");
+    load();
+    EXPECT_EQ(box.shown.size(), 2U);
+}
+
 TEST_F(StartUp, ReadsAStoredSettingsFileThatIsThere) {
     store("SettingsFile", "elsewhere/my.ini");
     files.content["elsewhere/my.ini"] = "[Settings]\nStdRowHeight=500\n";
@@ -143,6 +154,23 @@ TEST_F(StartUp, HasAsManyColumnsAsAnOddStoredViewGivesDays) {
     EXPECT_EQ(calendar.grid.msgSched.Cols(), 2 + 13);
     EXPECT_FALSE(window.chkView[0]);
     EXPECT_TRUE(window.chkView[1]);
+}
+
+TEST_F(StartUp, CountsTheDaysOfAnyOddWeeklyViewAndSelectsDailyForOneDayOnly) {
+    store("WeeklyView", "-1");
+    start();
+    EXPECT_EQ(layout().NumDays, -5);
+    EXPECT_FALSE(window.chkView[0]);
+    EXPECT_TRUE(window.chkView[1]);
+}
+
+TEST_F(StartUp, LeavesTheFourSizesOfTheViewsUnwritten) {
+    have_settings("[Settings]\n1stday=2\n");
+    start();
+    calendar.closing.Form_Unload();
+    const std::string settings = files.content["/program/Orvanta.ini"];
+    for (const char* key : {"DailyStdColWidth", "DailyStdRowHeight", "WeeklyStdColWidth", "WeeklyStdRowHeight"})
+        EXPECT_EQ(settings.find(key), std::string::npos) << key;
 }
 
 TEST_F(StartUp, ReadsTheHolidays) {

@@ -40,10 +40,26 @@ Calendar::Calendar(MainWindow& window, Dialogs& dialogs, const Platform& platfor
                 .engine = engine,
                 .holidays = holidays,
                 .bLoading = bLoading_}),
-      sizing(window, grid.msgSched, bLoading_, guarded_),
+      sizing(window, grid.msgSched, bLoading_, guarded_), navigation({.window = window,
+                                                                      .dialogs = dialogs,
+                                                                      .grid = grid,
+                                                                      .engine = engine,
+                                                                      .clock = platform.clock,
+                                                                      .folders = platform.folders,
+                                                                      .locale = platform.locale,
+                                                                      .guarded = guarded_,
+                                                                      .bLoading = bLoading_}),
       closing(window, platform.program, session, platform.ActEvent1, grid.layout, user_store, platform.shell,
               platform.tmr2, guarded_),
-      menu(engine, dialogs, platform.box, platform.application, guarded_) {
+      menu({.engine = engine,
+            .dialogs = dialogs,
+            .grid = grid,
+            .settings = ini,
+            .box = platform.box,
+            .application = platform.application,
+            .folders = platform.folders,
+            .shell = platform.shell,
+            .guarded = guarded_}) {
     ActEvent1_.OnDatabaseClose = [this] { closing.ActEvent1_OnDatabaseClose(); };
     ActEvent1_.OnActUserWantsToClose = [this] { closing.ActEvent1_OnActUserWantsToClose(); };
 }

@@ -21,6 +21,7 @@
 #include "shell/holidays.h"
 #include "shell/main_window.h"
 #include "shell/menu_commands.h"
+#include "shell/navigation.h"
 #include "shell/program.h"
 #include "shell/sizing.h"
 #include "shell/start_up.h"
@@ -69,6 +70,7 @@ public:
     engine::CalendarEngine engine;
     StartUp start_up;
     Sizing sizing;
+    Navigation navigation;
     Closing closing;
     MenuCommands menu;
 };

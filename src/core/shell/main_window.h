@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <span>
+#include <string>
 #include <string_view>
 
 namespace shell {
@@ -37,11 +38,20 @@ public:
     virtual void set_grid_size(int width, int height) = 0; // less than nothing counts as nothing
     virtual void set_lblYear_width(int width) = 0;
 
-    // chkView: 0 "Daily", 1 "Weekly".
+    // chkView: 0 "Daily", 1 "Weekly"; chkAMPM: 0 morning, 1 afternoon. Setting a box to another value raises its
+    // click, as the user's does.
+    virtual bool chkView(int index) const = 0;
     virtual void set_chkView(int index, bool checked) = 0;
+    virtual bool chkAMPM(int index) const = 0;
+    virtual void set_chkAMPM(int index, bool checked) = 0;
     virtual void fill_cboGoTo(std::span<const std::string_view> entries) = 0; // the first one is selected
     // Lets the list of cboGoTo open to so many lines without a scroll bar.
     virtual void set_cboGoTo_lines(int lines) = 0;
+    virtual std::string cboGoTo_text() const = 0;
+    virtual void select_cboGoTo(int index) = 0; // raises nothing
+
+    virtual void focus_grid() = 0;
+    virtual void repaint() = 0; // at once
 
     // The platform's number of the window in front, 0 where it doesn't tell.
     virtual std::uintptr_t foreground_window() const = 0;

@@ -1,31 +1,51 @@
 #pragma once
 
 #include "engine/calendar_engine.h"
+#include "grid/calendar_grid.h"
 #include "host/application_info.h"
+#include "host/folders.h"
 #include "host/guard.h"
 #include "host/message_box.h"
+#include "host/shell.h"
+#include "settings/ini_lib.h"
 #include "shell/dialogs.h"
+
+#include <string>
 
 namespace shell {
 
-// The commands of the main menu.
+// The commands of the main menu, and those of the grid's menu that set sizes back.
 class MenuCommands {
 public:
-    MenuCommands(engine::CalendarEngine& engine, Dialogs& dialogs, host::MessageBox& box,
-                 const host::ApplicationInfo& application, const host::Guard& guarded)
-        : engine_(engine), dialogs_(dialogs), box_(box), application_(application), guarded_(guarded) {}
+    struct Needs {
+        engine::CalendarEngine& engine;
+        Dialogs& dialogs;
+        grid::CalendarGrid& grid;
+        const settings::IniLib& settings;
+        host::MessageBox& box;
+        const host::ApplicationInfo& application;
+        const host::Folders& folders;
+        host::Shell& shell;
+        const host::Guard& guarded;
+    };
+    explicit MenuCommands(const Needs& needs) : need_(needs) {}
 
     void mnuRefresh_Click();     // what changed since the last refresh
     void mnuFullRefresh_Click(); // everything
     void mnuHolidays_Click();    // edits days off and holidays
+    void mnuUsers_Click();       // opens the manual
+    void mnuOnline_Click();      // opens the tutorial's page; no entry of the window calls it
     void mnuAbout_Click();       // tells title and version
 
+    void mnuResetRowHeight_Click(); // of the current row
+    // Takes the n-th day column for the n-th weekday, whatever the first day in view. In the daily view that runs
+    // beyond the last column, which fails.
+    void mnuResetColumnWidth_Click();
+
 private:
-    engine::CalendarEngine& engine_;
-    Dialogs& dialogs_;
-    host::MessageBox& box_;
-    const host::ApplicationInfo& application_;
-    const host::Guard& guarded_;
+    void open(const std::string& file_or_page);
+
+    Needs need_;
 };
 
 } // namespace shell

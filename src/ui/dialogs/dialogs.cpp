@@ -1,6 +1,7 @@
 #include "dialogs/dialogs.h"
 
 #include "dialogs/frm_holidays.h"
+#include "dialogs/frm_mini_calendar.h"
 
 namespace ui {
 
@@ -18,6 +19,10 @@ void Dialogs::show_frmHolidays() {
                  .guarded = guarded_},
                 &window_)
         .exec();
+}
+
+void Dialogs::show_frmMiniCalendar(shell::JumpDates& dates) {
+    frmMiniCalendar(dates, calendar_.user_store, guarded_, &window_).exec();
 }
 
 } // namespace ui

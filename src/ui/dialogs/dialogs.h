@@ -17,6 +17,7 @@ public:
     }
 
     void show_frmHolidays() override;
+    void show_frmMiniCalendar(shell::JumpDates& dates) override;
 
 private:
     QWidget& window_;

@@ -8,6 +8,8 @@ namespace ui {
 
 // Twips in a pixel of a screen of 96 dots to the inch; Qt's scale factor comes on top.
 inline constexpr int twips_per_pixel = 15;
+constexpr int twips(int pixels) { return pixels * twips_per_pixel; }
+constexpr int pixels(int twips) { return qRound(static_cast<double>(twips) / twips_per_pixel); }
 
 // How the grid looks. Its colours are its own and don't follow a dark theme, since the colours of the cells are
 // chosen by the user for a white ground.

@@ -40,6 +40,7 @@ frmMain::frmMain(const shell::Platform& platform)
     face_.msgSched = msgSched_.get();
     calendar_.grid.msgSched.add_observer(*this);
     connect_menu();
+    connect_controls();
 }
 
 frmMain::~frmMain() { calendar_.grid.msgSched.remove_observer(*this); }
@@ -50,7 +51,24 @@ void frmMain::connect_menu() {
     connect(controls_->mnuFullRefresh, &QAction::triggered, this, [&menu] { menu.mnuFullRefresh_Click(); });
     connect(controls_->mnuExit, &QAction::triggered, this, [this] { calendar_.closing.mnuExit_Click(); });
     connect(controls_->mnuHolidays, &QAction::triggered, this, [&menu] { menu.mnuHolidays_Click(); });
+    connect(controls_->mnuUsers, &QAction::triggered, this, [&menu] { menu.mnuUsers_Click(); });
     connect(controls_->mnuAbout, &QAction::triggered, this, [&menu] { menu.mnuAbout_Click(); });
+    for (QAction* separator : {controls_->mnuSep8, controls_->mnuSep6})
+        separator->setSeparator(true);
+}
+
+void frmMain::connect_controls() {
+    shell::Navigation& navigation = calendar_.navigation;
+    connect(controls_->cmdPrevious, &QToolButton::clicked, this, [&] { navigation.cmdPrevious_Click(); });
+    connect(controls_->cmdNext, &QToolButton::clicked, this, [&] { navigation.cmdNext_Click(); });
+    controls_->cboGoTo->chosen = [&] { navigation.cboGoTo_Click(); };
+    controls_->cboGoTo->key_pressed = [&](int key) { navigation.cboGoTo_KeyPress(key); };
+    for (const int index : {0, 1}) {
+        const auto box = static_cast<std::size_t>(index);
+        connect(face_.view_boxes[box], &QCheckBox::toggled, this, [&, index] { navigation.chkView_Click(index); });
+        connect(face_.half_day_boxes[box], &QCheckBox::toggled, this,
+                [&, index] { navigation.chkAMPM_Click(index); });
+    }
 }
 
 void frmMain::load() {

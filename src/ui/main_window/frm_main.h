@@ -35,6 +35,7 @@ protected:
 
 private:
     void connect_menu();
+    void connect_controls();
     void finish_unload();
     void grid_changed(grid::GridChange change) override;
     // Takes over what the calendar keeps for controls of the window: the year's caption and the users.

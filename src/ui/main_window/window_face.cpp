@@ -16,13 +16,10 @@ namespace {
 constexpr int margin_below_labels = 4; // pixels
 constexpr int thickest_border = 8;
 
-int twips(int pixels) { return pixels * twips_per_pixel; }
-int pixels(int twips) { return qRound(static_cast<double>(twips) / twips_per_pixel); }
-
 } // namespace
 
 WindowFace::WindowFace(QMainWindow& window, Ui::frmMain& controls, std::function<void()> unload)
-    : chkView{controls.chkView_0, controls.chkView_1}, chkAMPM{controls.chkAMPM_0, controls.chkAMPM_1},
+    : view_boxes{controls.chkView_0, controls.chkView_1}, half_day_boxes{controls.chkAMPM_0, controls.chkAMPM_1},
       window_(window), controls_(controls), unload_(std::move(unload)) {}
 
 // The frame's corner and the size inside the frame, as move and resize take them.
@@ -91,8 +88,13 @@ void WindowFace::set_lblYear_width(int width) {
     controls_.lblYear->resize(std::max(pixels(width), 0), controls_.lblYear->height());
 }
 
+bool WindowFace::chkView(int index) const { return view_boxes[static_cast<std::size_t>(index)]->isChecked(); }
 void WindowFace::set_chkView(int index, bool checked) {
-    chkView[static_cast<std::size_t>(index)]->setChecked(checked);
+    view_boxes[static_cast<std::size_t>(index)]->setChecked(checked);
+}
+bool WindowFace::chkAMPM(int index) const { return half_day_boxes[static_cast<std::size_t>(index)]->isChecked(); }
+void WindowFace::set_chkAMPM(int index, bool checked) {
+    half_day_boxes[static_cast<std::size_t>(index)]->setChecked(checked);
 }
 
 void WindowFace::fill_cboGoTo(std::span<const std::string_view> entries) {
@@ -102,6 +104,14 @@ void WindowFace::fill_cboGoTo(std::span<const std::string_view> entries) {
 }
 
 void WindowFace::set_cboGoTo_lines(int lines) { controls_.cboGoTo->setMaxVisibleItems(lines); }
+std::string WindowFace::cboGoTo_text() const { return controls_.cboGoTo->currentText().toStdString(); }
+void WindowFace::select_cboGoTo(int index) { controls_.cboGoTo->setCurrentIndex(index); }
+
+void WindowFace::focus_grid() {
+    if (msgSched)
+        msgSched->setFocus();
+}
+void WindowFace::repaint() { window_.repaint(); }
 
 // Windows of other programs aren't told.
 std::uintptr_t WindowFace::foreground_window() const {

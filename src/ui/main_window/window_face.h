@@ -43,9 +43,16 @@ public:
     void set_grid_size(int width, int height) override;
     void set_lblYear_width(int width) override;
 
+    bool chkView(int index) const override;
     void set_chkView(int index, bool checked) override;
+    bool chkAMPM(int index) const override;
+    void set_chkAMPM(int index, bool checked) override;
     void fill_cboGoTo(std::span<const std::string_view> entries) override;
     void set_cboGoTo_lines(int lines) override;
+    std::string cboGoTo_text() const override;
+    void select_cboGoTo(int index) override;
+    void focus_grid() override;
+    void repaint() override;
     std::uintptr_t foreground_window() const override;
 
     void lock_updates() override;
@@ -54,8 +61,8 @@ public:
     void show_default_pointer() override;
     void bring_to_front() override;
 
-    // Control arrays.
-    const std::vector<QCheckBox*> chkView, chkAMPM;
+    // The control arrays chkView and chkAMPM.
+    const std::vector<QCheckBox*> view_boxes, half_day_boxes;
     QWidget* msgSched = nullptr; // sized by set_grid_size once it is there
 
 private:

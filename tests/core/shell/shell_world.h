@@ -3,6 +3,7 @@
 #include "support/platform_world.h"
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -38,11 +39,22 @@ public:
     int present_height() const override { return place.height; }
     void set_grid_size(int width, int height) override { grid_width = width, grid_height = height; }
     void set_lblYear_width(int width) override { lblYear_width = width; }
-    void set_chkView(int index, bool checked) override { chkView[index] = checked; }
+    bool chkView(int index) const override { return view_boxes[index]; }
+    void set_chkView(int index, bool checked) override {
+        set_box(view_boxes[index], checked, index, chkView_Click);
+    }
+    bool chkAMPM(int index) const override { return half_day_boxes[index]; }
+    void set_chkAMPM(int index, bool checked) override {
+        set_box(half_day_boxes[index], checked, index, chkAMPM_Click);
+    }
     void fill_cboGoTo(std::span<const std::string_view> entries) override {
         cboGoTo.assign(entries.begin(), entries.end());
     }
     void set_cboGoTo_lines(int lines) override { cboGoTo_lines = lines; }
+    std::string cboGoTo_text() const override { return jump; }
+    void select_cboGoTo(int index) override { jump = cboGoTo.at(static_cast<std::size_t>(index)); }
+    void focus_grid() override { calls.emplace_back("focus_grid"); }
+    void repaint() override { calls.emplace_back("repaint"); }
     std::uintptr_t foreground_window() const override { return 4711; }
 
     void lock_updates() override { calls.emplace_back("lock_updates"); }
@@ -56,20 +68,40 @@ public:
     } place;
     shell::WindowState state = shell::WindowState::normal;
     int grid_width = 0, grid_height = 0, lblYear_width = 0;
-    bool chkView[2] = {false, true};
+    bool view_boxes[2] = {false, true};
+    bool half_day_boxes[2] = {false, false};
     std::vector<std::string> cboGoTo;
+    std::string jump; // the entry that cboGoTo shows
     int cboGoTo_lines = 0;
     int unloads = 0;
     std::vector<std::string> calls;
     std::function<void()> Form_Unload;
+    std::function<void(int)> chkView_Click, chkAMPM_Click;
+
+private:
+    static void set_box(bool& box, bool checked, int index, const std::function<void(int)>& Click) {
+        if (box == checked)
+            return;
+        box = checked;
+        Click(index);
+    }
 };
 
-// Remembers which dialogs were opened.
+// Closes each dialog at once and remembers which were opened. The mini calendar is cancelled unless there is a
+// date to pick.
 class FakeDialogs : public shell::Dialogs {
 public:
     void show_frmHolidays() override { shown.emplace_back("frmHolidays"); }
+    void show_frmMiniCalendar(shell::JumpDates& dates) override {
+        opened_on.push_back(dates.datCurrentNow);
+        dates.bDateNowCancel = !pick;
+        if (pick)
+            dates.datNow = *pick;
+    }
 
     std::vector<std::string> shown;
+    std::vector<values::DateTime> opened_on; // by the mini calendar
+    std::optional<values::DateTime> pick;
 };
 
 // The calendar in a world of fakes: two users, no activities.
@@ -79,6 +111,8 @@ public:
         for (const char* name : {"Ann", "Bob"})
             data.users.push_back({.id = id(name), .name = name, .security = "", .access = ""});
         window.Form_Unload = [this] { calendar.closing.Form_Unload(); };
+        window.chkView_Click = [this](int index) { calendar.navigation.chkView_Click(index); };
+        window.chkAMPM_Click = [this](int index) { calendar.navigation.chkAMPM_Click(index); };
     }
 
     static std::string id(const std::string& name) { return name + std::string(12 - name.size(), '-'); }

@@ -143,8 +143,8 @@ TEST_F(StartUp, TakesUpTheDailyView) {
     start();
     EXPECT_EQ(layout().NumDays, 1);
     EXPECT_EQ(layout().StartDate, DateTime::of(2024, 1, 10));
-    EXPECT_TRUE(window.chkView[0]);
-    EXPECT_FALSE(window.chkView[1]);
+    EXPECT_TRUE(window.view_boxes[0]);
+    EXPECT_FALSE(window.view_boxes[1]);
 }
 
 TEST_F(StartUp, HasAsManyColumnsAsAnOddStoredViewGivesDays) {
@@ -152,8 +152,8 @@ TEST_F(StartUp, HasAsManyColumnsAsAnOddStoredViewGivesDays) {
     start();
     EXPECT_EQ(layout().NumDays, 13);
     EXPECT_EQ(calendar.grid.msgSched.Cols(), 2 + 13);
-    EXPECT_FALSE(window.chkView[0]);
-    EXPECT_TRUE(window.chkView[1]);
+    EXPECT_FALSE(window.view_boxes[0]);
+    EXPECT_TRUE(window.view_boxes[1]);
 }
 
 TEST_F(StartUp, CountsTheDaysOfAnyOddWeeklyViewAndSelectsDailyForOneDayOnly) {

@@ -27,10 +27,12 @@ protected:
         action->trigger();
         settle();
     }
+    // A caption as it is shown, without the mark of its key.
+    static QString plain(QString caption) { return caption.remove('&'); }
     QStringList menu(const char* name) {
         QStringList entries;
         for (const QAction* action : control<QMenu>(name)->actions())
-            entries << (action->isSeparator() ? QStringLiteral("-") : action->text());
+            entries << (action->isSeparator() ? QStringLiteral("-") : plain(action->text()));
         return entries;
     }
     // The database closes while a procedure waits for the user; the end that wants to come ends the waiting.
@@ -66,10 +68,10 @@ TEST_F(FrmMain, HasItsControlsByName) {
     EXPECT_NE(control<QComboBox>("cboUsers"), nullptr);
     EXPECT_NE(control<QPushButton>("cmdFilter"), nullptr);
     EXPECT_NE(control<QLabel>("lblYear"), nullptr);
-    ASSERT_EQ(window.face().chkView.size(), 2U);
-    EXPECT_EQ(window.face().chkView[0]->text(), "Daily");
-    EXPECT_EQ(window.face().chkView[1]->text(), "Weekly");
-    EXPECT_EQ(window.face().chkAMPM.size(), 2U);
+    ASSERT_EQ(window.face().view_boxes.size(), 2U);
+    EXPECT_EQ(plain(window.face().view_boxes[0]->text()), "Daily");
+    EXPECT_EQ(plain(window.face().view_boxes[1]->text()), "Weekly");
+    EXPECT_EQ(window.face().half_day_boxes.size(), 2U);
 }
 
 TEST_F(FrmMain, ShowsTheWeekOfTheDatabase) {
@@ -89,10 +91,11 @@ TEST_F(FrmMain, OffersWhatItCanDoAndNothingElse) {
     load();
     EXPECT_EQ(menu("mnuFile"), (QStringList{"Quick Refresh", "Full Refresh", "-", "Exit"}));
     EXPECT_EQ(menu("mnuOptionsMenu"), QStringList{"Days Off..."});
-    EXPECT_EQ(menu("mnuHelp"), QStringList{"About..."});
-    for (const char* later :
-         {"cmdPrevious", "cmdNext", "cboGoTo", "chkView_0", "chkView_1", "chkAMPM_0", "cmdFilter"})
-        EXPECT_FALSE(control<QWidget>(later)->isVisible()) << later;
+    EXPECT_EQ(menu("mnuHelp"), (QStringList{"User's manual", "-", "About..."}));
+    for (const char* name :
+         {"cmdPrevious", "cmdNext", "lblGoTo", "cboGoTo", "chkView_0", "chkView_1", "chkAMPM_0", "chkAMPM_1"})
+        EXPECT_TRUE(control<QWidget>(name)->isVisible()) << name;
+    EXPECT_FALSE(control<QWidget>("cmdFilter")->isVisible());
 }
 
 TEST_F(FrmMain, StaysHiddenWhenItsStartIsStopped) {

@@ -69,8 +69,8 @@ TEST_F(WindowFace, FillsTheJumpListWithItsFirstEntrySelected) {
 TEST_F(WindowFace, ChecksTheViewBoxes) {
     face().set_chkView(0, true);
     face().set_chkView(1, false);
-    EXPECT_TRUE(window.face().chkView[0]->isChecked());
-    EXPECT_FALSE(window.face().chkView[1]->isChecked());
+    EXPECT_TRUE(window.face().view_boxes[0]->isChecked());
+    EXPECT_FALSE(window.face().view_boxes[1]->isChecked());
 }
 
 TEST_F(WindowFace, HoldsPaintingBackWithOneLockHoweverOftenItIsAsked) {

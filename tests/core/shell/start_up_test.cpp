@@ -160,8 +160,8 @@ TEST_F(StartUp, CountsTheDaysOfAnyOddWeeklyViewAndSelectsDailyForOneDayOnly) {
     store("WeeklyView", "-1");
     start();
     EXPECT_EQ(layout().NumDays, -5);
-    EXPECT_FALSE(window.chkView[0]);
-    EXPECT_TRUE(window.chkView[1]);
+    EXPECT_FALSE(window.view_boxes[0]);
+    EXPECT_TRUE(window.view_boxes[1]);
 }
 
 TEST_F(StartUp, LeavesTheFourSizesOfTheViewsUnwritten) {

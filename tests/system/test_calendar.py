@@ -6,7 +6,7 @@ import signal
 import unittest
 
 from desktop import Atspi, Desktop, Grid, names, press, press_to_open_a_box, wait_for
-from sample_week import cells_of_week, users, week_of
+from sample_week import cells_of_week, rows_of_week, users, week_of
 
 PLAIN_ONLY = "[Settings]\r\nCheckRecurring=0\r\n"
 
@@ -42,12 +42,18 @@ class CalendarBesideTheDesk(unittest.TestCase):
                     first_line = shown.splitlines()[0] if shown else ""
                     self.assertEqual(first_line, expected.get((slot, day, user), ""), (slot, day, user))
 
-    def test_shared_rows_give_a_grid_of_four_rows_a_slot_and_one_column_a_day(self):
-        settings(self.desktop, PLAIN_ONLY + "OneRowPerUser=0\r\nCellsPerSlot=4\r\n[Filter]\r\nPriority1=0\r\n"
-                               "Priority2=0\r\n")
+    def test_shared_rows_show_the_activities_of_a_slot_by_user_and_start(self):
+        settings(self.desktop, PLAIN_ONLY + "OneRowPerUser=0\r\nCellsPerSlot=12\r\n")
         self.start_both()
         grid = Grid(self.calendar)
-        self.assertEqual((grid.rows, grid.columns), (9 * 4 + 1, 8))
+        self.assertEqual((grid.rows, grid.columns), (9 * 12 + 1, 8))
+        expected = rows_of_week(self.database, week_of(datetime.date.today()))
+        self.assertGreater(max(map(len, expected.values())), 2)
+        for slot in range(9):
+            for day in range(7):
+                shown = [grid.text(slot * 12 + row + 1, day + 1).strip() for row in range(12)]
+                begun = [text.splitlines()[0] for text in shown if text and text != "( Continued )"]
+                self.assertEqual(begun, expected.get((slot, day), []), (slot, day))
 
     def test_titles_name_the_days_of_the_week_and_the_users(self):
         self.start_both()

@@ -54,6 +54,60 @@ TEST_F(MenuCommands, DaysOffOpensItsDialogAndDoesNothingAfterIt) {
     EXPECT_FALSE(shows(11));
 }
 
+TEST_F(MenuCommands, UsersManualOpensTheManualInTheProgramsFolder) {
+    calendar.menu.mnuUsers_Click();
+    EXPECT_EQ(shell.opened, std::vector<std::string>{"/program/orvanta_manual.pdf"});
+    EXPECT_TRUE(box.shown.empty());
+}
+
+TEST_F(MenuCommands, UsersManualThatCantBeOpenedIsTold) {
+    shell.succeeds = false;
+    calendar.menu.mnuUsers_Click();
+    EXPECT_EQ(boxes(),
+              std::vector<std::string>{"Error 53: '/program/orvanta_manual.pdf isn't there, or no program is "
+                                       "there to open it'"});
+}
+
+TEST_F(MenuCommands, OnlineOpensThePageOfTheTutorial) {
+    calendar.menu.mnuOnline_Click();
+    ASSERT_EQ(shell.opened.size(), 1U);
+    EXPECT_TRUE(shell.opened[0].ends_with("/orvanta_online.htm"));
+}
+
+TEST_F(MenuCommands, ResetRowHeightGivesTheCurrentRowItsStandardHeight) {
+    grid::GridModel& grid = calendar.grid.msgSched;
+    grid.Row(4);
+    grid.RowHeight(4, 1234);
+    grid.RowHeight(5, 1234);
+    calendar.menu.mnuResetRowHeight_Click();
+    EXPECT_EQ(grid.RowHeight(4), 820);
+    EXPECT_EQ(grid.RowHeight(5), 1234);
+    have_settings("[Settings]\nStdRowHeight=700\n");
+    calendar.menu.mnuResetRowHeight_Click();
+    EXPECT_EQ(grid.RowHeight(4), 700);
+}
+
+TEST_F(MenuCommands, ResetColumnWidthPairsTheWeekdaysNumberWithTheColumns) {
+    grid::GridModel& grid = calendar.grid.msgSched;
+    for (int col = 2; col < 9; ++col)
+        grid.ColWidth(col, 1000 + col);
+    have_settings("[Settings]\nStdColWidth=1500\n1stday=2\n[DaysOff]\n1=1\n");
+    calendar.menu.mnuResetColumnWidth_Click();
+    EXPECT_EQ(grid.ColWidth(2), 1002); // of the first column, whatever weekday it shows
+    for (int col = 3; col < 9; ++col)
+        EXPECT_EQ(grid.ColWidth(col), 1500) << col;
+    EXPECT_TRUE(box.shown.empty());
+}
+
+TEST_F(MenuCommands, ResetColumnWidthRunsBeyondTheOneColumnOfADailyView) {
+    calendar.navigation.Switch_View(5);
+    calendar.grid.msgSched.ColWidth(2, 1234);
+    calendar.menu.mnuResetColumnWidth_Click();
+    EXPECT_EQ(calendar.grid.msgSched.ColWidth(2), 1800);
+    ASSERT_EQ(box.shown.size(), 1U);
+    EXPECT_TRUE(box.shown[0].text.starts_with("Error 381: '"));
+}
+
 TEST_F(MenuCommands, AboutTellsTitleAndVersion) {
     calendar.menu.mnuAbout_Click();
     ASSERT_EQ(box.shown.size(), 1U);

@@ -1,7 +1,7 @@
 #include "windows/activity_commands.h"
 
-#include "windows/activity_dialog.h"
 #include "windows/boxes.h"
+#include "windows/clear_dialog.h"
 #include "windows/conversions.h"
 #include "windows/refusal.h"
 
@@ -25,10 +25,13 @@ std::string first_enabled(const std::vector<store::User>& users) {
 } // namespace
 
 ActivityCommands::ActivityCommands(Session& session, Lookup& lookup, QWidget& window)
-    : session_(session), lookup_(lookup), window_(window) {}
+    : session_(session), lookup_(lookup), window_(window), sender_(session, window) {
+    QObject::connect(&session, &Session::closed, &window, [this] { close_dialog(); });
+}
 
-void ActivityCommands::schedule(store::ActivityType type, std::function<void()> finished) {
-    require_ready();
+void ActivityCommands::schedule(store::ActivityType type, Finished finished) {
+    require_idle();
+    require_writable();
     store::Activity activity;
     activity.type = type;
     activity.start = next_half_hour(session_.now());
@@ -37,16 +40,32 @@ void ActivityCommands::schedule(store::ActivityType type, std::function<void()> 
     activity.user = first_enabled(session_.directory().users());
     if (!lookup_.current().empty())
         activity.contacts.push_back(lookup_.current());
-    open(activity, std::move(finished));
+    open(new ActivityDialog(session_, activity, &window_), std::move(finished));
 }
 
-void ActivityCommands::edit(const std::string& activity, std::function<void()> finished) {
-    require_ready();
-    open(stored_activity(activity), std::move(finished));
+void ActivityCommands::edit(const std::string& activity, ActivityDialog::Tab tab, Finished finished) {
+    require_idle();
+    require_writable();
+    auto* dialog = new ActivityDialog(session_, stored_activity(activity), &window_);
+    dialog->show_tab(tab);
+    open(dialog, std::move(finished));
+}
+
+void ActivityCommands::clear(const std::string& activity, Finished finished) {
+    require_idle();
+    require_writable();
+    open(new ClearDialog(session_, stored_activity(activity), &window_), std::move(finished));
+}
+
+void ActivityCommands::send(const std::string& activity, Finished finished) {
+    require_idle();
+    sender_.send(stored_activity(activity), ending(std::move(finished)));
+    is_under_way_ = true;
 }
 
 void ActivityCommands::remove(const std::string& activity) {
-    require_ready();
+    require_idle();
+    require_writable();
     const store::Activity record = stored_activity(activity);
     const QString question = record.recurrence.kind == store::RecurrenceKind::none
                                  ? QObject::tr("Delete the activity \"%1\"?")
@@ -57,9 +76,18 @@ void ActivityCommands::remove(const std::string& activity) {
     session_.refresh();
 }
 
-void ActivityCommands::require_ready() const {
-    if (is_dialog_open())
-        refuse("An activity is being edited already. Close its dialog first.");
+void ActivityCommands::close_dialog() {
+    if (dialog_)
+        dialog_->reject();
+    sender_.close_dialog();
+}
+
+void ActivityCommands::require_idle() const {
+    if (is_under_way_)
+        refuse("Another activity is being worked on already. Close its dialog first.");
+}
+
+void ActivityCommands::require_writable() const {
     if (session_.store().is_read_only())
         refuse("The database is open for reading alone.");
 }
@@ -73,20 +101,26 @@ store::Activity ActivityCommands::stored_activity(const std::string& id) const {
     return *activity;
 }
 
-void ActivityCommands::open(const store::Activity& activity, std::function<void()> finished) {
+void ActivityCommands::open(QDialog* dialog, Finished finished) {
     if (window_.isMinimized())
         window_.showNormal();
     window_.raise();
-    dialog_ = new ActivityDialog(session_, activity, &window_);
-    dialog_->setAttribute(Qt::WA_DeleteOnClose);
-    QObject::connect(dialog_, &QDialog::finished, &window_, [this, finished = std::move(finished)] {
+    dialog_ = dialog;
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    QObject::connect(dialog, &QDialog::finished, &window_, ending(std::move(finished)));
+    is_under_way_ = true;
+    dialog->open();
+    dialog->activateWindow();
+}
+
+ActivityCommands::Finished ActivityCommands::ending(Finished finished) {
+    return [this, finished = std::move(finished)] {
+        is_under_way_ = false;
         dialog_ = nullptr;
         attempt(&window_, [this] { session_.refresh(); });
         if (finished)
             finished();
-    });
-    dialog_->open();
-    dialog_->activateWindow();
+    };
 }
 
 } // namespace windows

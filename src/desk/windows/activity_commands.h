@@ -1,5 +1,7 @@
 #pragma once
 
+#include "windows/activity_dialog.h"
+#include "windows/activity_sender.h"
 #include "windows/lookup.h"
 
 #include <QPointer>
@@ -9,32 +11,40 @@
 
 namespace windows {
 
-class ActivityDialog;
-
-// Schedules, edits and deletes activities in dialogs over a window. One dialog is open at a time.
+// Schedules, edits, clears, sends and deletes activities in dialogs over a window. One command is under way at a
+// time.
 class ActivityCommands {
 public:
+    using Finished = std::function<void()>;
+
     ActivityCommands(Session& session, Lookup& lookup, QWidget& window);
 
-    // Each opens its dialog and returns; `finished` is called when the dialog has closed and what it stored is
-    // shown. Each fails with 440 and opens nothing when a dialog is open already, no database is open or it can't
-    // be written, and edit also when there is no such activity.
-    void schedule(store::ActivityType type, std::function<void()> finished);
-    void edit(const std::string& activity, std::function<void()> finished);
+    // Each begins the command and returns; `finished` is called once, when its dialog has closed, whichever way,
+    // and what it stored is shown. Each fails with 440 and begins nothing when another one is under way, no
+    // database is open or, but for send, it can't be written, and those for an activity when there is no such one.
+    void schedule(store::ActivityType type, Finished finished);
+    void edit(const std::string& activity, ActivityDialog::Tab tab, Finished finished);
+    void clear(const std::string& activity, Finished finished);
+    void send(const std::string& activity, Finished finished);
     // Deletes after a question. Fails as above.
     void remove(const std::string& activity);
 
-    bool is_dialog_open() const { return !dialog_.isNull(); }
+    bool is_under_way() const { return is_under_way_; }
+    void close_dialog(); // as by Cancel; without one nothing happens
 
 private:
-    void require_ready() const;
+    void require_idle() const;
+    void require_writable() const;
     store::Activity stored_activity(const std::string& id) const;
-    void open(const store::Activity& activity, std::function<void()> finished);
+    void open(QDialog* dialog, Finished finished);
+    Finished ending(Finished finished); // what ends the command
 
     Session& session_;
     Lookup& lookup_;
     QWidget& window_;
-    QPointer<ActivityDialog> dialog_;
+    ActivitySender sender_;
+    QPointer<QDialog> dialog_;
+    bool is_under_way_ = false;
 };
 
 } // namespace windows

@@ -27,7 +27,7 @@ ActivityDialog::ActivityDialog(Session& session, store::Activity activity, QWidg
     show_choices();
     show_activity();
     connect_parts();
-    ui_->regarding_edit->setFocus();
+    show_tab(Tab::general);
 }
 
 ActivityDialog::~ActivityDialog() = default;
@@ -71,6 +71,12 @@ void ActivityDialog::connect_parts() {
     connect(ui_->alarm_box, &QCheckBox::toggled, ui_->alarm_lead_box, &QWidget::setEnabled);
     connect(ui_->date_edit, &DateField::date_changed, this,
             [this] { ui_->recurring_tab->set_start(*ui_->date_edit->known_date()); });
+}
+
+void ActivityDialog::show_tab(Tab tab) {
+    ui_->tabs->setCurrentIndex(static_cast<int>(tab));
+    QWidget* const first[] = {ui_->regarding_edit, ui_->details_edit, ui_->recurring_tab};
+    first[static_cast<int>(tab)]->setFocus();
 }
 
 // An activity that came without a date keeps none until the user gives it one.

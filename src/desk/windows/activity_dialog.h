@@ -21,6 +21,9 @@ public:
     ActivityDialog(Session& session, store::Activity activity, QWidget* parent);
     ~ActivityDialog() override;
 
+    enum class Tab { general, details, recurring };
+    void show_tab(Tab tab); // with the keyboard's focus on its first field
+
     void accept() override;
 
 private:

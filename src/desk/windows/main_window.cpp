@@ -57,6 +57,7 @@ MainWindow::MainWindow(Session& session, Import import)
 // The views go first: they use members of the window to their end.
 MainWindow::~MainWindow() {
     poll_.stop();
+    activity_commands_.close_dialog();
     delete takeCentralWidget();
 }
 
@@ -81,7 +82,7 @@ void MainWindow::build_views() {
     connect(groups, &GroupsView::looked_up, this, [this] { show_view(contact_list_); });
     for (ActivityList* list : {&contact_page_->activities(), task_list_}) {
         connect(list, &ActivityList::opened, this, [this](const std::string& activity) {
-            attempt(this, [&] { activity_commands_.edit(activity, {}); });
+            attempt(this, [&] { activity_commands_.edit(activity, ActivityDialog::Tab::general, {}); });
         });
         connect(list, &ActivityList::chosen, this, &MainWindow::show_state);
     }
@@ -144,7 +145,13 @@ void MainWindow::connect_schedule_menu() {
     scheduling(ui_->schedule_call, ActivityType::call);
     scheduling(ui_->schedule_meeting, ActivityType::meeting);
     scheduling(ui_->schedule_to_do, ActivityType::to_do);
-    on(ui_->edit_activity, [this] { activity_commands_.edit(shown_activities().current_id(), {}); });
+    const auto editing = [this](QAction* action, ActivityDialog::Tab tab) {
+        on(action, [this, tab] { activity_commands_.edit(shown_activities().current_id(), tab, {}); });
+    };
+    editing(ui_->edit_activity, ActivityDialog::Tab::general);
+    editing(ui_->activity_details, ActivityDialog::Tab::details);
+    on(ui_->clear_activity, [this] { activity_commands_.clear(shown_activities().current_id(), {}); });
+    on(ui_->send_activity, [this] { activity_commands_.send(shown_activities().current_id(), {}); });
     on(ui_->delete_activity, [this] { activity_commands_.remove(shown_activities().current_id()); });
 }
 
@@ -173,11 +180,21 @@ void MainWindow::fill_commands() {
     commands_.add(CommandNumber::schedule_activity, [this](Finished finished) {
         activity_commands_.schedule(store::ActivityType::meeting, std::move(finished));
     });
-    commands_.add(CommandNumber::edit_activity, [this](Finished finished) {
-        activity_commands_.edit(contact_page_->activities().current_id(), std::move(finished));
-    });
+    const auto selected = [this] { return contact_page_->activities().current_id(); };
+    const auto editing = [=, this](CommandNumber number, ActivityDialog::Tab tab) {
+        commands_.add(number, [=, this](Finished finished) {
+            activity_commands_.edit(selected(), tab, std::move(finished));
+        });
+    };
+    editing(CommandNumber::edit_activity, ActivityDialog::Tab::general);
+    editing(CommandNumber::activity_details, ActivityDialog::Tab::details);
+    commands_.add(CommandNumber::clear_activity,
+                  [=, this](Finished finished) { activity_commands_.clear(selected(), std::move(finished)); });
+    commands_.add(CommandNumber::send_activity,
+                  [=, this](Finished finished) { activity_commands_.send(selected(), std::move(finished)); });
     commands_.add(CommandNumber::show_contact_view, [this](const Finished& finished) {
         show_view(contact_page_);
+        come_forward();
         finished();
     });
     // The window goes from a later event, when the caller has its answer.
@@ -193,6 +210,13 @@ void MainWindow::show_view(QWidget* view) {
     for (QAction* action : view_actions_.actions())
         action->setChecked(action->data().value<QWidget*>() == view);
     show_state();
+}
+
+void MainWindow::come_forward() {
+    if (isMinimized())
+        showNormal();
+    raise();
+    activateWindow();
 }
 
 void MainWindow::show_contact(const std::string& contact) {
@@ -226,9 +250,10 @@ void MainWindow::show_state() {
     view_actions_.setEnabled(is_open);
     const QWidget* view = ui_->views->currentWidget();
     const bool is_list_shown = view == task_list_ || view == contact_page_;
-    const bool is_activity = is_writable && is_list_shown && !shown_activities().current_id().empty();
-    ui_->edit_activity->setEnabled(is_activity);
-    ui_->delete_activity->setEnabled(is_activity);
+    const bool is_activity = is_open && is_list_shown && !shown_activities().current_id().empty();
+    for (QAction* action : {ui_->edit_activity, ui_->activity_details, ui_->clear_activity, ui_->delete_activity})
+        action->setEnabled(is_activity && is_writable);
+    ui_->send_activity->setEnabled(is_activity);
 }
 
 // A database that can't be read is told once, not every second.
@@ -250,7 +275,7 @@ void MainWindow::about() {
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
-    if (activity_commands_.is_dialog_open() || !database_commands_.leave()) {
+    if (activity_commands_.is_under_way() || !database_commands_.leave()) {
         event->ignore();
         return;
     }

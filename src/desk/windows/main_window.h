@@ -51,6 +51,7 @@ private:
     void about();
 
     void show_view(QWidget* view);
+    void come_forward(); // before the other windows
     void show_contact(const std::string& contact);
     void show_state(); // title, record count, which commands can be given
     ActivityList& shown_activities();

@@ -29,6 +29,7 @@ void tick(const std::vector<QCheckBox*>& ticks, std::uint32_t bits) {
 
 RecurrencePage::RecurrencePage(QWidget* parent) : QWidget(parent), ui_(std::make_unique<Ui::RecurrencePage>()) {
     ui_->setupUi(this);
+    setFocusProxy(ui_->kind_box);
 }
 
 RecurrencePage::~RecurrencePage() = default;

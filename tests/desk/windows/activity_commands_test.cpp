@@ -3,12 +3,14 @@
 #include "desk_fixture.h"
 #include "values/failure.h"
 #include "windows/activity_dialog.h"
+#include "windows/clear_dialog.h"
 
 #include <QComboBox>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QSpinBox>
+#include <QTabWidget>
 
 using namespace windows;
 
@@ -58,7 +60,7 @@ TEST_F(ActivityCommandsTest, SchedulesWithTheShownContactAtTheNextHalfHour) {
 TEST_F(ActivityCommandsTest, WhatWasStoredIsShownWhenTheCommandHasFinished) {
     int changes = 0;
     QObject::connect(&session, &Session::changed, [&] { ++changes; });
-    commands.edit(call, [&] { EXPECT_EQ(changes, 1); });
+    commands.edit(call, ActivityDialog::Tab::general, [&] { EXPECT_EQ(changes, 1); });
     retype(child<QLineEdit>(*dialog(), "regarding_edit"), "Other prices");
     press(Qt::Key_Return);
     EXPECT_EQ(changes, 1);
@@ -66,26 +68,57 @@ TEST_F(ActivityCommandsTest, WhatWasStoredIsShownWhenTheCommandHasFinished) {
 }
 
 TEST_F(ActivityCommandsTest, CancelFinishesToo) {
-    commands.edit(call, count);
+    commands.edit(call, ActivityDialog::Tab::general, count);
     press(Qt::Key_Escape);
     EXPECT_EQ(finished, 1);
-    EXPECT_FALSE(commands.is_dialog_open());
+    EXPECT_FALSE(commands.is_under_way());
+}
+
+TEST_F(ActivityCommandsTest, BeginsOnTheTabThatIsAskedFor) {
+    commands.edit(call, ActivityDialog::Tab::details, count);
+    EXPECT_EQ(child<QTabWidget>(*dialog(), "tabs")->currentIndex(), 1);
+    EXPECT_EQ(dialog()->focusWidget()->objectName(), "details_edit");
+    commands.close_dialog();
+    EXPECT_EQ(finished, 1);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    commands.edit(series, ActivityDialog::Tab::recurring, count);
+    EXPECT_EQ(child<QTabWidget>(*dialog(), "tabs")->currentIndex(), 2);
+    EXPECT_EQ(dialog()->focusWidget()->objectName(), "kind_box");
+}
+
+TEST_F(ActivityCommandsTest, ClearsInADialogOfItsOwn) {
+    commands.clear(call, count);
+    auto* clear = window.findChild<ClearDialog*>();
+    ASSERT_NE(clear, nullptr);
+    EXPECT_THROW(commands.edit(meeting, ActivityDialog::Tab::general, count), values::Failure);
+    QTest::keyClick(child<QLineEdit>(*clear, "regarding_edit"), Qt::Key_Return);
+    EXPECT_EQ(finished, 1);
+    EXPECT_TRUE(elsewhere()->activity(call)->cleared);
+}
+
+TEST_F(ActivityCommandsTest, TheDatabaseClosingClosesTheDialogWithoutStoring) {
+    commands.edit(call, ActivityDialog::Tab::general, count);
+    retype(child<QLineEdit>(*dialog(), "regarding_edit"), "Too late");
+    session.close();
+    EXPECT_EQ(finished, 1);
+    EXPECT_FALSE(commands.is_under_way());
+    EXPECT_EQ(elsewhere()->activity(call)->regarding, "Ask for prices");
 }
 
 TEST_F(ActivityCommandsTest, ASecondDialogIsRefusedWhileOneIsOpen) {
-    commands.edit(call, count);
-    EXPECT_TRUE(commands.is_dialog_open());
-    EXPECT_THROW(commands.edit(meeting, count), values::Failure);
+    commands.edit(call, ActivityDialog::Tab::general, count);
+    EXPECT_TRUE(commands.is_under_way());
+    EXPECT_THROW(commands.edit(meeting, ActivityDialog::Tab::general, count), values::Failure);
     EXPECT_THROW(commands.schedule(store::ActivityType::call, count), values::Failure);
     EXPECT_THROW(commands.remove(call), values::Failure);
     press(Qt::Key_Escape);
     EXPECT_EQ(finished, 1);
-    EXPECT_NO_THROW(commands.edit(meeting, count));
+    EXPECT_NO_THROW(commands.edit(meeting, ActivityDialog::Tab::general, count));
 }
 
 TEST_F(ActivityCommandsTest, WithoutAnActivityThereIsNothingToEdit) {
-    EXPECT_THROW(commands.edit("", count), values::Failure);
-    EXPECT_THROW(commands.edit("NOTHING00000", count), values::Failure);
+    EXPECT_THROW(commands.edit("", ActivityDialog::Tab::general, count), values::Failure);
+    EXPECT_THROW(commands.edit("NOTHING00000", ActivityDialog::Tab::general, count), values::Failure);
     EXPECT_EQ(finished, 0);
     EXPECT_EQ(dialog(), nullptr);
 }
@@ -93,7 +126,7 @@ TEST_F(ActivityCommandsTest, WithoutAnActivityThereIsNothingToEdit) {
 TEST_F(ActivityCommandsTest, WithoutADatabaseNothingOpens) {
     session.close();
     EXPECT_THROW(commands.schedule(store::ActivityType::call, count), values::Failure);
-    EXPECT_THROW(commands.edit(call, count), values::Failure);
+    EXPECT_THROW(commands.edit(call, ActivityDialog::Tab::general, count), values::Failure);
     EXPECT_EQ(dialog(), nullptr);
 }
 

@@ -18,7 +18,7 @@ namespace {
 
 constexpr int user_count = 20;
 constexpr int activities_for_a_contact = 20;
-constexpr int days_before = 9 * 365, days_behind = 365;
+constexpr int days_before = 10 * 365, days_behind = 365;
 constexpr int longest_lead_in_days = 30;
 constexpr int records_at_once = 20000;
 

@@ -28,17 +28,13 @@ public:
         calendar.Setup_Calendar(calendar.layout.StartDate, calendar.layout.EndDate);
     }
 
-    // Raises the changed flag of every slot that holds something.
-    void touch_slots() {
-        for (grid::clsMsgSchedSlot& slot : calendar.layout.Slots)
-            if (const grid::SlotRecord first = slot.record(0); first.InUse) {
-                slot.DeleteCell(first.ActivityID);
-                slot.SetCell(first.ActivityID, first.ContactID, first.Recurring, first.Cleared, first.BackColor,
-                             first.ForeColor, first.Type, first.Text, first.Detail, first.HasDetails,
-                             first.GoesBeyond);
-            }
+    // A full refresh up to the filled slots: while every day is a day off, nothing is drawn.
+    void fill() {
+        calendar.layout.DaysOff = "1234567";
+        engine.refresh.Refresh_Data();
+        calendar.layout.DaysOff.clear();
     }
-    void draw() { calendar.rendering.Display_Changes(""); }
+    void draw() { calendar.rendering.Display_Changes(""); } // what was filled since it was last drawn
 
 private:
     std::unique_ptr<act::Application> create_application() override { return desk_.create_application(); }
@@ -57,7 +53,6 @@ private:
     std::unique_ptr<host::Files> files_ = qt::make_files();
     support::FakeUserStore user_values_;
     settings::PerUserStore user_store_{user_values_};
-    support::FakeClock clock_;
     support::FakeWindow window_;
     support::FakeFolders folders_;
     support::FakeTimer timer_;
@@ -65,13 +60,14 @@ private:
     const bool is_loading_ = false;
 
 public:
+    support::FakeClock clock;
     settings::IniLib ini{*files_, guarded_};
     act::Session session{*this, guarded_};
     act::ListPopulator lists{session, guarded_};
     act::UserList users{session, lists, ini, guarded_};
     grid::CalendarGrid calendar{users, folders_,
-                                grid::Surroundings{ini, user_store_, locale_, clock_, window_, guarded_}};
-    engine::CalendarEngine engine{engine::Surroundings{session, users, lists, calendar, ini, locale_, clock_,
+                                grid::Surroundings{ini, user_store_, locale_, clock, window_, guarded_}};
+    engine::CalendarEngine engine{engine::Surroundings{session, users, lists, calendar, ini, locale_, clock,
                                                        timer_, box_, window_, guarded_, is_loading_}};
     // Boxes that were shown: a run with one of them measured something else.
     std::size_t failures() const { return box_.shown.size(); }

@@ -57,7 +57,9 @@ public:
     void MoveFirst() override { real_->MoveFirst(); }
     void MoveNext() override { real_->MoveNext(); }
     bool isEOF() const override { return real_->isEOF(); }
-    void MoveToRecurring() override { real_->MoveToRecurring(); }
+    void SkipToRecurring(values::DateTime from, values::DateTime to) override { real_->SkipToRecurring(from, to); }
+    void SkipToEdited(values::DateTime since) override { real_->SkipToEdited(since); }
+    std::optional<std::string> IdsNotListed(const std::string& ids) override { return real_->IdsNotListed(ids); }
     bool Goto(const std::string& id) override { return record_.note("Goto " + id), real_->Goto(id); }
     void SetDateScope(values::DateTime from, values::DateTime to) override { real_->SetDateScope(from, to); }
     void ClearDateScope() override { real_->ClearDateScope(); }
@@ -126,6 +128,7 @@ public:
     }
     act::Users& Users() override { return real_->Users(); }
     act::Group& Group() override { return real_->Group(); }
+    std::shared_ptr<void> One_Look() override { return real_->One_Look(); }
 
 private:
     std::unique_ptr<act::Database> real_;

@@ -64,6 +64,16 @@ void ActivityList::MoveNext() {
     cursor_.to_next();
 }
 
+void ActivityList::SkipToRecurring(DateTime from, DateTime to) {
+    give_up_change();
+    cursor_.to_series({.from = from.seconds(), .to = to.seconds()});
+}
+
+void ActivityList::SkipToEdited(DateTime since) {
+    give_up_change();
+    cursor_.to_edited(since.seconds());
+}
+
 bool ActivityList::Goto(const std::string& id) {
     give_up_change();
     return cursor_.go_to(id);

@@ -22,6 +22,11 @@ public:
     void Rebuild() override { move_to_first(); }
     void MoveFirst() override { move_to_first(); }
     void MoveNext() override;
+    void SkipToRecurring(act::DateTime from, act::DateTime to) override;
+    void SkipToEdited(act::DateTime since) override;
+    std::optional<std::string> IdsNotListed(const std::string& ids) override {
+        return cursor_.ids_not_listed(ids);
+    }
     bool isEOF() const override { return cursor_.is_at_end(); }
     bool Goto(const std::string& id) override;
 

@@ -13,16 +13,26 @@ using store::Id;
 
 namespace {
 
-// Beyond so many changes, and beyond so many plain rows, reading afresh what is needed is cheaper than carrying
-// on.
-constexpr std::int64_t most_changes = 20000;
-constexpr std::size_t most_plain_rows = 400000;
+// Beyond so many rows, reading afresh what is needed is cheaper than carrying on.
+constexpr std::size_t most_rows = 400000;
 constexpr int rows_at_once = 256;
 constexpr int most_steps = 4;
 
 bool by_key(const ActivityEntry& left, const ActivityEntry& right) { return left.key < right.key; }
 
+bool by_entry_key(const std::shared_ptr<const ActivityRow>& left,
+                  const std::shared_ptr<const ActivityRow>& right) {
+    return left->entry.key < right->entry.key;
+}
+
 bool holds(const Scope& scope, std::int64_t start) { return scope.from <= start && start < scope.to; }
+
+std::unordered_set<Id> ids_of(const store::ActivityChanges& changes) {
+    std::unordered_set<Id> ids(changes.removed.begin(), changes.removed.end());
+    for (const ActivityRow& row : changes.changed)
+        ids.insert(row.entry.key.id);
+    return ids;
+}
 
 } // namespace
 
@@ -38,16 +48,17 @@ void ActivityCache::take_in(const store::ActivityChanges& changes) {
     }
     for (const Id& id : changes.removed)
         drop(id);
+    if (changes.changed.empty() && changes.removed.empty())
+        return;
     if (entries_)
         update_entries(changes);
+    update_series(changes);
+    edited_since_.reset();
+    has_own_ids_alone_.reset();
 }
 
 void ActivityCache::update_entries(const store::ActivityChanges& changes) {
-    if (changes.changed.empty() && changes.removed.empty())
-        return;
-    std::unordered_set<Id> outdated(changes.removed.begin(), changes.removed.end());
-    for (const ActivityRow& row : changes.changed)
-        outdated.insert(row.entry.key.id);
+    const std::unordered_set<Id> outdated = ids_of(changes);
     std::erase_if(*entries_, [&](const ActivityEntry& entry) { return outdated.contains(entry.key.id); });
     const auto kept = static_cast<std::ptrdiff_t>(entries_->size());
     for (const ActivityRow& row : changes.changed)
@@ -56,10 +67,27 @@ void ActivityCache::update_entries(const store::ActivityChanges& changes) {
     std::inplace_merge(entries_->begin(), entries_->begin() + kept, entries_->end(), by_key);
 }
 
+void ActivityCache::update_series(const store::ActivityChanges& changes) {
+    const std::unordered_set<Id> outdated = ids_of(changes);
+    std::erase_if(series_, [&](const auto& row) { return outdated.contains(row->entry.key.id); });
+    for (const ActivityRow& row : changes.changed)
+        if (const auto kept = by_id_.find(row.entry.key.id); kept != by_id_.end() && is_of_series(row)) {
+            const auto place =
+                std::upper_bound(series_.begin(), series_.end(), kept->second->second, by_entry_key);
+            series_.insert(place, kept->second->second);
+        }
+}
+
+bool ActivityCache::is_of_series(const ActivityRow& row) const {
+    const std::int64_t start = row.entry.key.start;
+    const auto& until = row.recurrence.until;
+    return series_dates_ && row.entry.recurring && start != ActivityKey::no_start && start <= series_dates_->to &&
+           (!until || until->seconds() >= series_dates_->from);
+}
+
 bool ActivityCache::is_wanted(const ActivityRow& row) const {
     const auto holds_it = [&](const Scope& scope) { return holds(scope, row.entry.key.start); };
-    return (has_all_series_ && row.entry.recurring) ||
-           std::any_of(loaded_scopes_.begin(), loaded_scopes_.end(), holds_it);
+    return is_of_series(row) || std::any_of(loaded_scopes_.begin(), loaded_scopes_.end(), holds_it);
 }
 
 void ActivityCache::forget_all() {
@@ -67,14 +95,16 @@ void ActivityCache::forget_all() {
     rows_.clear();
     last_kept_ = last_given_ = rows_.end();
     loaded_scopes_.clear();
-    has_all_series_ = false;
-    series_count_ = 0;
+    series_dates_.reset();
+    series_.clear();
+    edited_since_.reset();
+    has_own_ids_alone_.reset();
     entries_.reset();
     exceptions_.reset();
     details_.clear();
 }
 
-void ActivityCache::keep(const ActivityRow& row) {
+const std::shared_ptr<const ActivityRow>& ActivityCache::keep(const ActivityRow& row) {
     const auto behind_last = last_kept_ == rows_.end() ? last_kept_ : std::next(last_kept_);
     last_kept_ = rows_.insert_or_assign(behind_last, row.entry.key, std::make_shared<const ActivityRow>(row));
     const auto [known, is_new] = by_id_.try_emplace(row.entry.key.id, last_kept_);
@@ -82,6 +112,7 @@ void ActivityCache::keep(const ActivityRow& row) {
         erase(known->second);
         known->second = last_kept_;
     }
+    return last_kept_->second;
 }
 
 void ActivityCache::erase(Rows::iterator row) {
@@ -109,8 +140,7 @@ bool ActivityCache::is_loaded(const Scope& scope) const {
 void ActivityCache::load_scope(const Scope& scope) {
     if (scope.from >= scope.to || is_loaded(scope))
         return;
-    if (rows_.size() - series_count_ > most_plain_rows)
-        forget_all();
+    make_room();
     reading_.each_in_scope(store::DateTime::from_seconds(scope.from), store::DateTime::from_seconds(scope.to),
                            [this](const ActivityRow& row) { keep(row); });
     Scope whole = scope;
@@ -123,6 +153,11 @@ void ActivityCache::load_scope(const Scope& scope) {
     loaded_scopes_.push_back(whole);
 }
 
+void ActivityCache::make_room() {
+    if (rows_.size() > most_rows)
+        forget_all();
+}
+
 void ActivityCache::load_entries() {
     if (entries_)
         return;
@@ -130,13 +165,35 @@ void ActivityCache::load_entries() {
     reading_.each_entry([this](const ActivityEntry& entry) { entries_->push_back(entry); });
 }
 
-void ActivityCache::load_series() {
-    series_count_ = 0;
-    reading_.each_series([this](const ActivityRow& row) {
-        keep(row);
-        ++series_count_;
-    });
-    has_all_series_ = true;
+const std::vector<std::shared_ptr<const ActivityRow>>& ActivityCache::series(const SeriesDates& dates) {
+    if (series_dates_ == dates)
+        return series_;
+    make_room();
+    series_dates_.reset();
+    series_.clear();
+    reading_.each_series(store::DateTime::from_seconds(dates.from), store::DateTime::from_seconds(dates.to),
+                         [this](const ActivityRow& row) { series_.push_back(keep(row)); });
+    std::sort(series_.begin(), series_.end(), by_entry_key);
+    series_dates_ = dates;
+    return series_;
+}
+
+const std::vector<ActivityEntry>& ActivityCache::edited_since(std::int64_t moment) {
+    if (edited_since_ != moment) {
+        edited_since_.reset();
+        edited_.clear();
+        reading_.each_edited(store::DateTime::from_seconds(moment),
+                             [this](const ActivityEntry& entry) { edited_.push_back(entry); });
+        std::sort(edited_.begin(), edited_.end(), by_key);
+        edited_since_ = moment;
+    }
+    return edited_;
+}
+
+bool ActivityCache::has_own_ids_alone() {
+    if (!has_own_ids_alone_)
+        has_own_ids_alone_ = reading_.has_own_ids_alone();
+    return *has_own_ids_alone_;
 }
 
 const ActivityEntry* ActivityCache::first(const std::optional<Scope>& scope, Hint& hint) {
@@ -173,10 +230,7 @@ const ActivityEntry* ActivityCache::next(const ActivityKey& place, const std::op
 std::shared_ptr<const ActivityRow> ActivityCache::row(const ActivityEntry& entry) {
     if (auto row = known(entry))
         return row;
-    if (entry.recurring && !has_all_series_)
-        load_series();
-    else
-        reading_.each_from(entry.key, rows_at_once, [this](const ActivityRow& row) { keep(row); });
+    reading_.each_from(entry.key, rows_at_once, [this](const ActivityRow& row) { keep(row); });
     return find(entry.key.id);
 }
 

@@ -2,9 +2,12 @@
 
 #include "values/ids.h"
 
+#include <algorithm>
+
 namespace desk {
 
 using store::ActivityEntry;
+using store::ActivityRow;
 
 namespace {
 
@@ -13,6 +16,11 @@ store::Id id_of(const std::string& text) {
     const std::string whole = values::whole_id(text);
     return store::Id(whole.size() == values::id_length ? whole : std::string());
 }
+
+const ActivityEntry& entry_in(const ActivityEntry& entry) { return entry; }
+const ActivityEntry& entry_in(const std::shared_ptr<const ActivityRow>& row) { return row->entry; }
+std::shared_ptr<const ActivityRow> row_in(const ActivityEntry&) { return nullptr; }
+std::shared_ptr<const ActivityRow> row_in(const std::shared_ptr<const ActivityRow>& row) { return row; }
 
 } // namespace
 
@@ -28,21 +36,92 @@ void Cursor::set_filters(const ListFilters& filters) {
 }
 
 void Cursor::to_first() {
-    place_ = Place::not_looked_up;
+    place_ = Place::before_first;
     row_.reset();
 }
 
 void Cursor::look_up() {
-    if (place_ != Place::not_looked_up)
-        return;
-    session_->catch_up();
-    skip_to_passing(session_->activities().first(filters_.scope, hint_));
+    if (place_ == Place::before_first) {
+        session_->catch_up();
+        skip_to_passing(session_->activities().first(filters_.scope, hint_));
+    } else if (place_ == Place::behind_record) {
+        skip_to_passing(session_->activities().next(entry_.key, filters_.scope, hint_));
+    }
 }
 
 void Cursor::to_next() {
     look_up();
     if (place_ == Place::on_record || place_ == Place::behind_deleted)
-        skip_to_passing(session_->activities().next(entry_.key, filters_.scope, hint_));
+        place_ = Place::behind_record;
+    row_.reset();
+}
+
+void Cursor::to_series(const SeriesDates& dates) {
+    if (place_ == Place::before_first)
+        session_->catch_up();
+    to_next_of(session_->activities().series(dates));
+}
+
+void Cursor::to_edited(std::int64_t since) {
+    if (place_ == Place::before_first)
+        session_->catch_up();
+    to_next_of(session_->activities().edited_since(since));
+}
+
+bool Cursor::lists(const ActivityEntry& entry) const {
+    const auto& scope = filters_.scope;
+    const std::int64_t start = entry.key.start;
+    return filters_.pass(entry) && (!scope || (scope->from <= start && start < scope->to));
+}
+
+template <typename Records>
+void Cursor::to_next_of(const Records& records) {
+    if (place_ == Place::behind_deleted || place_ == Place::at_end || place_ == Place::nowhere)
+        return;
+    const auto is_here = [&](std::size_t at) {
+        return at < records.size() && entry_in(records[at]).key == entry_.key;
+    };
+    std::size_t at = 0;
+    if (place_ != Place::before_first) {
+        const auto comes_before = [this](const auto& record) { return entry_in(record).key < entry_.key; };
+        at = is_here(hint_)
+                 ? hint_
+                 : static_cast<std::size_t>(std::partition_point(records.begin(), records.end(), comes_before) -
+                                            records.begin());
+        if (is_here(at)) {
+            if (place_ == Place::on_record)
+                return;
+            ++at;
+        }
+    }
+    while (at < records.size() && !lists(entry_in(records[at])))
+        ++at;
+    hint_ = at;
+    walked_here_ = true;
+    place_ = at < records.size() ? Place::on_record : Place::at_end;
+    if (place_ == Place::on_record) {
+        entry_ = entry_in(records[at]);
+        row_ = row_in(records[at]);
+    } else {
+        row_.reset();
+    }
+}
+
+std::optional<std::string> Cursor::ids_not_listed(const std::string& ids) {
+    session_->catch_up();
+    bool stand_apart = ids.size() % values::id_length == 0 && session_->activities().has_own_ids_alone();
+    for (std::size_t at = 0; stand_apart && at < ids.size(); ++at)
+        stand_apart = (ids[at] == store::first_of_own_ids) == (at % values::id_length == 0);
+    if (!stand_apart)
+        return std::nullopt;
+    std::string missing;
+    for (std::size_t at = 0; at < ids.size(); at += values::id_length) {
+        const std::string_view id = std::string_view(ids).substr(at, values::id_length);
+        const auto row = session_->activities().find(store::Id(id));
+        if (!row || !lists(row->entry))
+            missing += id;
+    }
+    return missing;
 }
 
 void Cursor::skip_to_passing(const ActivityEntry* entry) {

@@ -29,8 +29,13 @@ public:
     const ListFilters& filters() const { return filters_; }
     void set_filters(const ListFilters& filters); // and to the first record
 
-    void to_first();  // found when it is asked for
-    void to_next();   // at the end it stays
+    // Where these two arrive is found when it is asked for.
+    void to_first();
+    void to_next(); // at the end it stays
+    // From the current record on, that included, to the next series of these dates, or to the next record that was
+    // edited later than that.
+    void to_series(const SeriesDates& dates);
+    void to_edited(std::int64_t since);
     bool is_at_end(); // nowhere counts too
     // To the record of that id, inside the filters or not; nowhere and false when it doesn't exist.
     bool go_to(const std::string& id);
@@ -45,15 +50,22 @@ public:
     const store::ActivityEntry* entry();
     const store::ActivityRow* row();
 
+    // Of ids joined to one text those that no record of the list has, in their order. None where an id of the
+    // database may also be found across the border of two of them.
+    std::optional<std::string> ids_not_listed(const std::string& ids);
+
 private:
-    enum class Place { not_looked_up, on_record, behind_deleted, at_end, nowhere };
+    enum class Place { before_first, on_record, behind_record, behind_deleted, at_end, nowhere };
 
     void look_up();
     void skip_to_passing(const store::ActivityEntry* entry);
+    bool lists(const store::ActivityEntry& entry) const;
+    template <typename Records>
+    void to_next_of(const Records& records); // all in the list's order
 
     std::shared_ptr<Session> session_;
     ListFilters filters_;
-    Place place_ = Place::not_looked_up;
+    Place place_ = Place::before_first;
     bool walked_here_ = false; // rather than gone to by id
     store::ActivityEntry entry_;
     std::shared_ptr<const store::ActivityRow> row_; // none until it is asked for

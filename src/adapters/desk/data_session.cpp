@@ -37,7 +37,10 @@ ActivityCache& Session::activities() {
 }
 
 void Session::catch_up() {
-    const std::int64_t revision = store().revision();
+    require_open();
+    if (looks_ > 0)
+        return;
+    const std::int64_t revision = store_->revision();
     if (revision == seen_)
         return;
     if (revision - seen_ > most_changes) {
@@ -51,6 +54,11 @@ void Session::catch_up() {
     }
     group_names_.clear();
     seen_ = revision;
+}
+
+void Session::begin_look() {
+    catch_up();
+    ++looks_;
 }
 
 const ContactFields* Session::contact(const std::string& given) {

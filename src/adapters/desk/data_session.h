@@ -28,6 +28,10 @@ public:
     // Takes in what any process has changed in the file since the last time. Costs next to nothing when nobody
     // has.
     void catch_up();
+    // Between these two, which come in pairs, everything stays as the beginning found it. Nothing is written
+    // meanwhile.
+    void begin_look();
+    void end_look() { --looks_; }
 
     // What has been read, as new as the last catch_up. The two lookups give none for an id that there is not.
     ActivityCache& activities();
@@ -41,6 +45,7 @@ private:
     std::unique_ptr<store::Store> store_; // none once closed
     std::unique_ptr<ActivityCache> activities_;
     std::int64_t seen_; // the revision that everything in memory is at least as new as
+    int looks_ = 0;
     std::unordered_map<std::string, ContactFields> contacts_;
     std::unordered_map<std::string, std::string> group_names_;
 };

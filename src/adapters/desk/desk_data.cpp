@@ -42,6 +42,14 @@ public:
     act::Users& Users() override { return open().users; }
     act::Group& Group() override { return open().group; }
 
+    std::shared_ptr<void> One_Look() override {
+        if (!open_)
+            return nullptr;
+        const auto session = open_->session;
+        session->begin_look();
+        return {nullptr, [session](void*) { session->end_look(); }};
+    }
+
 private:
     struct Open {
         Open(const std::shared_ptr<Session>& shared, std::vector<store::User> all_users)

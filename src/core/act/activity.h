@@ -3,6 +3,7 @@
 #include "values/date_time.h"
 #include "values/value.h"
 
+#include <optional>
 #include <string>
 
 namespace act {
@@ -15,19 +16,19 @@ namespace activity_field {
 inline constexpr int id = 1;
 inline constexpr int edited = 3;
 inline constexpr int is_private = 5;
-inline constexpr int type = 25; // 0 call, 1 meeting, 2 to-do
+inline constexpr int type = 25;     // 0 call, 1 meeting, 2 to-do
 inline constexpr int priority = 26; // 0 high, 1 medium, 2 low
 inline constexpr int regarding = 27;
 inline constexpr int start = 28;
 inline constexpr int end = 29;
 inline constexpr int duration = 30; // minutes
 inline constexpr int alarm = 32;
-inline constexpr int alarm_lead = 33; // minutes
-inline constexpr int colour = 34; // decimal text, or empty
+inline constexpr int alarm_lead = 33;    // minutes
+inline constexpr int colour = 34;        // decimal text, or empty
 inline constexpr int scheduled_for = 37; // the user's id
-inline constexpr int group = 39; // the group's id
-inline constexpr int contact = 40; // the contact's id
-inline constexpr int cleared = 41; // "1" or "0"
+inline constexpr int group = 39;         // the group's id
+inline constexpr int contact = 40;       // the contact's id
+inline constexpr int cleared = 41;       // "1" or "0"
 inline constexpr int details = 45;
 inline constexpr int contact_count = 100;
 inline constexpr int occurrence_length = 101; // minutes
@@ -41,8 +42,8 @@ public:
     virtual ~ExceptionInfo() = default;
     virtual int Count() const = 0;
     virtual Value value(int index) const = 0; // from 1; fails with 9 outside 1 to Count
-    virtual void Add(DateTime date) = 0; // a date that is already there stays single
-    virtual void Remove(DateTime date) = 0; // an absent date is no failure
+    virtual void Add(DateTime date) = 0;      // a date that is already there stays single
+    virtual void Remove(DateTime date) = 0;   // an absent date is no failure
 };
 
 // The list of activities, ordered by start and then by id, with a current record. Every filter and scope takes
@@ -56,11 +57,16 @@ public:
     virtual void MoveFirst() = 0;
     virtual void MoveNext() = 0; // beyond the last record isEOF holds
     virtual bool isEOF() const = 0;
-    // Moves on, from the current record, to the first that is a series, or to the end. A list that knows its
-    // series needn't look at the records between.
-    virtual void MoveToRecurring() {
-        while (!isEOF() && !isRecurring())
-            MoveNext();
+    // Moves on, if the list knows of records from the current one on that are no series, start after `to` or end
+    // before `from`, over those; to its end when no other follow. A walk for the series of these dates is so
+    // spared the rest.
+    virtual void SkipToRecurring([[maybe_unused]] DateTime from, [[maybe_unused]] DateTime to) {}
+    // The same over records that weren't edited later than that.
+    virtual void SkipToEdited([[maybe_unused]] DateTime since) {}
+    // Of ids joined to one text, those that no record of the list has: what a walk over the list that takes every
+    // occurrence of each record's id out of the text would leave. None where that needs the walk.
+    virtual std::optional<std::string> IdsNotListed([[maybe_unused]] const std::string& ids) {
+        return std::nullopt;
     }
     // Stands on the record of that id, inside the filters or not, and MoveNext goes on behind it. False when it
     // doesn't exist: there is no current record then, and Data gives nothing.
@@ -76,7 +82,7 @@ public:
     virtual void SetClearedFilter() = 0; // keeps cleared activities out
     virtual void ClearClearedFilter() = 0;
 
-    virtual Value Data(int field) const = 0; // a field that there is not gives nothing
+    virtual Value Data(int field) const = 0;              // a field that there is not gives nothing
     virtual void Data(int field, const Value& value) = 0; // only between Edit or Add and Update
 
     virtual void Edit() = 0;
@@ -88,11 +94,11 @@ public:
 
     virtual bool isRecurring() const = 0;
     virtual int recurringType() const = 0; // 0 none, 1 daily, 2 weekly, 3 days of the month, 4 weekdays of it
-    virtual int GetRecurringFrequency() const = 0; // the step in days, weeks or months; at least 1
+    virtual int GetRecurringFrequency() const = 0;      // the step in days, weeks or months; at least 1
     virtual DateTime GetRecurringUntilDate() const = 0; // 31 December 2099 for a series without an end
-    virtual int GetDaysOfWeekBits() const = 0; // bit 0 Sunday to bit 6 Saturday
-    virtual int GetDaysOfMonthBits() const = 0; // bit 0 the 1st to bit 30 the 31st
-    virtual int GetWeeksOfMonthBits() const = 0; // bit 0 the first week to bit 4 the fifth
+    virtual int GetDaysOfWeekBits() const = 0;          // bit 0 Sunday to bit 6 Saturday
+    virtual int GetDaysOfMonthBits() const = 0;         // bit 0 the 1st to bit 30 the 31st
+    virtual int GetWeeksOfMonthBits() const = 0;        // bit 0 the first week to bit 4 the fifth
     virtual class ExceptionInfo& ExceptionInfo() = 0;
     virtual void RecurringChangeMode(bool only_this) = 0; // how the next Update applies to a series
 

@@ -24,7 +24,7 @@ public:
     virtual ~Contact() = default;
     virtual class Fields& Fields() = 0;
     virtual bool Goto(const std::string& id) = 0; // false, and no current record, when it doesn't exist
-    virtual Value Data(int field) const = 0; // nothing without a record, or for a field that there is not
+    virtual Value Data(int field) const = 0;      // nothing without a record, or for a field that there is not
 };
 
 class Group {
@@ -58,6 +58,10 @@ public:
     virtual std::unique_ptr<class Activity> Activity() = 0;
     virtual class Users& Users() = 0;
     virtual class Group& Group() = 0;
+
+    // Looks once what other programs have changed, and not again as long as the result lives: what many records
+    // are read for then tells of one moment. Empty where nothing is gained by it.
+    virtual std::shared_ptr<void> One_Look() { return nullptr; }
 };
 
 } // namespace act

@@ -64,7 +64,6 @@ void QuickRefresh::clear_cell_of(const std::string& id, std::string& treated) {
 std::string QuickRefresh::Find_New(DateTime since) {
     return guarded_("in modRefresh: Function Find_New - Line # ", [&](host::Step& step) {
         step = 10;
-        DisplayedIds missing = placing_.DisplayedIDs;
         std::string changed;
         act::Activity& activity = *session_.ActActivity;
         step = 20;
@@ -72,14 +71,23 @@ std::string QuickRefresh::Find_New(DateTime since) {
         step = 30;
         activity.MoveFirst();
         step = 40;
-        for (; !activity.isEOF(); activity.MoveNext()) {
+        const auto not_listed = activity.IdsNotListed(placing_.DisplayedIDs.text());
+        std::optional<DisplayedIds> missing;
+        if (!not_listed)
+            missing = placing_.DisplayedIDs;
+        for (;; activity.MoveNext()) {
+            if (not_listed)
+                activity.SkipToEdited(since);
+            if (activity.isEOF())
+                break;
             const std::string id = text(activity, field::id);
             const auto edited = values::date_of(activity.Data(field::edited), locale_);
             if (edited && *edited > since)
                 changed = id;
-            missing.remove(id);
+            if (missing)
+                missing->remove(id);
         }
-        return changed + missing.text();
+        return changed + (not_listed ? *not_listed : missing->text());
     });
 }
 

@@ -14,7 +14,10 @@ void Recurring::Treat_Recurring() {
         step = 20;
         activity.MoveFirst();
         step = 30;
-        for (activity.MoveToRecurring(); !activity.isEOF(); activity.MoveNext(), activity.MoveToRecurring()) {
+        const auto skip = [&] { activity.SkipToRecurring(layout_.StartDate, layout_.EndDate); };
+        for (skip(); !activity.isEOF(); activity.MoveNext(), skip()) {
+            if (!activity.isRecurring())
+                continue;
             step = 40;
             if (!users_.passes_filter(values::text_of(activity.Data(field::scheduled_for), locale_)))
                 continue;

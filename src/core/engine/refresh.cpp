@@ -36,6 +36,7 @@ void Refresh::Refresh_Data() {
         clear_cells();
         step = 70;
         act::Activity& activity = *session_.ActActivity;
+        const auto look = session_.ActDatabase->One_Look();
         activity.Rebuild();
         step = 80;
         if (!bLoading_)

@@ -28,6 +28,9 @@ struct Id {
     auto operator<=>(const Id&) const = default;
 };
 
+// The letter with which the store's own ids of activities begin; it stands nowhere else in them.
+inline constexpr char first_of_own_ids = 'A';
+
 // The place of an activity in the list.
 struct ActivityKey {
     static constexpr std::int64_t no_start = std::numeric_limits<std::int64_t>::min(); // sorts first
@@ -77,7 +80,10 @@ public:
     virtual ~ActivityReading() = default;
 
     virtual void each_entry(const std::function<void(const ActivityEntry&)>& take) = 0; // all activities
-    virtual void each_series(const std::function<void(const ActivityRow&)>& take) = 0;  // all recurring ones
+    // Those that were edited later than that, in no order.
+    virtual void each_edited(DateTime since, const std::function<void(const ActivityEntry&)>& take) = 0;
+    // The series that start at or before `to` and don't end before `from`, in no order.
+    virtual void each_series(DateTime from, DateTime to, const std::function<void(const ActivityRow&)>& take) = 0;
     // Starts at or after `from` and before `to`.
     virtual void each_in_scope(DateTime from, DateTime to,
                                const std::function<void(const ActivityRow&)>& take) = 0;
@@ -87,6 +93,8 @@ public:
     // Every exception of every series, those of a series together and rising.
     virtual void each_exception(const std::function<void(const Id& activity, DateTime date)>& take) = 0;
 
+    // Whether the id of every activity begins as those do that the store makes.
+    virtual bool has_own_ids_alone() = 0;
     virtual std::optional<ActivityRow> row(const Id& id) = 0;
     virtual std::vector<DateTime> exceptions(const Id& id) = 0;
     virtual std::string details(const Id& id) = 0; // empty also when the activity is gone

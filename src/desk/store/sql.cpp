@@ -197,6 +197,19 @@ CREATE TABLE toolbar_places (
 );
 )";
 
+constexpr std::string_view changes_of_version_2 = R"(
+-- The series by their end, so that those which are over needn't be read, with all that their rows are read for.
+DROP INDEX activities_recurring;
+CREATE INDEX activities_recurring ON activities
+    (until, starts_at, id, edited_at, type, priority, cleared, recurrence, ends_at, revision, scheduled_for,
+     contact_group, contact, contact_count, duration, alarm_lead, colour, private, alarm, has_details, frequency,
+     days_of_week, weeks_of_month, days_of_month, regarding)
+    WHERE recurrence <> 0;
+CREATE INDEX activities_edited ON activities (edited_at);
+)";
+
+constexpr std::string_view entry_columns = "starts_at, id, edited_at, type, priority, cleared, recurrence";
+
 } // namespace
 
 std::string set_application_id(int id) { return "PRAGMA application_id = " + std::to_string(id); }
@@ -215,6 +228,7 @@ const std::vector<std::string_view>& tables() {
 std::string probe(std::string_view table) { return join({"SELECT 1 FROM ", table, " LIMIT 1"}); }
 
 std::string_view create_tables() { return tables_of_version_1; }
+std::string_view change_to_version_2() { return changes_of_version_2; }
 
 std::string_view contacts() {
     static const std::string text =
@@ -279,9 +293,25 @@ std::string_view row() {
     return text;
 }
 
-std::string_view series_rows() {
+std::string_view entries() {
+    static const std::string text = join({"SELECT ", entry_columns, " FROM activities ORDER BY starts_at, id"});
+    return text;
+}
+
+std::string_view edited_entries() {
+    static const std::string text = join({"SELECT ", entry_columns, " FROM activities WHERE edited_at > ?"});
+    return text;
+}
+
+std::string_view ending_series() {
     static const std::string text =
-        join({"SELECT ", row_columns, " FROM activities WHERE recurrence <> 0 ORDER BY starts_at, id"});
+        join({"SELECT ", row_columns, " FROM activities WHERE recurrence <> 0 AND until >= ? AND starts_at <= ?"});
+    return text;
+}
+
+std::string_view endless_series() {
+    static const std::string text = join(
+        {"SELECT ", row_columns, " FROM activities WHERE recurrence <> 0 AND until IS NULL AND starts_at <= ?"});
     return text;
 }
 

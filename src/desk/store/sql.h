@@ -25,6 +25,7 @@ std::string set_schema_version(int version);
 const std::vector<std::string_view>& tables();
 std::string probe(std::string_view table);
 std::string_view create_tables(); // those of version 1
+std::string_view change_to_version_2();
 
 inline constexpr std::string_view begin = "BEGIN IMMEDIATE";
 inline constexpr std::string_view commit = "COMMIT";
@@ -91,14 +92,18 @@ inline constexpr std::string_view remove_exception = "DELETE FROM exceptions WHE
 inline constexpr std::string_view clear_exceptions = "DELETE FROM exceptions WHERE activity = ?";
 
 // Activities for those who keep them, without the long texts: in one order of columns for all of the rows.
-inline constexpr std::string_view entries =
-    "SELECT starts_at, id, edited_at, type, priority, cleared, recurrence FROM activities ORDER BY starts_at, id";
+std::string_view entries();
+std::string_view edited_entries(); // edit date
 std::string_view row();
-std::string_view series_rows();
-std::string_view rows_in_scope(); // from, to
-std::string_view rows_from();     // start, id, count
+std::string_view ending_series();  // first date, last start
+std::string_view endless_series(); // last start
+std::string_view rows_in_scope();  // from, to
+std::string_view rows_from();      // start, id, count
 std::string_view rows_without_start();
 std::string_view changed_rows(); // revision
+// An id that the store can't have made: its own begin with an A.
+inline constexpr std::string_view foreign_ids =
+    "SELECT 1 FROM activities WHERE id < 'A' UNION ALL SELECT 1 FROM activities WHERE id >= 'B' LIMIT 1";
 inline constexpr std::string_view details = "SELECT details FROM activities WHERE id = ?";
 inline constexpr std::string_view first_contact = "SELECT contact FROM activities WHERE id = ?";
 

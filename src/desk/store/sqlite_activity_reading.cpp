@@ -39,13 +39,16 @@ public:
     explicit SqliteActivityReading(Connection& connection) : connection_(connection) {}
 
     void each_entry(const std::function<void(const ActivityEntry&)>& take) override {
-        Rows rows = connection_.query(sql::entries);
-        while (rows.step())
-            take(entry_of(rows));
+        each_entry_in(connection_.query(sql::entries()), take);
     }
 
-    void each_series(const std::function<void(const ActivityRow&)>& take) override {
-        each(connection_.query(sql::series_rows()), take);
+    void each_edited(DateTime since, const std::function<void(const ActivityEntry&)>& take) override {
+        each_entry_in(connection_.query(sql::edited_entries(), since.seconds()), take);
+    }
+
+    void each_series(DateTime from, DateTime to, const std::function<void(const ActivityRow&)>& take) override {
+        each(connection_.query(sql::ending_series(), from.seconds(), to.seconds()), take);
+        each(connection_.query(sql::endless_series(), to.seconds()), take);
     }
 
     void each_in_scope(DateTime from, DateTime to, const std::function<void(const ActivityRow&)>& take) override {
@@ -65,6 +68,8 @@ public:
         while (rows.step())
             take(Id(rows.view(0)), DateTime::from_seconds(rows.number(1)));
     }
+
+    bool has_own_ids_alone() override { return !connection_.query(sql::foreign_ids).step(); }
 
     std::optional<ActivityRow> row(const Id& id) override {
         Rows rows = connection_.query(sql::row(), id.text());
@@ -108,6 +113,11 @@ public:
     }
 
 private:
+    static void each_entry_in(Rows rows, const std::function<void(const ActivityEntry&)>& take) {
+        while (rows.step())
+            take(entry_of(rows));
+    }
+
     static void each(Rows rows, const std::function<void(const ActivityRow&)>& take) {
         while (rows.step())
             take(row_of(rows));

@@ -128,7 +128,7 @@ void SqliteStore::write_lists(const Activity& activity) {
 std::string SqliteStore::add(const Activity& given) {
     Activity activity = in_order(given);
     together([&] {
-        activity.id = id_for(given.id, "activities", 'A');
+        activity.id = id_for(given.id, "activities", first_of_own_ids);
         Rows statement = connection_->query(sql::add_activity(), activity.id);
         bind_record(statement, activity, next_revision(), clock_());
         statement.step();

@@ -110,14 +110,15 @@ bool runs_into(const store::ActivityRow& row, DateTime from) {
 // The series that began before the period and are still running when it begins.
 void append_earlier_series(std::vector<store::Activity>& activities, store::Store& store,
                            const store::ActivityQuery& query) {
-    std::vector<std::string> ids;
-    store.reading().each_series([&](const store::ActivityRow& row) {
+    std::vector<store::ActivityKey> keys;
+    store.reading().each_series(query.from->date(), *query.from, [&](const store::ActivityRow& row) {
         if (passes(row, query) && runs_into(row, *query.from))
-            ids.push_back(row.entry.key.id.text());
+            keys.push_back(row.entry.key);
     });
+    std::sort(keys.begin(), keys.end());
     std::vector<store::Activity> series;
-    for (const std::string& id : ids)
-        if (auto activity = store.activity(id); activity && takes_part(*activity, query.contact))
+    for (const store::ActivityKey& key : keys)
+        if (auto activity = store.activity(key.id.text()); activity && takes_part(*activity, query.contact))
             series.push_back(std::move(*activity));
     activities.insert(activities.begin(), std::make_move_iterator(series.begin()),
                       std::make_move_iterator(series.end()));

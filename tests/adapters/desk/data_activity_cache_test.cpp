@@ -26,8 +26,12 @@ public:
     void each_entry(const std::function<void(const ActivityEntry&)>& take) override {
         ++calls["each_entry"], reading_.each_entry(take);
     }
-    void each_series(const std::function<void(const ActivityRow&)>& take) override {
-        ++calls["each_series"], reading_.each_series(take);
+    void each_edited(values::DateTime since, const std::function<void(const ActivityEntry&)>& take) override {
+        ++calls["each_edited"], reading_.each_edited(since, take);
+    }
+    void each_series(values::DateTime from, values::DateTime to,
+                     const std::function<void(const ActivityRow&)>& take) override {
+        ++calls["each_series"], reading_.each_series(from, to, take);
     }
     void each_in_scope(values::DateTime from, values::DateTime to,
                        const std::function<void(const ActivityRow&)>& take) override {
@@ -40,6 +44,7 @@ public:
     void each_exception(const std::function<void(const Id&, values::DateTime)>& take) override {
         ++calls["each_exception"], reading_.each_exception(take);
     }
+    bool has_own_ids_alone() override { return ++calls["has_own_ids_alone"], reading_.has_own_ids_alone(); }
     std::optional<ActivityRow> row(const Id& id) override { return ++calls["row"], reading_.row(id); }
     std::vector<values::DateTime> exceptions(const Id& id) override {
         return ++calls["exceptions"], reading_.exceptions(id);
@@ -74,6 +79,13 @@ protected:
             names += cache.row(here)->regarding + " ";
             entry = cache.next(here.key, scope, hint);
         }
+        return names;
+    }
+    const desk::SeriesDates week_of_series{.from = week.from, .to = monday.plus_days(6).seconds()};
+    std::string series_of(const desk::SeriesDates& dates) {
+        std::string names;
+        for (const auto& row : cache.series(dates))
+            names += row->regarding + " ";
         return names;
     }
     void take_in_changes_since(std::int64_t revision) { cache.take_in(store.reading().changes_since(revision)); }
@@ -116,20 +128,58 @@ TEST_F(Cache, WalksTheWholeListByItsEntriesAlone) {
     EXPECT_EQ(reading.calls, (Calls{{"each_entry", 1}}));
 }
 
-TEST_F(Cache, ReadsAllSeriesAtOnceForTheFirstThatIsAskedFor) {
-    store.together([&] {
-        for (int i = 0; i < 600; ++i)
-            store.add(i % 2 == 0 ? daily("s", i) : meeting("p", i));
-    });
-    ActivityCache::Hint hint = 0;
-    for (const ActivityEntry* entry = cache.first({}, hint); entry;) {
-        const ActivityEntry here = *entry;
-        if (here.recurring) {
-            EXPECT_EQ(cache.row(here)->recurrence.kind, store::RecurrenceKind::daily);
-        }
-        entry = cache.next(here.key, {}, hint);
-    }
-    EXPECT_EQ(reading.calls, (Calls{{"each_entry", 1}, {"each_series", 1}}));
+TEST_F(Cache, ReadsTheSeriesOfSomeDatesOnceAndInOrder) {
+    store.add(daily("second", 3));
+    store.add(meeting("plain", 1));
+    store.add(daily("first", 1));
+    store.add(daily("later", 7));
+    EXPECT_EQ(series_of(week_of_series), "first second ");
+    EXPECT_EQ(series_of(week_of_series), "first second ");
+    EXPECT_EQ(reading.calls, (Calls{{"each_series", 1}}));
+    EXPECT_EQ(series_of({.from = week.to, .to = week.to + 86400}), "first second later ");
+}
+
+TEST_F(Cache, TakesChangesOfTheSeriesInWithoutReadingAgain) {
+    const std::string removed = store.add(daily("removed")), ended = store.add(daily("ended"));
+    const std::string moved = store.add(daily("moved", 20));
+    series_of(week_of_series);
+    reading.calls.clear();
+    const std::int64_t before = store.revision();
+    store.remove_activity(removed);
+    store::Activity activity = *store.activity(ended);
+    activity.recurrence.until = monday.plus_days(-1);
+    store.update(activity);
+    activity = *store.activity(moved);
+    activity.start = monday.plus_days(1);
+    store.update(activity);
+    store.add(daily("new"));
+    take_in_changes_since(before);
+    EXPECT_EQ(series_of(week_of_series), "new moved ");
+    EXPECT_EQ(reading.calls, Calls{});
+}
+
+TEST_F(Cache, TellsWhatWasEditedSinceAsOfTheLastChangeTakenIn) {
+    const std::int64_t long_ago = monday.plus_days(-40000).seconds();
+    store.add(meeting("first"));
+    EXPECT_EQ(cache.edited_since(long_ago).size(), 1u);
+    const std::int64_t before = store.revision();
+    store.add(meeting("second", 1));
+    EXPECT_EQ(cache.edited_since(long_ago).size(), 1u);
+    EXPECT_EQ(reading.calls, (Calls{{"each_edited", 1}}));
+    take_in_changes_since(before);
+    EXPECT_EQ(cache.edited_since(long_ago).size(), 2u);
+    EXPECT_TRUE(cache.edited_since(monday.plus_days(100000).seconds()).empty());
+}
+
+TEST_F(Cache, KnowsWhetherAllIdsAreTheStoresOwn) {
+    store.add(meeting("own"));
+    EXPECT_TRUE(cache.has_own_ids_alone());
+    const std::int64_t before = store.revision();
+    store::Activity imported = meeting("imported");
+    imported.id = "99887766554 ";
+    store.add(imported);
+    take_in_changes_since(before);
+    EXPECT_FALSE(cache.has_own_ids_alone());
 }
 
 TEST_F(Cache, ReadsTheRowsOfAWholeListInBlocks) {
@@ -169,6 +219,7 @@ TEST_F(Cache, TakesChangesInWithoutReadingAgain) {
     const std::string moved_in = store.add(meeting("moved-in", 30));
     walk({});
     walk(week);
+    series_of({.from = week.from, .to = monday.plus_days(50).seconds()});
     cache.exceptions(Id(series));
     reading.calls.clear();
 

@@ -221,3 +221,80 @@ TEST_F(Cursors, StandBehindARecordThatWasRemoved) {
     cursor.to_next();
     EXPECT_EQ(cursor.row()->regarding, "second");
 }
+
+TEST_F(Cursors, SkipToTheSeriesOfSomeDatesInsideTheFilters) {
+    store.add(meeting("plain"));
+    store.add(daily("first", 1));
+    store::Activity call = daily("call", 2);
+    call.type = store::ActivityType::call;
+    store.add(call);
+    store.add(daily("second", 3));
+    store.add(meeting("between", 4));
+    store.add(daily("last", 5));
+    store.add(daily("too-late", 9));
+    const desk::SeriesDates week{.from = monday.seconds(), .to = monday.plus_days(6).seconds()};
+    const auto series = [&] {
+        std::string names;
+        for (cursor.to_series(week); !cursor.is_at_end(); cursor.to_next(), cursor.to_series(week))
+            names += cursor.row()->regarding + " ";
+        return names;
+    };
+    cursor.set_filters({.without_types = {0}});
+    EXPECT_EQ(series(), "first second last ");
+    cursor.set_filters({.scope = days(2, 5)});
+    EXPECT_EQ(series(), "call second ");
+    cursor.set_filters({});
+    cursor.to_next();
+    cursor.to_next();
+    EXPECT_EQ(cursor.row()->regarding, "call");
+    EXPECT_EQ(series(), "call second last ") << "the current record counts";
+    cursor.to_series(week);
+    EXPECT_TRUE(cursor.is_at_end());
+}
+
+TEST_F(Cursors, SkipFromAPlainRecordAndWalkOnBehindASeries) {
+    store.add(meeting("plain"));
+    store.add(daily("series", 1));
+    store.add(meeting("behind", 2));
+    ASSERT_EQ(cursor.row()->regarding, "plain");
+    cursor.to_series({.from = monday.seconds(), .to = monday.plus_days(6).seconds()});
+    EXPECT_EQ(rest(), "series behind ");
+}
+
+TEST_F(Cursors, SkipToWhatWasEditedSince) {
+    DateTime now = monday;
+    const auto clocked = store::Store::open(file.path(), [&] { return now; });
+    clocked->add(meeting("before"));
+    now = monday.plus_minutes(1);
+    clocked->add(meeting("later", 3));
+    clocked->add(meeting("earlier", 1));
+    std::string names;
+    for (cursor.to_edited(monday.seconds()); !cursor.is_at_end();
+         cursor.to_next(), cursor.to_edited(monday.seconds()))
+        names += cursor.row()->regarding + " ";
+    EXPECT_EQ(names, "earlier later ");
+}
+
+TEST_F(Cursors, TellWhichIdsTheListDoesNotHold) {
+    const std::string plain = store.add(meeting("plain")), gone = store.add(meeting("gone"));
+    store::Activity call = daily("call", 2);
+    call.type = store::ActivityType::call;
+    const std::string of_call = store.add(call);
+    store.remove_activity(gone);
+    EXPECT_EQ(cursor.ids_not_listed(""), "");
+    EXPECT_EQ(cursor.ids_not_listed(gone + plain + of_call), gone);
+    cursor.set_filters({.without_types = {0}});
+    EXPECT_EQ(cursor.ids_not_listed(of_call + plain + gone), of_call + gone);
+    cursor.set_filters({.scope = days(1, 3)});
+    EXPECT_EQ(cursor.ids_not_listed(of_call + plain), plain);
+}
+
+TEST_F(Cursors, DoNotTellItWhereAnIdMayStandAcrossTwoOthers) {
+    const std::string own = store.add(meeting("own"));
+    EXPECT_FALSE(cursor.ids_not_listed(own + "AA0000000001"));
+    EXPECT_FALSE(cursor.ids_not_listed(own + "A"));
+    store::Activity imported = meeting("imported");
+    imported.id = "00000001A000";
+    store.add(imported);
+    EXPECT_FALSE(cursor.ids_not_listed(own));
+}

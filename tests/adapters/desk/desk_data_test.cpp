@@ -5,11 +5,13 @@
 using support::DeskData;
 using support::meeting;
 using support::rest_of;
+using support::text;
 
 namespace {
 
 class OpenEx : public DeskData {};
 class Close : public DeskData {};
+class OneLook : public DeskData {};
 
 } // namespace
 
@@ -84,4 +86,33 @@ TEST_F(OpenEx, ReadsADatabaseWhileAnotherProcessHoldsItForWriting) {
         reader->OpenEx("");
         EXPECT_EQ(rest_of(*reader->Activity()), "monday ");
     });
+}
+
+TEST_F(OneLook, SeesWhatWasWrittenBeforeItAndNothingMoreUntilItEnds) {
+    const std::string id = store.add(store::Contact{.fields = {{26, "Max"}}});
+    act::Contact& contact = database->Contact();
+    ASSERT_TRUE(contact.Goto(id));
+    const auto rename = [&](const std::string& name) {
+        store::Contact changed = *store.contact(id);
+        changed.fields[26] = name;
+        store.update(changed);
+    };
+    rename("Maxine");
+    {
+        const auto look = database->One_Look();
+        contact.Goto(id);
+        EXPECT_EQ(text(contact.Data(26)), "Maxine");
+        rename("Moritz");
+        const auto inner = database->One_Look();
+        contact.Goto(id);
+        EXPECT_EQ(text(contact.Data(26)), "Maxine");
+    }
+    contact.Goto(id);
+    EXPECT_EQ(text(contact.Data(26)), "Moritz");
+}
+
+TEST_F(OneLook, MayOutliveTheDatabaseAndNeedsNone) {
+    const auto look = database->One_Look();
+    database->Close();
+    EXPECT_EQ(database->One_Look(), nullptr);
 }

@@ -27,11 +27,20 @@ std::string plan_of(std::string_view statement) {
 } // namespace
 
 TEST(Sql, ReadsAllEntriesFromAnIndexInOrder) {
-    EXPECT_EQ(plan_of(sql::entries), "SCAN activities USING COVERING INDEX activities_in_order\n");
+    EXPECT_EQ(plan_of(sql::entries()), "SCAN activities USING COVERING INDEX activities_in_order\n");
 }
 
-TEST(Sql, ReadsAllSeriesFromTheirIndexAlone) {
-    EXPECT_EQ(plan_of(sql::series_rows()), "SCAN activities USING COVERING INDEX activities_recurring\n");
+TEST(Sql, ReadsTheSeriesThatAreNotOverFromTheirIndexAlone) {
+    EXPECT_EQ(plan_of(sql::ending_series()),
+              "SEARCH activities USING COVERING INDEX activities_recurring (until>?)\n");
+    EXPECT_EQ(plan_of(sql::endless_series()),
+              "SEARCH activities USING COVERING INDEX activities_recurring (until=? AND starts_at<?)\n");
+}
+
+TEST(Sql, FindsWhatWasEditedByAnIndex) {
+    EXPECT_NE(plan_of(sql::edited_entries()).find("SEARCH activities USING INDEX activities_edited (edited_at>?)"),
+              std::string::npos);
+    EXPECT_EQ(plan_of(sql::foreign_ids).find("SCAN activities"), std::string::npos);
 }
 
 TEST(Sql, FindsAScopeInTheIndexOfStarts) {

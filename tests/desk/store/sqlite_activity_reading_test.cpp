@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 using store::Activity;
 using store::ActivityEntry;
 using store::ActivityKey;
@@ -137,12 +139,55 @@ TEST_F(Reading, TellsAnActivityWithoutDetailsContactsAndColour) {
     EXPECT_TRUE(reading.contacts(row.entry.key.id).empty());
 }
 
-TEST_F(Reading, GivesTheSeriesAlone) {
-    add_series(monday.plus_days(2), "second");
+TEST_F(Reading, GivesTheSeriesThatMayTouchTheDatesAlone) {
+    const auto add_until = [&](DateTime start, const std::string& name, DateTime until) {
+        Activity series = *store.activity(add_series(start, name));
+        series.recurrence.until = until;
+        store.update(series);
+    };
+    add_until(monday.plus_days(-9), "over", monday.plus_days(-1).date());
+    add_until(monday.plus_days(-9), "ends-now", monday.date());
     store.add(at(monday, "plain"));
-    add_series(monday, "first");
-    reading.each_series(collect);
-    EXPECT_EQ(names, "first second ");
+    add_series(monday.plus_days(6), "begins-at-the-end");
+    add_series(monday.plus_days(6).plus_minutes(1), "later");
+    add_until(monday.plus_days(6).plus_minutes(1), "later-too", monday.plus_days(9));
+    Activity undated = at(monday, "undated");
+    undated.start.reset();
+    undated.recurrence.kind = store::RecurrenceKind::daily;
+    store.add(undated);
+    reading.each_series(monday.date(), monday.plus_days(6), collect);
+    EXPECT_EQ(names, "ends-now begins-at-the-end ");
+}
+
+TEST_F(Reading, GivesTheEntriesEditedLaterThanAMoment) {
+    DateTime now = monday;
+    const auto clocked = store::Store::open(database.path(), [&] { return now; });
+    const Id late(clocked->add(at(monday.plus_days(3), "late"))), early(clocked->add(at(monday, "early")));
+    now = monday.plus_minutes(1);
+    clocked->update(*clocked->activity(late.text()));
+    clocked->update(*clocked->activity(early.text()));
+    clocked->add(at(monday.plus_days(1), "between"));
+    now = monday;
+    clocked->add(at(monday, "not since"));
+    std::vector<std::int64_t> starts;
+    reading.each_edited(monday, [&](const ActivityEntry& entry) { starts.push_back(entry.key.start); });
+    std::sort(starts.begin(), starts.end());
+    EXPECT_EQ(starts, (std::vector<std::int64_t>{monday.seconds(), monday.plus_days(1).seconds(),
+                                                 monday.plus_days(3).seconds()}));
+}
+
+TEST_F(Reading, TellsWhetherEveryIdIsOfTheStoresOwnKind) {
+    EXPECT_TRUE(reading.has_own_ids_alone());
+    store.add(at(monday, "own"));
+    EXPECT_TRUE(reading.has_own_ids_alone());
+    for (const char* id : {"00000000000A", "B00000000001"}) {
+        Activity imported = at(monday, "imported");
+        imported.id = id;
+        store.add(imported);
+        EXPECT_FALSE(reading.has_own_ids_alone());
+        store.remove_activity(id);
+    }
+    EXPECT_TRUE(reading.has_own_ids_alone());
 }
 
 TEST_F(Reading, GivesAScopeWithItsBeginningButNotItsEnd) {

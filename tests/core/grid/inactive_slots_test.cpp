@@ -123,6 +123,39 @@ TEST_F(InactiveSlots, ShowTheFailureBoxForARangeThatIsNoTime) {
     EXPECT_TRUE(world.window.hourglass);
 }
 
+TEST_F(InactiveSlots, ShowOneBoxForEntriesThatAreNoRangesAndKeepTheRangesOfTheDaysBefore) {
+    const std::string nul("8:00:00 AM\0|9:00:00 AM", 22);
+    std::string many;
+    for (int range = 0; range < 10000; ++range)
+        many += "8:00:00 AM|9:00:00 AM,";
+    off("Sunday", "8:00:00 AM|9:00:00 AM");
+    open();
+    for (const std::string& ranges : {std::string(","), std::string("|"), std::string("99:99|10:00"),
+                                      std::string("8:00:00 AM|9:00:00 AM,"), std::string("&HFFFFFFFFF|-1e999"),
+                                      std::string("8:00:00 AM||9:00:00 AM"), std::string(5000, '|'), many, nul}) {
+        world.files.content["/program/Orvanta.ini"] =
+            "[Slots]\nSlotsCount=4\n[Off]\nSunday=8:00:00 AM|9:00:00 AM\nMonday=" + ranges + "\n";
+        world.box.shown.clear();
+        background.Refresh_Colors();
+        ASSERT_EQ(world.box.shown.size(), 1U) << ranges.substr(0, 50);
+        EXPECT_NE(world.box.shown[0].text.find("in modColorOffSlot: Sub Color_offSlots - Line # 30"),
+                  std::string::npos);
+        EXPECT_EQ(inactive_rows(2), (Rows{1, 2}));
+    }
+}
+
+TEST_F(InactiveSlots, AreNoneInARangeThatEndsBeforeItStartsOrLiesOnADate) {
+    for (const char* ranges : {"11:00:00 AM|8:00:00 AM", "1/8/2024 8:00:00 AM|1/8/2024 9:00:00 AM"}) {
+        off("Monday", ranges);
+        if (model.Rows() == 1)
+            open();
+        else
+            background.Refresh_Colors();
+        EXPECT_EQ(inactive_rows(3), Rows{}) << ranges;
+        EXPECT_TRUE(world.box.shown.empty());
+    }
+}
+
 TEST_F(InactiveSlots, AreAskedForARowAndARangeAtATime) {
     off("Saturday", "8:00:00 AM|9:00:00 AM");
     open();

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "adapters/desk/desk_data.h"
 #include "main_window/frm_main.h"
+#include "support/half_real_server.h"
 #include "support/platform_world.h"
 #include "support/temporary_database.h"
 
@@ -11,23 +11,6 @@
 #include <string>
 
 namespace support {
-
-// The data of a real database beside a running application in memory.
-class HalfRealServer : public act::Server {
-public:
-    explicit HalfRealServer(std::string database) : database_(std::move(database)) {}
-    std::unique_ptr<act::Application> create_application() override { return fakes_.create_application(); }
-    std::unique_ptr<act::Database> create_database() override {
-        return desk::make_database([this] { return database_; });
-    }
-    std::unique_ptr<act::AuxCommands> create_aux_commands() override { return fakes_.create_aux_commands(); }
-
-private:
-    std::string database_;
-    FakeActData data_;
-    FakeApplicationState state_;
-    FakeServer fakes_{data_, state_};
-};
 
 // The calendar's window over a real database with one user, Ann, one contact, Chris Smith, and a meeting of an
 // hour on Wednesday, 10 January 2024, at 9:00, which is now.

@@ -54,6 +54,8 @@ public:
     Calendar(const Calendar&) = delete; // its parts point to each other
     Calendar& operator=(const Calendar&) = delete;
 
+    const host::Guard& guarded() const { return guarded_; }
+
 private:
     act::EventControl& ActEvent1_;
     bool bLoading_ = false; // on from the load until the first activation

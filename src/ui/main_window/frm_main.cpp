@@ -29,7 +29,8 @@ bool a_procedure_waits() { return QThread::currentThread()->loopLevel() > 1; }
 frmMain::frmMain(const shell::Platform& platform)
     : controls_(make_controls(*this)), face_(*this, *controls_, [this] { unload(); }),
       dialogs_(*this, platform, calendar_), calendar_(face_, dialogs_, platform),
-      msgSched_(std::make_unique<GridWidget>(calendar_.grid.msgSched, controls_->picForm)) {
+      msgSched_(std::make_unique<GridWidget>(calendar_.grid.msgSched, controls_->picForm)),
+      hands_(*this, *msgSched_, calendar_, face_, platform) {
     msgSched_->setObjectName("msgSched");
     msgSched_->setFrameShape(QFrame::StyledPanel);
     QFont small = msgSched_->font();

@@ -3,6 +3,7 @@
 #include "dialogs/dialogs.h"
 #include "grid/grid_model.h"
 #include "grid_widget/grid_widget.h"
+#include "main_window/grid_hands.h"
 #include "main_window/window_face.h"
 #include "shell/calendar.h"
 
@@ -46,6 +47,7 @@ private:
     Dialogs dialogs_;
     shell::Calendar calendar_;
     std::unique_ptr<GridWidget> msgSched_;
+    GridHands hands_;
     bool is_unloading_ = false;
     bool update_is_due_ = false;
 };

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "grid_widget/grid_widget.h"
+#include "interaction/interaction.h"
+#include "shell/calendar.h"
+
+#include <QMainWindow>
+#include <QMenu>
+
+#include <vector>
+
+namespace ui {
+
+// Brings the grid's mouse and keys to the calendar's interaction, and shows its menu, pointer and question.
+class GridHands : private interaction::Presenter {
+public:
+    GridHands(QMainWindow& window, GridWidget& msgSched, shell::Calendar& calendar, host::Window& face,
+              const shell::Platform& platform);
+
+    std::function<void(int col)> on_switch_view; // a day's title was double clicked
+    interaction::Interaction& hands() { return hands_; }
+
+private:
+    struct Line {
+        QAction* action;
+        interaction::PopupMenu::Entry interaction::PopupMenu::*entry;
+    };
+
+    void connect_grid();
+    void fill_menu();
+    void add_entry(QMenu& menu, const char* name, const char* caption, std::function<void()> command,
+                   interaction::PopupMenu::Entry interaction::PopupMenu::*entry = nullptr);
+    void add_separator(const char* name, interaction::PopupMenu::Entry interaction::PopupMenu::*entry);
+
+    void show_mnuPopup(const interaction::PopupMenu& menu) override;
+    void begin_drag() override { msgSched_.begin_drag(); }
+    void show_drag_icon(interaction::DragIcon icon) override;
+    int ask_activity_change() override;
+    void minimise() override { window_.showMinimized(); }
+    void Switch_View(int col) override;
+
+    QMainWindow& window_;
+    GridWidget& msgSched_;
+    const host::ApplicationInfo& application_;
+    interaction::Interaction hands_;
+    QMenu mnuPopup_;
+    QMenu* mnupopSchedule_ = nullptr;
+    QAction* mnupopLookup_ = nullptr;
+    std::vector<Line> lines_;
+    std::function<void()> chosen_; // the command of the entry that was chosen
+    QPoint menu_place_;
+};
+
+} // namespace ui

@@ -4,7 +4,6 @@
 #include "interaction/activity_commands.h"
 #include "interaction/click.h"
 #include "interaction/drag_drop.h"
-#include "interaction/grid_sizes.h"
 #include "interaction/instance_editor.h"
 #include "interaction/instances.h"
 #include "interaction/launcher.h"
@@ -46,8 +45,7 @@ public:
           commands({here.session, here.grid, here.engine, here.settings, here.user_store, here.clock, here.locale,
                     click, launcher, instances, editor, frmActivityChange, here.presenter, here.guarded}),
           lookups({here.session, here.grid, here.engine.quick_refresh, click, here.presenter, here.box,
-                   here.locale, here.guarded}),
-          sizes(here.grid.layout, here.settings, here.guarded) {}
+                   here.locale, here.guarded}) {}
     Interaction(const Interaction&) = delete; // its parts point to each other
     Interaction& operator=(const Interaction&) = delete;
 
@@ -60,7 +58,6 @@ public:
     DragDrop drag_drop;
     ActivityCommands commands;
     Lookups lookups;
-    GridSizes sizes;
 };
 
 } // namespace interaction

@@ -10,7 +10,7 @@ using interaction::PopupMenu;
 
 GridHands::GridHands(QMainWindow& window, GridWidget& msgSched, shell::Calendar& calendar, host::Window& face,
                      const shell::Platform& platform)
-    : window_(window), msgSched_(msgSched), application_(platform.application),
+    : window_(window), calendar_(calendar), msgSched_(msgSched), application_(platform.application),
       hands_({.session = calendar.session,
               .users = calendar.users,
               .grid = calendar.grid,
@@ -84,11 +84,11 @@ void GridHands::fill_menu() {
     mnupopLookup_ = lines_.back().action;
     add_separator("mnuSep4", &PopupMenu::mnuSep4);
     add_entry(
-        mnuPopup_, "mnuResetRowHeight", "Reset Row Height", [this] { hands_.sizes.mnuResetRowHeight_Click(); },
+        mnuPopup_, "mnuResetRowHeight", "Reset Row Height", [this] { calendar_.menu.mnuResetRowHeight_Click(); },
         &PopupMenu::mnuResetRowHeight);
     add_entry(
         mnuPopup_, "mnuResetColumnWidth", "Reset Column Width",
-        [this] { hands_.sizes.mnuResetColumnWidth_Click(); }, &PopupMenu::mnuResetColumnWidth);
+        [this] { calendar_.menu.mnuResetColumnWidth_Click(); }, &PopupMenu::mnuResetColumnWidth);
 }
 
 void GridHands::add_entry(QMenu& menu, const char* name, const char* caption, std::function<void()> command,
@@ -125,11 +125,6 @@ void GridHands::show_drag_icon(interaction::DragIcon icon) {
 
 int GridHands::ask_activity_change() {
     return frmActivityChange(QString::fromStdString(application_.title), &window_).ask();
-}
-
-void GridHands::Switch_View(int col) {
-    if (on_switch_view)
-        on_switch_view(col);
 }
 
 } // namespace ui

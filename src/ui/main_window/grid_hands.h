@@ -17,7 +17,6 @@ public:
     GridHands(QMainWindow& window, GridWidget& msgSched, shell::Calendar& calendar, host::Window& face,
               const shell::Platform& platform);
 
-    std::function<void(int col)> on_switch_view; // a day's title was double clicked
     interaction::Interaction& hands() { return hands_; }
 
 private:
@@ -37,9 +36,10 @@ private:
     void show_drag_icon(interaction::DragIcon icon) override;
     int ask_activity_change() override;
     void minimise() override { window_.showMinimized(); }
-    void Switch_View(int col) override;
+    void Switch_View(int col) override { calendar_.navigation.Switch_View(col); }
 
     QMainWindow& window_;
+    shell::Calendar& calendar_;
     GridWidget& msgSched_;
     const host::ApplicationInfo& application_;
     interaction::Interaction hands_;

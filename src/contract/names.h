@@ -13,6 +13,11 @@ inline constexpr QLatin1StringView bus_name{"org.orvanta.ContactDesk"};
 inline constexpr QLatin1StringView application_path{"/org/orvanta/ContactDesk"};
 inline constexpr QLatin1StringView contact_view_path{"/org/orvanta/ContactDesk/ContactView"};
 inline constexpr QLatin1StringView aux_commands_path{"/org/orvanta/ContactDesk/AuxCommands"};
+inline constexpr QLatin1StringView activity_dialog_path{"/org/orvanta/ContactDesk/ActivityDialog"};
+
+// The kinds of dialogs for an activity.
+inline constexpr QLatin1StringView new_activity{"new"};
+inline constexpr QLatin1StringView stored_activity{"stored"};
 
 // The error that carries a sentence of the desk's own; any other error comes from the way between the processes.
 inline constexpr QLatin1StringView failure_error{"org.orvanta.ContactDesk.Failure"};

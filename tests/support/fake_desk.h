@@ -14,7 +14,7 @@
 namespace support {
 
 // A desk without windows, with what it was told and what it answers in the open.
-class FakeDesk : public service::Desk, public service::ContactView {
+class FakeDesk : public service::Desk, public service::ContactView, public service::ActivityDialog {
 public:
     std::string path; // of the open database
 
@@ -27,6 +27,23 @@ public:
         if (on_command)
             on_command(number);
     }
+    bool has_dialog = false;
+    bool is_dialog_new = true;
+    std::vector<service::ActivityValues> filled;
+    std::vector<std::string> shown_tabs;
+    service::ActivityDialog* activity_dialog() override { return has_dialog ? this : nullptr; }
+    bool is_new() const override { return is_dialog_new; }
+    void fill(const service::ActivityValues& values) override { filled.push_back(values); }
+    void show_tab(const std::string& name) override {
+        refuse_if_told();
+        shown_tabs.push_back(name);
+    }
+    void open_dialog(bool is_for_new_activity) {
+        has_dialog = true;
+        is_dialog_new = is_for_new_activity;
+        on_activity_dialog();
+    }
+
     std::vector<act::CommandNumber> commands;
     std::function<void()> finish_command; // closes the dialog of the last one
     std::function<void(act::CommandNumber)> on_command;

@@ -36,12 +36,37 @@ public:
     virtual void select_activity(int row, bool selected) = 0; // the one that the activity commands work on
 };
 
+// Values for a new activity, as texts of another program (contract/activity_dialog.xml tells their forms).
+struct ActivityValues {
+    std::string type{};
+    std::string date{};
+    std::string time{};
+    std::string duration{};
+    std::string regarding{};
+    std::string priority{};
+    std::string scheduled_for{};
+
+    bool operator==(const ActivityValues&) const = default;
+};
+
+// A dialog for an activity that a command has opened.
+class ActivityDialog {
+public:
+    virtual ~ActivityDialog() = default;
+
+    virtual bool is_new() const = 0; // not yet stored
+    // What is empty or can't be read leaves its field as it is.
+    virtual void fill(const ActivityValues& values) = 0;
+    virtual void show_tab(const std::string& name) = 0; // a name that there is not fails
+};
+
 class Desk {
 public:
     virtual ~Desk() = default;
 
     virtual std::string database_path() const = 0; // absolute; "" when no database is open
     virtual ContactView& contact_view() = 0;
+    virtual ActivityDialog* activity_dialog() = 0; // that of the command under way; none for any other dialog
 
     // Begins a command of the menus and returns at once: a dialog is opened, not executed, or from a later event.
     // `finished` is called once, when the dialog has closed and its changes are stored, and at once by a command
@@ -50,9 +75,10 @@ public:
     // finished.
     virtual void run_command(act::CommandNumber number, std::function<void()> finished) = 0;
 
-    // The two events, set by the service. The windows call them; an unset one is skipped by
+    // The three events, set by the service. The windows call them; an unset one is skipped by
     // `if (on_database_closed)`.
     std::function<void()> on_user_wants_to_close; // before the desk ends, whichever way it was asked to
+    std::function<void()> on_activity_dialog;     // activity_dialog() has opened
     std::function<void()> on_database_closed;     // after its database has closed, also when it opens another one
 };
 

@@ -1,5 +1,6 @@
 #include "service/service.h"
 
+#include "activity_dialog_adaptor.h"
 #include "application_adaptor.h"
 #include "aux_commands_adaptor.h"
 #include "contact_view_adaptor.h"
@@ -29,7 +30,9 @@ void wait_until_sent(const QDBusConnection& bus) {
 class Service::Objects {
 public:
     Objects(Desk& desk, store::ToolbarCommands& toolbar_commands, const values::Locale& locale)
-        : desk_(desk), application_(desk), contact_view_(desk, locale), aux_commands_(toolbar_commands) {
+        : desk_(desk), application_(desk), contact_view_(desk, locale), aux_commands_(toolbar_commands),
+          activity_dialog_(desk) {
+        desk_.on_activity_dialog = [this] { emit activity_dialog_.Opened(activity_dialog_.OpenDialog()); };
         desk_.on_database_closed = [this] {
             emit application_.DatabaseClosed();
             settle();
@@ -41,6 +44,7 @@ public:
     }
 
     ~Objects() {
+        desk_.on_activity_dialog = nullptr;
         desk_.on_database_closed = nullptr;
         desk_.on_user_wants_to_close = nullptr;
         leave();
@@ -78,12 +82,15 @@ private:
     ApplicationObject application_;
     ContactViewObject contact_view_;
     AuxCommandsObject aux_commands_;
+    ActivityDialogObject activity_dialog_;
     ApplicationAdaptor application_adaptor_{&application_};
     ContactViewAdaptor contact_view_adaptor_{&contact_view_};
     AuxCommandsAdaptor aux_commands_adaptor_{&aux_commands_};
-    std::array<std::pair<QString, QObject*>, 3> exported_{{{contract::application_path, &application_},
+    ActivityDialogAdaptor activity_dialog_adaptor_{&activity_dialog_};
+    std::array<std::pair<QString, QObject*>, 4> exported_{{{contract::application_path, &application_},
                                                            {contract::contact_view_path, &contact_view_},
-                                                           {contract::aux_commands_path, &aux_commands_}}};
+                                                           {contract::aux_commands_path, &aux_commands_},
+                                                           {contract::activity_dialog_path, &activity_dialog_}}};
     std::optional<QDBusConnection> bus_;
 };
 

@@ -40,7 +40,7 @@ void ActivityCommands::schedule(store::ActivityType type, Finished finished) {
     activity.user = first_enabled(session_.directory().users());
     if (!lookup_.current().empty())
         activity.contacts.push_back(lookup_.current());
-    open(new ActivityDialog(session_, activity, &window_), std::move(finished));
+    open_fields(new ActivityDialog(session_, activity, &window_), std::move(finished));
 }
 
 void ActivityCommands::edit(const std::string& activity, ActivityDialog::Tab tab, Finished finished) {
@@ -48,7 +48,7 @@ void ActivityCommands::edit(const std::string& activity, ActivityDialog::Tab tab
     require_writable();
     auto* dialog = new ActivityDialog(session_, stored_activity(activity), &window_);
     dialog->show_tab(tab);
-    open(dialog, std::move(finished));
+    open_fields(dialog, std::move(finished));
 }
 
 void ActivityCommands::clear(const std::string& activity, Finished finished) {
@@ -101,6 +101,16 @@ store::Activity ActivityCommands::stored_activity(const std::string& id) const {
     return *activity;
 }
 
+void ActivityCommands::open_fields(ActivityDialog* dialog, Finished finished) {
+    const bool is_awaited = static_cast<bool>(finished);
+    open(dialog, std::move(finished));
+    if (!is_awaited)
+        return;
+    awaited_dialog_ = dialog;
+    if (on_awaited_dialog)
+        on_awaited_dialog();
+}
+
 void ActivityCommands::open(QDialog* dialog, Finished finished) {
     if (window_.isMinimized())
         window_.showNormal();
@@ -117,6 +127,7 @@ ActivityCommands::Finished ActivityCommands::ending(Finished finished) {
     return [this, finished = std::move(finished)] {
         is_under_way_ = false;
         dialog_ = nullptr;
+        awaited_dialog_ = nullptr;
         attempt(&window_, [this] { session_.refresh(); });
         if (finished)
             finished();

@@ -30,6 +30,10 @@ public:
     void remove(const std::string& activity);
 
     bool is_under_way() const { return is_under_way_; }
+    // The dialog of the command under way when somebody waits for its end and it is for the fields of an activity.
+    ActivityDialog* awaited_dialog() const { return awaited_dialog_; }
+    std::function<void()> on_awaited_dialog; // it has opened
+
     void close_dialog(); // as by Cancel; without one nothing happens
 
 private:
@@ -37,6 +41,7 @@ private:
     void require_writable() const;
     store::Activity stored_activity(const std::string& id) const;
     void open(QDialog* dialog, Finished finished);
+    void open_fields(ActivityDialog* dialog, Finished finished);
     Finished ending(Finished finished); // what ends the command
 
     Session& session_;
@@ -44,6 +49,7 @@ private:
     QWidget& window_;
     ActivitySender sender_;
     QPointer<QDialog> dialog_;
+    QPointer<ActivityDialog> awaited_dialog_;
     bool is_under_way_ = false;
 };
 

@@ -1,6 +1,7 @@
 #include "windows/activity_dialog.h"
 
 #include "ui_activity_dialog.h"
+#include "windows/activity_values.h"
 #include "windows/boxes.h"
 #include "windows/conversions.h"
 #include "windows/refusal.h"
@@ -14,6 +15,11 @@ void choose(QComboBox* box, const std::string& id, const QString& unknown) {
         box->insertItem(0, unknown, shown(id));
     box->setCurrentIndex(box->findData(shown(id)));
 }
+
+constexpr std::pair<ActivityDialog::Tab, const char*> tab_names[] = {
+    {ActivityDialog::Tab::general, "General"},
+    {ActivityDialog::Tab::details, "Details"},
+    {ActivityDialog::Tab::recurring, "Recurring"}};
 
 std::string chosen(const QComboBox* box) { return stored(box->currentData().toString()); }
 
@@ -77,6 +83,36 @@ void ActivityDialog::show_tab(Tab tab) {
     ui_->tabs->setCurrentIndex(static_cast<int>(tab));
     QWidget* const first[] = {ui_->regarding_edit, ui_->details_edit, ui_->recurring_tab};
     first[static_cast<int>(tab)]->setFocus();
+}
+
+void ActivityDialog::show_tab(const std::string& name) {
+    for (const auto& [tab, its_name] : tab_names)
+        if (name == its_name)
+            return show_tab(tab);
+    refuse("The dialog has no tab \"" + name + "\".");
+}
+
+void ActivityDialog::fill(const service::ActivityValues& values) {
+    const ReadValues read = read_values(values, session_.directory().users(), session_.locale());
+    if (read.type)
+        ui_->type_box->setCurrentIndex(ui_->type_box->findData(static_cast<int>(*read.type)));
+    if (read.date)
+        show_date(*read.date);
+    if (read.time)
+        ui_->time_edit->set_time(*read.time);
+    if (read.duration)
+        ui_->duration_box->setValue(*read.duration);
+    if (read.regarding)
+        ui_->regarding_edit->setText(shown(*read.regarding));
+    if (read.priority)
+        ui_->priority_box->setCurrentIndex(ui_->priority_box->findData(static_cast<int>(*read.priority)));
+    if (read.user)
+        choose(ui_->user_box, *read.user, tr("Nobody"));
+}
+
+void ActivityDialog::show_date(values::DateTime date) {
+    ui_->date_edit->set_date(date);
+    ui_->recurring_tab->set_start(date);
 }
 
 // An activity that came without a date keeps none until the user gives it one.

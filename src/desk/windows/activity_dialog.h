@@ -1,5 +1,6 @@
 #pragma once
 
+#include "service/desk.h"
 #include "windows/session.h"
 
 #include <QDialog>
@@ -14,7 +15,7 @@ namespace windows {
 
 // Schedules a new activity, one without an id, or edits a stored one. OK stores it; where that fails the dialog
 // stays open with what was typed.
-class ActivityDialog : public QDialog {
+class ActivityDialog : public QDialog, public service::ActivityDialog {
     Q_OBJECT
 
 public:
@@ -24,12 +25,17 @@ public:
     enum class Tab { general, details, recurring };
     void show_tab(Tab tab); // with the keyboard's focus on its first field
 
+    bool is_new() const override { return activity_.id.empty(); }
+    void fill(const service::ActivityValues& values) override;
+    void show_tab(const std::string& name) override; // "General", "Details" or "Recurring"
+
     void accept() override;
 
 private:
     void show_choices();
     void show_activity();
     void connect_parts();
+    void show_date(values::DateTime date);
     // The record as it stands in the dialog. Fails with 440 when something is missing or contradicts itself.
     store::Activity typed() const;
     std::optional<store::DateTime> typed_start() const;

@@ -41,7 +41,7 @@ MainWindow::MainWindow(Session& session, Import import)
     connect_contact_menu();
     connect_schedule_menu();
     connect_view_menu();
-    desk_ = std::make_unique<RunningDesk>(session_, lookup_, *contact_page_, commands_);
+    desk_ = std::make_unique<RunningDesk>(session_, lookup_, *contact_page_, commands_, activity_commands_);
     fill_commands();
     connect(&session_, &Session::opened, this, [this] { show_view(contact_list_); });
     connect(&session_, &Session::closed, this, [this] { show_view(ui_->start_page); });

@@ -1,5 +1,6 @@
 #include "windows/running_desk.h"
 
+#include "windows/activity_commands.h"
 #include "windows/activity_list.h"
 #include "windows/contact_page.h"
 
@@ -7,8 +8,13 @@
 
 namespace windows {
 
-RunningDesk::RunningDesk(Session& session, Lookup& lookup, ContactPage& page, const CommandTable& commands)
-    : session_(session), lookup_(lookup), page_(page), commands_(commands) {
+RunningDesk::RunningDesk(Session& session, Lookup& lookup, ContactPage& page, const CommandTable& commands,
+                         ActivityCommands& activity_commands)
+    : session_(session), lookup_(lookup), page_(page), commands_(commands), activity_commands_(activity_commands) {
+    activity_commands_.on_awaited_dialog = [this] {
+        if (on_activity_dialog)
+            on_activity_dialog();
+    };
     QObject::connect(&session, &Session::closed, &page, [this] {
         if (on_database_closed)
             on_database_closed();
@@ -18,6 +24,8 @@ RunningDesk::RunningDesk(Session& session, Lookup& lookup, ContactPage& page, co
 std::string RunningDesk::database_path() const {
     return session_.is_open() ? std::filesystem::absolute(session_.path()).string() : std::string();
 }
+
+service::ActivityDialog* RunningDesk::activity_dialog() { return activity_commands_.awaited_dialog(); }
 
 void RunningDesk::run_command(act::CommandNumber number, std::function<void()> finished) {
     commands_.run(number, std::move(finished));

@@ -6,15 +6,18 @@
 
 namespace windows {
 
+class ActivityCommands;
 class ContactPage;
 
 // The windows as other programs see them.
 class RunningDesk : public service::Desk, private service::ContactView {
 public:
-    RunningDesk(Session& session, Lookup& lookup, ContactPage& page, const CommandTable& commands);
+    RunningDesk(Session& session, Lookup& lookup, ContactPage& page, const CommandTable& commands,
+                ActivityCommands& activity_commands);
 
     std::string database_path() const override;
     service::ContactView& contact_view() override { return *this; }
+    service::ActivityDialog* activity_dialog() override;
     void run_command(act::CommandNumber number, std::function<void()> finished) override;
 
 private:
@@ -33,6 +36,7 @@ private:
     Lookup& lookup_;
     ContactPage& page_;
     const CommandTable& commands_;
+    ActivityCommands& activity_commands_;
 };
 
 } // namespace windows

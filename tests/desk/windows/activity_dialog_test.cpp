@@ -1,6 +1,7 @@
 #include "windows/activity_dialog.h"
 
 #include "desk_fixture.h"
+#include "values/failure.h"
 #include "windows/colour_box.h"
 #include "windows/contact_chooser.h"
 
@@ -8,10 +9,12 @@
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QSpinBox>
 #include <QTabWidget>
+#include <QTableView>
 
 using namespace windows;
 
@@ -229,6 +232,58 @@ TEST_F(ActivityDialogTest, AnEndThatDoesntFollowFromTheDurationStaysUnlessTheTim
     retype(part<QSpinBox>("duration_box"), "30");
     ok();
     EXPECT_EQ(stored(call).end, at(3, 6, 9, 30));
+}
+
+TEST_F(ActivityDialogTest, IsFilledWithTheValuesOfAnotherProgramAndStoresThem) {
+    edit(sample_activity(store::ActivityType::meeting, at(3, 6, 10, 30), "", anna, {cedar}));
+    EXPECT_TRUE(dialog->is_new());
+    dialog->fill({"T", "4/12/2024", "8:45:00 AM", "20", "Buy tiles", "H", "Bert Cole"});
+    part<QTabWidget>("tabs")->setCurrentIndex(2);
+    QTest::keyClick(part<QComboBox>("kind_box"), Qt::Key_End);
+    ok();
+    store::ActivityQuery of_cedar;
+    of_cedar.contact = cedar;
+    of_cedar.from = at(4, 12);
+    const auto found = elsewhere()->activities(of_cedar);
+    ASSERT_EQ(found.size(), 1u);
+    EXPECT_EQ(found[0].type, store::ActivityType::to_do);
+    EXPECT_EQ(found[0].start, at(4, 12, 8, 45));
+    EXPECT_EQ(found[0].end, at(4, 12, 9, 5));
+    EXPECT_EQ(found[0].duration, 20);
+    EXPECT_EQ(found[0].regarding, "Buy tiles");
+    EXPECT_EQ(found[0].priority, store::Priority::high);
+    EXPECT_EQ(found[0].user, bert);
+}
+
+TEST_F(ActivityDialogTest, ShowsItsTabsByName) {
+    edit(call);
+    EXPECT_FALSE(dialog->is_new());
+    dialog->show_tab("Recurring");
+    EXPECT_EQ(part<QTabWidget>("tabs")->currentIndex(), 2);
+    EXPECT_THROW(dialog->show_tab("Weather"), values::Failure);
+    EXPECT_EQ(part<QTabWidget>("tabs")->currentIndex(), 2);
+}
+
+TEST_F(ActivityDialogTest, FurtherContactsAreAddedAndRemoved) {
+    edit(meeting);
+    auto* contacts = part<QListWidget>("contacts_list");
+    ASSERT_EQ(contacts->count(), 2);
+    with_dialogs({[&](QWidget& picker) {
+                     type(child<QLineEdit>(picker, "search_edit"), "Cedar");
+                     auto* table = child<QTableView>(picker, "contact_table");
+                     QTest::mouseClick(table->viewport(), Qt::LeftButton, {},
+                                       table->visualRect(table->model()->index(0, 0)).center());
+                     QTest::keyClick(table, Qt::Key_Return);
+                 }},
+                 [&] { click(part<QPushButton>("add_contacts_button")); });
+    ok();
+    EXPECT_EQ(stored(meeting).contacts, (std::vector{amber, birch, cedar}));
+    edit(meeting);
+    contacts = part<QListWidget>("contacts_list");
+    contacts->setCurrentRow(1);
+    click(part<QPushButton>("remove_contact_button"));
+    ok();
+    EXPECT_EQ(stored(meeting).contacts, (std::vector{amber, cedar}));
 }
 
 TEST_F(ActivityDialogTest, CancelStoresNothing) {

@@ -2,6 +2,7 @@
 
 #include "desk_fixture.h"
 #include "values/failure.h"
+#include "windows/activity_commands.h"
 #include "windows/activity_list.h"
 #include "windows/contact_page.h"
 
@@ -15,7 +16,9 @@ namespace {
 
 class RunningDeskTest : public DeskTest {
 protected:
-    RunningDeskTest() : lookup(session), page(session, lookup), desk(session, lookup, page, commands) {
+    RunningDeskTest()
+        : lookup(session), page(session, lookup), activity_commands(session, lookup, page),
+          desk(session, lookup, page, commands, activity_commands) {
         session.open(path);
     }
     service::ContactView& view() { return desk.contact_view(); }
@@ -23,6 +26,7 @@ protected:
     Lookup lookup;
     ContactPage page;
     CommandTable commands;
+    ActivityCommands activity_commands;
     RunningDesk desk;
 };
 

@@ -1,0 +1,38 @@
+#include "service/activity_dialog_object.h"
+
+#include "service/answer.h"
+
+namespace service {
+
+using contract::from_wire;
+
+QString ActivityDialogObject::OpenDialog() const {
+    const ActivityDialog* open = desk_.activity_dialog();
+    if (!open)
+        return {};
+    return open->is_new() ? contract::new_activity : contract::stored_activity;
+}
+
+ActivityDialog& ActivityDialogObject::dialog() const {
+    ActivityDialog* open = desk_.activity_dialog();
+    if (!open)
+        throw refusal("No activity is being worked on for another program.");
+    return *open;
+}
+
+void ActivityDialogObject::Fill(const QString& type, const QString& date, const QString& time,
+                                const QString& duration, const QString& regarding, const QString& priority,
+                                const QString& scheduled_for) {
+    answer(*this, [&] {
+        if (!dialog().is_new())
+            throw refusal("The activity is stored already; its fields aren't filled.");
+        dialog().fill({from_wire(type), from_wire(date), from_wire(time), from_wire(duration),
+                       from_wire(regarding), from_wire(priority), from_wire(scheduled_for)});
+    });
+}
+
+void ActivityDialogObject::ShowTab(const QString& tab) {
+    answer(*this, [&] { dialog().show_tab(from_wire(tab)); });
+}
+
+} // namespace service

@@ -11,12 +11,6 @@ using store::ActivityRow;
 
 namespace {
 
-// None for a text that is no id, so that a longer one isn't found by its beginning.
-store::Id id_of(const std::string& text) {
-    const std::string whole = values::whole_id(text);
-    return store::Id(whole.size() == values::id_length ? whole : std::string());
-}
-
 const ActivityEntry& entry_in(const ActivityEntry& entry) { return entry; }
 const ActivityEntry& entry_in(const std::shared_ptr<const ActivityRow>& row) { return row->entry; }
 std::shared_ptr<const ActivityRow> row_in(const ActivityEntry&) { return nullptr; }

@@ -12,11 +12,17 @@ constexpr std::int64_t most_changes = 20000;
 
 } // namespace
 
+store::Id id_of(const std::string& text) {
+    const std::string whole = values::whole_id(text);
+    return store::Id(whole.size() == values::id_length ? whole : std::string());
+}
+
 Session::Session(std::unique_ptr<store::Store> store, const values::Locale& locale)
     : locale_(locale), store_(std::move(store)), activities_(std::make_unique<ActivityCache>(store_->reading())),
-      seen_(store_->revision()) {}
+      contacts_(std::make_unique<ContactCache>(store_->reading())), seen_(store_->revision()) {}
 
 void Session::close() {
+    contacts_.reset();
     activities_.reset();
     store_.reset();
 }
@@ -36,6 +42,11 @@ ActivityCache& Session::activities() {
     return *activities_;
 }
 
+ContactCache& Session::contacts() {
+    require_open();
+    return *contacts_;
+}
+
 void Session::catch_up() {
     require_open();
     if (looks_ > 0)
@@ -45,12 +56,12 @@ void Session::catch_up() {
         return;
     if (revision - seen_ > most_changes) {
         activities_->forget_all();
-        contacts_.clear();
+        contacts_->forget_all();
     } else {
         const store::ActivityChanges changes = store_->reading().changes_since(seen_);
         activities_->take_in(changes);
         for (const std::string& contact : changes.contacts)
-            contacts_.erase(contact);
+            contacts_->forget(store::Id(contact));
     }
     group_names_.clear();
     seen_ = revision;
@@ -59,16 +70,6 @@ void Session::catch_up() {
 void Session::begin_look() {
     catch_up();
     ++looks_;
-}
-
-const ContactFields* Session::contact(const std::string& given) {
-    const std::string id = values::whole_id(given);
-    if (const auto known = contacts_.find(id); known != contacts_.end())
-        return &known->second;
-    const auto contact = store().contact(id);
-    if (!contact)
-        return nullptr;
-    return &contacts_.emplace(id, ContactFields(contact->fields.begin(), contact->fields.end())).first->second;
 }
 
 const std::string* Session::group_name(const std::string& given) {

@@ -1,19 +1,18 @@
 #pragma once
 
 #include "adapters/desk/data_activity_cache.h"
+#include "adapters/desk/data_contact_cache.h"
 #include "store/store.h"
 #include "values/locale.h"
 
 #include <memory>
 #include <string>
 #include <unordered_map>
-#include <utility>
-#include <vector>
 
 namespace desk {
 
-// The fields of a contact that aren't empty, by rising number.
-using ContactFields = std::vector<std::pair<int, std::string>>;
+// None for a text that is no id, so that a longer one isn't found by its beginning.
+store::Id id_of(const std::string& text);
 
 // A database while it is open: its store and what has been read of it. The objects that a program holds share it.
 // They may outlive its closing; then they fail with 440, as every member here does.
@@ -33,9 +32,10 @@ public:
     void begin_look();
     void end_look() { --looks_; }
 
-    // What has been read, as new as the last catch_up. The two lookups give none for an id that there is not.
+    // What has been read, as new as the last catch_up.
     ActivityCache& activities();
-    const ContactFields* contact(const std::string& id);
+    ContactCache& contacts();
+    // None for an id that there is not.
     const std::string* group_name(const std::string& id);
 
 private:
@@ -44,9 +44,9 @@ private:
     const values::Locale& locale_;
     std::unique_ptr<store::Store> store_; // none once closed
     std::unique_ptr<ActivityCache> activities_;
+    std::unique_ptr<ContactCache> contacts_;
     std::int64_t seen_; // the revision that everything in memory is at least as new as
     int looks_ = 0;
-    std::unordered_map<std::string, ContactFields> contacts_;
     std::unordered_map<std::string, std::string> group_names_;
 };
 

@@ -45,7 +45,9 @@ bool ContactFieldList::HasPopupList(int id) const { return existing_field(id).ha
 
 bool ContactTable::Goto(const std::string& id) {
     session_->catch_up();
-    id_ = session_->contact(id) ? values::whole_id(id) : std::string();
+    id_ = id_of(id);
+    if (!id_.empty() && !session_->contacts().exists(id_))
+        id_ = {};
     return !id_.empty();
 }
 
@@ -53,15 +55,9 @@ Value ContactTable::Data(int field) const {
     if (id_.empty())
         return {};
     if (field == id_field)
-        return id_;
-    if (!field_of(field))
-        return {};
-    const ContactFields* contact = session_->contact(id_);
-    if (!contact)
-        return {};
-    const auto found = std::find_if(contact->begin(), contact->end(),
-                                    [field](const auto& numbered) { return numbered.first == field; });
-    return found == contact->end() ? std::string() : found->second;
+        return id_.text();
+    const std::string* value = field_of(field) ? session_->contacts().field(id_, field) : nullptr;
+    return value ? Value(*value) : Value();
 }
 
 bool GroupTable::Goto(const std::string& id) {

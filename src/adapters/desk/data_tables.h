@@ -30,7 +30,7 @@ public:
 private:
     std::shared_ptr<Session> session_;
     ContactFieldList fields_;
-    std::string id_; // empty where there is no record
+    store::Id id_; // empty where there is no record
 };
 
 class GroupTable final : public act::Group {

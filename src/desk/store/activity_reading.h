@@ -99,6 +99,9 @@ public:
     virtual std::vector<DateTime> exceptions(const Id& id) = 0;
     virtual std::string details(const Id& id) = 0; // empty also when the activity is gone
     virtual std::vector<std::string> contacts(const Id& id) = 0;
+    // These fields of a contact, in their order; each is one of contact_fields(). None when the contact is gone.
+    virtual std::optional<std::vector<std::string>> contact_fields(const Id& contact,
+                                                                   const std::vector<int>& fields) = 0;
 
     // What changed behind a revision. Read the store's revision before: what changes in between is told again by
     // the next call.

@@ -1,5 +1,10 @@
 #include "store/sql.h"
 
+#include "store/contact_fields.h"
+#include "values/failure.h"
+
+#include <algorithm>
+
 namespace store::sql {
 
 namespace {
@@ -33,6 +38,17 @@ int columns_in(std::string_view list) {
     for (const char c : list)
         count += c == ',';
     return count;
+}
+
+std::string_view contact_column(int number) {
+    std::string_view rest = contact_columns;
+    for (const ContactField& field : store::contact_fields()) {
+        const std::string_view column = rest.substr(0, rest.find(", "));
+        if (field.number == number)
+            return column;
+        rest.remove_prefix(std::min(rest.size(), column.size() + 2));
+    }
+    throw values::Failure(values::FailureNumber::invalid_property_index);
 }
 
 std::string insert(std::string_view table, std::string_view columns) {
@@ -241,6 +257,13 @@ std::string_view contact() {
     static const std::string text =
         join({"SELECT id, revision, ", contact_columns, " FROM contacts WHERE id = ?"});
     return text;
+}
+
+std::string contact_fields(const std::vector<int>& numbers) {
+    std::string text = "SELECT ";
+    for (const int number : numbers)
+        text.append(contact_column(number)).append(", ");
+    return text + "id FROM contacts WHERE id = ?";
 }
 
 std::string_view add_contact() {

@@ -54,6 +54,7 @@ inline constexpr std::string_view clear_group_members = "DELETE FROM group_membe
 // Contacts: id and revision, then the fields in the order of contact_fields().
 std::string_view contacts();
 std::string_view contact();
+std::string contact_fields(const std::vector<int>& numbers); // of one contact; as columns in this order
 std::string_view add_contact();
 std::string_view update_contact(); // revision and fields, where id and the revision as read
 inline constexpr std::string_view contact_exists = "SELECT 1 FROM contacts WHERE id = ?";

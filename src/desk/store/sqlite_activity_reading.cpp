@@ -99,6 +99,22 @@ public:
         return result;
     }
 
+    std::optional<std::vector<std::string>> contact_fields(const Id& contact,
+                                                           const std::vector<int>& fields) override {
+        if (contact_sql_.empty() || fields != fields_in_sql_) {
+            fields_in_sql_ = fields;
+            contact_sql_ = sql::contact_fields(fields);
+        }
+        Rows rows = connection_.query(contact_sql_, contact.text());
+        if (!rows.step())
+            return std::nullopt;
+        std::vector<std::string> result;
+        result.reserve(fields.size());
+        for (std::size_t column = 0; column < fields.size(); ++column)
+            result.push_back(rows.text(static_cast<int>(column)));
+        return result;
+    }
+
     ActivityChanges changes_since(std::int64_t revision) override {
         ActivityChanges changes;
         each(connection_.query(sql::changed_rows(), revision),
@@ -124,6 +140,8 @@ private:
     }
 
     Connection& connection_;
+    std::vector<int> fields_in_sql_; // mostly the same in a row
+    std::string contact_sql_;
 };
 
 } // namespace

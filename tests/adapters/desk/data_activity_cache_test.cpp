@@ -51,6 +51,9 @@ public:
     }
     std::string details(const Id& id) override { return ++calls["details"], reading_.details(id); }
     std::vector<std::string> contacts(const Id& id) override { return ++calls["contacts"], reading_.contacts(id); }
+    std::optional<std::vector<std::string>> contact_fields(const Id& id, const std::vector<int>& fields) override {
+        return ++calls["contact_fields"], reading_.contact_fields(id, fields);
+    }
     store::ActivityChanges changes_since(std::int64_t revision) override {
         return ++calls["changes_since"], reading_.changes_since(revision);
     }

@@ -21,13 +21,13 @@ TEST_F(Sessions, GiveTheFieldsOfAContactAsTheyWereAtTheLastCatchUp) {
     store::Contact contact;
     contact.fields[store::contact_field::name] = "Max";
     contact = *store.contact(store.add(contact));
-    using Fields = desk::ContactFields;
-    EXPECT_EQ(*session.contact(contact.id), (Fields{{store::contact_field::name, "Max"}}));
+    const auto name = [&] { return *session.contacts().field(store::Id(contact.id), store::contact_field::name); };
+    EXPECT_EQ(name(), "Max");
     contact.fields[store::contact_field::name] = "Maxine";
     store.update(contact);
-    EXPECT_EQ(*session.contact(contact.id), (Fields{{store::contact_field::name, "Max"}}));
+    EXPECT_EQ(name(), "Max");
     session.catch_up();
-    EXPECT_EQ(*session.contact(contact.id), (Fields{{store::contact_field::name, "Maxine"}}));
+    EXPECT_EQ(name(), "Maxine");
 }
 
 TEST_F(Sessions, GiveTheNameOfAGroupAsItWasAtTheLastCatchUp) {
@@ -38,10 +38,7 @@ TEST_F(Sessions, GiveTheNameOfAGroupAsItWasAtTheLastCatchUp) {
     EXPECT_EQ(*session.group_name(id), "Partners");
 }
 
-TEST_F(Sessions, GiveNothingForAContactOrAGroupThatThereIsNot) {
-    EXPECT_EQ(session.contact("C99999999999"), nullptr);
-    EXPECT_EQ(session.group_name(""), nullptr);
-}
+TEST_F(Sessions, GiveNothingForAGroupThatThereIsNot) { EXPECT_EQ(session.group_name(""), nullptr); }
 
 TEST_F(Sessions, CatchUpWithMoreChangesThanTheyTakeIn) {
     const std::string first = store.add(meeting("first"));
@@ -60,7 +57,7 @@ TEST_F(Sessions, FailOnceTheyAreClosed) {
     session.close();
     for (const auto& action : std::vector<std::function<void()>>{
              [&] { session.store(); }, [&] { session.activities(); }, [&] { session.catch_up(); },
-             [&] { session.contact("C00000000001"); }, [&] { session.group_name("G00000000001"); }}) {
+             [&] { session.contacts(); }, [&] { session.group_name("G00000000001"); }}) {
         try {
             action();
             ADD_FAILURE();

@@ -1,5 +1,6 @@
 #include "store/activity_reading.h"
 
+#include "store/contact_fields.h"
 #include "support/temporary_database.h"
 
 #include <gtest/gtest.h>
@@ -267,4 +268,16 @@ TEST_F(Reading, DoesNotTellAnActivityRemovedThatCameBackWithItsId) {
     store.add(activity);
     EXPECT_TRUE(reading.changes_since(before).removed.empty());
     EXPECT_EQ(reading.changes_since(before).changed.size(), 1u);
+}
+
+TEST_F(Reading, GivesTheFieldsOfAContactThatAreAskedForInTheirOrder) {
+    Contact contact;
+    for (const store::ContactField& field : store::contact_fields())
+        contact.fields[field.number] = "value " + std::to_string(field.number);
+    contact.fields.erase(27);
+    const Id id(store.add(contact));
+    EXPECT_EQ(reading.contact_fields(id, {35, 25, 203, 27}),
+              (std::vector<std::string>{"value 35", "value 25", "value 203", ""}));
+    EXPECT_EQ(reading.contact_fields(id, {}), std::vector<std::string>());
+    EXPECT_FALSE(reading.contact_fields(Id("C99999999999"), {25}));
 }

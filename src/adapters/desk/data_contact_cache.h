@@ -1,0 +1,33 @@
+#pragma once
+
+#include "store/activity_reading.h"
+
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+namespace desk {
+
+// What has been read of a database's contacts: of each one that was asked for, the fields that were ever asked for
+// of any, since a calendar shows the same few of all of them.
+class ContactCache {
+public:
+    explicit ContactCache(store::ActivityReading& reading) : reading_(reading) {}
+
+    bool exists(const store::Id& contact) { return fields_of(contact) != nullptr; }
+    // A field of those in contact_fields(). None when there is no such contact. It lives until the next call of
+    // any member.
+    const std::string* field(const store::Id& contact, int number);
+
+    void forget(const store::Id& contact) { contacts_.erase(contact); }
+    void forget_all() { contacts_.clear(); }
+
+private:
+    const std::vector<std::string>* fields_of(const store::Id& contact);
+
+    store::ActivityReading& reading_;
+    std::vector<int> wanted_; // the numbers of the fields, in the order in which they were first asked for
+    std::unordered_map<store::Id, std::vector<std::string>> contacts_; // as many of those as were wanted then
+};
+
+} // namespace desk

@@ -68,8 +68,21 @@ void Session::catch_up() {
 }
 
 void Session::begin_look() {
-    catch_up();
+    if (looks_ == 0) {
+        catch_up();
+        store_->begin_reading();
+    }
     ++looks_;
+}
+
+void Session::end_look() {
+    if (--looks_ > 0 || !store_)
+        return;
+    try {
+        store_->end_reading();
+    } catch (const values::Failure&) {
+        // Nothing was written, so nothing is lost; whoever reads next is told.
+    }
 }
 
 const std::string* Session::group_name(const std::string& given) {

@@ -28,9 +28,9 @@ public:
     // has.
     void catch_up();
     // Between these two, which come in pairs, everything stays as the beginning found it. Nothing is written
-    // meanwhile.
+    // meanwhile. The end doesn't fail.
     void begin_look();
-    void end_look() { --looks_; }
+    void end_look();
 
     // What has been read, as new as the last catch_up.
     ActivityCache& activities();

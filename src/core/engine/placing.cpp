@@ -19,6 +19,7 @@ void Placing::read_settings() {
     slots_.read(layout_.slot_times(), layout_.SlotsCount);
     cell_text_.read_settings();
     user_colours_.clear();
+    last_text_.clear();
     if (start_texts_.size() > most_start_texts)
         start_texts_.clear();
 }
@@ -57,7 +58,7 @@ void Placing::Treat_Activity(DateTime date, int duration, bool recurring) {
         if (!DisplayedIDs.contains(id))
             DisplayedIDs.append(id);
         step = 120;
-        std::string cell_text = cell_text_.GetContactInfo(contact, id);
+        std::string cell_text = text_of_cell(contact, id);
         step = 130;
         std::string sort_text = user_name(user);
         sort_text.append("||").append(start_text(activity.Data(field::start))).append(cell_text);
@@ -67,6 +68,16 @@ void Placing::Treat_Activity(DateTime date, int duration, bool recurring) {
                      std::to_string(type + 1), std::move(cell_text), std::move(sort_text), flag(has_details),
                      further_slots);
     });
+}
+
+const std::string& Placing::text_of_cell(const std::string& contact, const std::string& activity) {
+    // A text that failed is empty, and its next try fails for itself.
+    if (last_text_.empty() || last_activity_ != activity || last_contact_ != contact) {
+        last_text_ = cell_text_.GetContactInfo(contact, activity);
+        last_contact_ = contact;
+        last_activity_ = activity;
+    }
+    return last_text_;
 }
 
 std::string Placing::colour_of(const std::string& own_colour, const std::string& user_id) {

@@ -50,6 +50,7 @@ private:
     std::string colour_of(const std::string& own_colour, const std::string& user_id);
     const std::string& user_name(const std::string& user_id) const;
     std::string start_text(const values::Value& start);
+    const std::string& text_of_cell(const std::string& contact, const std::string& activity);
 
     act::Session& session_;
     const act::UserList& users_;
@@ -59,6 +60,8 @@ private:
     const values::Locale& locale_;
     const host::Guard& guarded_;
     SlotTable slots_;
+    // The last text and whose it is. The occurrences of a series follow one another.
+    std::string last_contact_, last_activity_, last_text_;
     std::unordered_map<std::string, std::string> user_colours_; // by name, as far as they were needed
     // Starts as text, by their seconds. A refresh meets the same ones again and again.
     std::unordered_map<std::int64_t, std::string> start_texts_;

@@ -15,6 +15,7 @@ void clsMsgSchedSlot::Initialize(int slot_number, int col) {
     cells_per_slot_ = static_cast<std::int16_t>(layout_->CellsPerSlot);
     start_date_ = layout_->StartDate;
     records_.clear();
+    first_free_ = 0;
 }
 
 void clsMsgSchedSlot::SetCell(std::string activity_id, std::string contact_id, std::string recurring,
@@ -23,22 +24,23 @@ void clsMsgSchedSlot::SetCell(std::string activity_id, std::string contact_id, s
                               int goes_beyond) {
     (*guarded_)("in clsMsgSchedSlot: Sub SetCell - Line # ", [&](host::Step& step) {
         step = 10;
-        auto free = std::find_if(records_.begin(), records_.end(), [](const auto& one) { return !one.InUse; });
-        if (free == records_.end())
-            free = records_.emplace(records_.end());
+        while (first_free_ < records_.size() && records_[first_free_].InUse)
+            ++first_free_;
+        if (first_free_ == records_.size())
+            records_.emplace_back();
         step = 20;
-        *free = {.InUse = true,
-                 .ActivityID = std::move(activity_id),
-                 .ContactID = std::move(contact_id),
-                 .Recurring = std::move(recurring),
-                 .Cleared = std::move(cleared),
-                 .BackColor = std::move(back_color),
-                 .ForeColor = std::move(fore_color),
-                 .Type = std::move(type),
-                 .Text = std::move(text),
-                 .Detail = std::move(detail),
-                 .HasDetails = std::move(has_details),
-                 .GoesBeyond = goes_beyond};
+        records_[first_free_] = {.InUse = true,
+                                 .ActivityID = std::move(activity_id),
+                                 .ContactID = std::move(contact_id),
+                                 .Recurring = std::move(recurring),
+                                 .Cleared = std::move(cleared),
+                                 .BackColor = std::move(back_color),
+                                 .ForeColor = std::move(fore_color),
+                                 .Type = std::move(type),
+                                 .Text = std::move(text),
+                                 .Detail = std::move(detail),
+                                 .HasDetails = std::move(has_details),
+                                 .GoesBeyond = goes_beyond};
         changed_ = true;
     });
 }
@@ -50,8 +52,10 @@ void clsMsgSchedSlot::DeleteCell(std::string_view activity_id) {
             if (record(index).ActivityID != activity_id)
                 continue;
             step = 20;
-            if (index < static_cast<int>(records_.size()))
-                records_[static_cast<std::size_t>(index)].InUse = false;
+            if (const auto place = static_cast<std::size_t>(index); place < records_.size()) {
+                records_[place].InUse = false;
+                first_free_ = std::min(first_free_, place);
+            }
             changed_ = true;
             return;
         }
@@ -62,6 +66,7 @@ void clsMsgSchedSlot::ClearCells() {
     (*guarded_)("in clsMsgSchedSlot: Sub ClearCells - Line # ", [&](host::Step& step) {
         step = 10;
         records_.clear();
+        first_free_ = 0;
     });
 }
 

@@ -83,6 +83,7 @@ private:
     // The records up to the last that was ever filled; those behind it, up to cells_per_slot_, are free and
     // empty and take no room.
     std::vector<SlotRecord> records_;
+    std::size_t first_free_ = 0; // all records before it are in use
 };
 
 // All slots by slot number and grid column, from FixedCols on. An index outside fails with 9.

@@ -28,6 +28,7 @@ std::string_view create_tables(); // those of version 1
 std::string_view change_to_version_2();
 
 inline constexpr std::string_view begin = "BEGIN IMMEDIATE";
+inline constexpr std::string_view begin_reading = "BEGIN";
 inline constexpr std::string_view commit = "COMMIT";
 inline constexpr std::string_view roll_back = "ROLLBACK";
 inline constexpr std::string_view begin_inner = "SAVEPOINT inner_block";

@@ -7,6 +7,7 @@
 #include "values/ids.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace store {
 
@@ -93,7 +94,20 @@ std::string SqliteStore::id_for(const std::string& own, const std::string& count
     return id;
 }
 
+void SqliteStore::begin_reading() {
+    if (connection_->in_transaction())
+        return;
+    connection_->run(sql::begin_reading);
+    is_reading_ = true;
+}
+
+void SqliteStore::end_reading() {
+    if (std::exchange(is_reading_, false))
+        connection_->run(sql::commit);
+}
+
 void SqliteStore::begin() {
+    end_reading();
     connection_->run(open_blocks_ == 0 ? sql::begin : sql::begin_inner);
     ++open_blocks_;
 }

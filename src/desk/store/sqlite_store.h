@@ -19,6 +19,8 @@ public:
     const std::string& path() const override;
     bool is_read_only() const override;
     std::int64_t revision() override;
+    void begin_reading() override;
+    void end_reading() override;
 
     std::vector<User> users() override;
     std::string add(const User& user) override;
@@ -70,6 +72,7 @@ private:
     Clock clock_;
     std::unique_ptr<ActivityReading> reading_;
     std::unique_ptr<ToolbarCommands> toolbar_commands_;
+    bool is_reading_ = false; // between begin_reading and its end
     int open_blocks_ = 0;
     std::map<std::string, std::int64_t> counters_; // those used in this transaction
     std::int64_t known_data_version_ = -1;

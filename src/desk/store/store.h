@@ -53,6 +53,11 @@ public:
     // A number that rises whenever any process changes the database. Costs no query of a table unless it has.
     virtual std::int64_t revision() = 0;
 
+    // Until the end, all reading sees the file as the first of it does, and costs less; other processes aren't
+    // kept from writing. Writing here ends it early.
+    virtual void begin_reading() = 0;
+    virtual void end_reading() = 0;
+
     virtual std::vector<User> users() = 0;         // by name
     virtual std::string add(const User& user) = 0; // gives the new id; an id that the record brings is kept
     virtual std::vector<Group> groups() = 0;       // by name

@@ -252,3 +252,43 @@ TEST(Together, UndoesOnlyAnInnerBlockThatThrows) {
     EXPECT_NE(activities[0].id, activities[1].id);
     EXPECT_NE(activities[0].revision, activities[1].revision);
 }
+
+TEST(Store, SeesOneMomentFromTheFirstReadingToTheEndOfReading) {
+    TemporaryDatabase database;
+    const auto other = database.open_again();
+    database.store().add(meeting("first"));
+    other->begin_reading();
+    EXPECT_EQ(other->activities({}).size(), 1u);
+    const std::int64_t revision = other->revision();
+    database.store().add(meeting("second"));
+    EXPECT_EQ(other->activities({}).size(), 1u);
+    EXPECT_EQ(other->revision(), revision);
+    other->end_reading();
+    EXPECT_EQ(other->activities({}).size(), 2u);
+    EXPECT_GT(other->revision(), revision);
+}
+
+TEST(Store, EndsReadingToWrite) {
+    TemporaryDatabase database;
+    const auto other = database.open_again();
+    database.store().begin_reading();
+    EXPECT_TRUE(database.store().activities({}).empty());
+    other->add(meeting("theirs"));
+    database.store().add(meeting("ours"));
+    EXPECT_EQ(database.store().activities({}).size(), 2u);
+    EXPECT_EQ(other->activities({}).size(), 2u);
+    database.store().end_reading();
+    database.store().end_reading();
+    EXPECT_EQ(other->activities({}).size(), 2u);
+}
+
+TEST(Store, ReadsInsideABlockOfWritesAsEver) {
+    TemporaryDatabase database;
+    database.store().together([&] {
+        database.store().begin_reading();
+        database.store().add(meeting("ours"));
+        EXPECT_EQ(database.store().activities({}).size(), 1u);
+        database.store().end_reading();
+    });
+    EXPECT_EQ(database.open_again()->activities({}).size(), 1u);
+}

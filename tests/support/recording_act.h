@@ -78,6 +78,10 @@ public:
         record_.note("Data(" + std::to_string(field) + ", " + values::text_of(value, values::english_us()) + ")");
         real_->Data(field, value);
     }
+    bool HasDetails() const override {
+        record_.note("Data(45)");
+        return real_->HasDetails();
+    }
     void Edit() override { record_.note("Edit"), real_->Edit(); }
     void Add() override { record_.note("Add"), real_->Add(); }
     std::string Update() override { return record_.note("Update"), real_->Update(); }

@@ -182,6 +182,13 @@ void ActivityList::Data(int field, const Value& value) {
     written_.insert(field);
 }
 
+bool ActivityList::HasDetails() const {
+    if (draft_)
+        return !draft_->details.empty();
+    const store::ActivityRow* row = cursor_.row();
+    return row && row->has_details;
+}
+
 void ActivityList::Edit() {
     give_up_change();
     draft_ = stored();

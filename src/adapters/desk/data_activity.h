@@ -41,6 +41,7 @@ public:
 
     act::Value Data(int field) const override;
     void Data(int field, const act::Value& value) override;
+    bool HasDetails() const override;
 
     void Edit() override;
     void Add() override;

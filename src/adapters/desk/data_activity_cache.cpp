@@ -104,10 +104,11 @@ void ActivityCache::forget_all() {
     details_.clear();
 }
 
-const std::shared_ptr<const ActivityRow>& ActivityCache::keep(const ActivityRow& row) {
+const std::shared_ptr<const ActivityRow>& ActivityCache::keep(ActivityRow row) {
     const auto behind_last = last_kept_ == rows_.end() ? last_kept_ : std::next(last_kept_);
-    last_kept_ = rows_.insert_or_assign(behind_last, row.entry.key, std::make_shared<const ActivityRow>(row));
-    const auto [known, is_new] = by_id_.try_emplace(row.entry.key.id, last_kept_);
+    const ActivityKey key = row.entry.key;
+    last_kept_ = rows_.insert_or_assign(behind_last, key, std::make_shared<const ActivityRow>(std::move(row)));
+    const auto [known, is_new] = by_id_.try_emplace(key.id, last_kept_);
     if (!is_new && known->second != last_kept_) { // it has moved since it was read
         erase(known->second);
         known->second = last_kept_;
@@ -142,7 +143,7 @@ void ActivityCache::load_scope(const Scope& scope) {
         return;
     make_room();
     reading_.each_in_scope(store::DateTime::from_seconds(scope.from), store::DateTime::from_seconds(scope.to),
-                           [this](const ActivityRow& row) { keep(row); });
+                           [this](ActivityRow&& row) { keep(std::move(row)); });
     Scope whole = scope;
     std::erase_if(loaded_scopes_, [&](const Scope& loaded) {
         if (loaded.to < whole.from || whole.to < loaded.from)
@@ -172,7 +173,7 @@ const std::vector<std::shared_ptr<const ActivityRow>>& ActivityCache::series(con
     series_dates_.reset();
     series_.clear();
     reading_.each_series(store::DateTime::from_seconds(dates.from), store::DateTime::from_seconds(dates.to),
-                         [this](const ActivityRow& row) { series_.push_back(keep(row)); });
+                         [this](ActivityRow&& row) { series_.push_back(keep(std::move(row))); });
     std::sort(series_.begin(), series_.end(), by_entry_key);
     series_dates_ = dates;
     return series_;
@@ -230,7 +231,7 @@ const ActivityEntry* ActivityCache::next(const ActivityKey& place, const std::op
 std::shared_ptr<const ActivityRow> ActivityCache::row(const ActivityEntry& entry) {
     if (auto row = known(entry))
         return row;
-    reading_.each_from(entry.key, rows_at_once, [this](const ActivityRow& row) { keep(row); });
+    reading_.each_from(entry.key, rows_at_once, [this](ActivityRow&& row) { keep(std::move(row)); });
     return find(entry.key.id);
 }
 

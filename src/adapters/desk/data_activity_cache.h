@@ -67,7 +67,7 @@ private:
     void make_room();
     bool is_of_series(const store::ActivityRow& row) const;
     void update_series(const store::ActivityChanges& changes);
-    const std::shared_ptr<const store::ActivityRow>& keep(const store::ActivityRow& row);
+    const std::shared_ptr<const store::ActivityRow>& keep(store::ActivityRow row);
     std::shared_ptr<const store::ActivityRow> known(const store::ActivityEntry& entry);
     void erase(Rows::iterator row);
     void drop(const store::Id& id);

@@ -84,6 +84,12 @@ public:
 
     virtual Value Data(int field) const = 0;              // a field that there is not gives nothing
     virtual void Data(int field, const Value& value) = 0; // only between Edit or Add and Update
+    // Whether Data(45) isn't empty, for which a list needn't read a long text.
+    virtual bool HasDetails() const {
+        const Value details = Data(activity_field::details);
+        const auto* text = std::get_if<std::string>(&details);
+        return text ? !text->empty() : !std::holds_alternative<std::monostate>(details);
+    }
 
     virtual void Edit() = 0;
     virtual void Add() = 0; // a new record, unseen by others until Update

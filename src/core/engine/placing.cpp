@@ -44,7 +44,7 @@ void Placing::Treat_Activity(DateTime date, int duration, bool recurring) {
         step = 60;
         const bool cleared = text(field::cleared) == "1";
         step = 70;
-        const bool has_details = !text(field::details).empty();
+        const bool has_details = activity.HasDetails();
         step = 80;
         const std::optional<int> slot = slots_.slot_of(date);
         if (!slot)

@@ -67,6 +67,7 @@ std::string QuickRefresh::Find_New(DateTime since) {
         std::string changed;
         act::Activity& activity = *session_.ActActivity;
         step = 20;
+        const auto look = session_.ActDatabase->One_Look();
         activity.Rebuild();
         step = 30;
         activity.MoveFirst();
@@ -102,6 +103,7 @@ void QuickRefresh::Refresh_Activity(std::string id, bool clear_selected) {
         session_.ActActivity = session_.ActDatabase->Activity();
         act::Activity& activity = *session_.ActActivity;
         step = 40;
+        const auto look = session_.ActDatabase->One_Look();
         activity.Rebuild();
         step = 50;
         activity.Goto(id);

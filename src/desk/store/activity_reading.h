@@ -5,6 +5,7 @@
 #include <array>
 #include <compare>
 #include <cstdint>
+#include <cstring>
 #include <functional>
 #include <limits>
 #include <string>
@@ -83,13 +84,12 @@ public:
     // Those that were edited later than that, in no order.
     virtual void each_edited(DateTime since, const std::function<void(const ActivityEntry&)>& take) = 0;
     // The series that start at or before `to` and don't end before `from`, in no order.
-    virtual void each_series(DateTime from, DateTime to, const std::function<void(const ActivityRow&)>& take) = 0;
+    virtual void each_series(DateTime from, DateTime to, const std::function<void(ActivityRow&&)>& take) = 0;
     // Starts at or after `from` and before `to`.
-    virtual void each_in_scope(DateTime from, DateTime to,
-                               const std::function<void(const ActivityRow&)>& take) = 0;
+    virtual void each_in_scope(DateTime from, DateTime to, const std::function<void(ActivityRow&&)>& take) = 0;
     // From this place on, at most so many; among those without a start all.
     virtual void each_from(const ActivityKey& first, int count,
-                           const std::function<void(const ActivityRow&)>& take) = 0;
+                           const std::function<void(ActivityRow&&)>& take) = 0;
     // Every exception of every series, those of a series together and rising.
     virtual void each_exception(const std::function<void(const Id& activity, DateTime date)>& take) = 0;
 
@@ -113,6 +113,12 @@ public:
 template <>
 struct std::hash<store::Id> {
     std::size_t operator()(const store::Id& id) const noexcept {
-        return std::hash<std::string_view>{}({id.characters.data(), id.characters.size()});
+        std::uint64_t head = 0;
+        std::uint32_t tail = 0;
+        static_assert(sizeof head + sizeof tail == sizeof id.characters);
+        std::memcpy(&head, id.characters.data(), sizeof head);
+        std::memcpy(&tail, id.characters.data() + sizeof head, sizeof tail);
+        const std::uint64_t mixed = (head ^ tail * 0x9E3779B97F4A7C15u) * 0xD6E8FEB86659FD93u;
+        return static_cast<std::size_t>(mixed ^ mixed >> 32);
     }
 };

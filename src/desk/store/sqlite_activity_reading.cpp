@@ -46,17 +46,16 @@ public:
         each_entry_in(connection_.query(sql::edited_entries(), since.seconds()), take);
     }
 
-    void each_series(DateTime from, DateTime to, const std::function<void(const ActivityRow&)>& take) override {
+    void each_series(DateTime from, DateTime to, const std::function<void(ActivityRow&&)>& take) override {
         each(connection_.query(sql::ending_series(), from.seconds(), to.seconds()), take);
         each(connection_.query(sql::endless_series(), to.seconds()), take);
     }
 
-    void each_in_scope(DateTime from, DateTime to, const std::function<void(const ActivityRow&)>& take) override {
+    void each_in_scope(DateTime from, DateTime to, const std::function<void(ActivityRow&&)>& take) override {
         each(connection_.query(sql::rows_in_scope(), from.seconds(), to.seconds()), take);
     }
 
-    void each_from(const ActivityKey& first, int count,
-                   const std::function<void(const ActivityRow&)>& take) override {
+    void each_from(const ActivityKey& first, int count, const std::function<void(ActivityRow&&)>& take) override {
         if (first.start == ActivityKey::no_start)
             each(connection_.query(sql::rows_without_start()), take);
         else
@@ -118,7 +117,7 @@ public:
     ActivityChanges changes_since(std::int64_t revision) override {
         ActivityChanges changes;
         each(connection_.query(sql::changed_rows(), revision),
-             [&](const ActivityRow& row) { changes.changed.push_back(row); });
+             [&](ActivityRow&& row) { changes.changed.push_back(std::move(row)); });
         Rows removed = connection_.query(sql::removed_activities, revision);
         while (removed.step())
             changes.removed.emplace_back(removed.view(0));
@@ -134,7 +133,7 @@ private:
             take(entry_of(rows));
     }
 
-    static void each(Rows rows, const std::function<void(const ActivityRow&)>& take) {
+    static void each(Rows rows, const std::function<void(ActivityRow&&)>& take) {
         while (rows.step())
             take(row_of(rows));
     }

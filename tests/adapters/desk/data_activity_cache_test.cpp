@@ -30,15 +30,14 @@ public:
         ++calls["each_edited"], reading_.each_edited(since, take);
     }
     void each_series(values::DateTime from, values::DateTime to,
-                     const std::function<void(const ActivityRow&)>& take) override {
+                     const std::function<void(ActivityRow&&)>& take) override {
         ++calls["each_series"], reading_.each_series(from, to, take);
     }
     void each_in_scope(values::DateTime from, values::DateTime to,
-                       const std::function<void(const ActivityRow&)>& take) override {
+                       const std::function<void(ActivityRow&&)>& take) override {
         ++calls["each_in_scope"], reading_.each_in_scope(from, to, take);
     }
-    void each_from(const ActivityKey& first, int count,
-                   const std::function<void(const ActivityRow&)>& take) override {
+    void each_from(const ActivityKey& first, int count, const std::function<void(ActivityRow&&)>& take) override {
         ++calls["each_from"], reading_.each_from(first, count, take);
     }
     void each_exception(const std::function<void(const Id&, values::DateTime)>& take) override {

@@ -9,28 +9,38 @@ namespace engine {
 
 namespace {
 
-constexpr int filter_power = 20; // bits in the filter, as a power of two: room for some thousands of ids
+constexpr std::size_t least_words = std::size_t{1} << 14; // as all their numbers, a power of two
 
-std::size_t hash_of(const char* piece) {
+struct Bits {
+    std::uint32_t first, second;
+};
+
+Bits bits_of(const char* piece) {
     std::uint64_t head = 0;
     std::uint32_t tail = 0;
     static_assert(sizeof head + sizeof tail == values::id_length);
     std::memcpy(&head, piece, sizeof head);
     std::memcpy(&tail, piece + sizeof head, sizeof tail);
     const std::uint64_t mixed = (head ^ tail * 0x9E3779B97F4A7C15u) * 0xD6E8FEB86659FD93u;
-    return static_cast<std::size_t>((mixed ^ mixed >> 32) * 0xD6E8FEB86659FD93u >> (64 - filter_power));
+    const std::uint64_t hash = (mixed ^ mixed >> 32) * 0xD6E8FEB86659FD93u;
+    return {static_cast<std::uint32_t>(hash >> 32), static_cast<std::uint32_t>(hash ^ hash >> 32)};
 }
 
 } // namespace
 
-DisplayedIds::DisplayedIds() : filter_((std::size_t{1} << filter_power) / 64) {}
+DisplayedIds::DisplayedIds() : filter_(least_words) {}
+
+bool DisplayedIds::may_hold(const char* piece) const {
+    const auto is_set = [this](std::uint32_t bit) {
+        return (filter_[bit / 64 & (filter_.size() - 1)] >> bit % 64 & 1) != 0;
+    };
+    const Bits bits = bits_of(piece);
+    return is_set(bits.first) && is_set(bits.second);
+}
 
 bool DisplayedIds::contains(std::string_view id) const {
-    if (id.size() == values::id_length) {
-        const std::size_t bit = hash_of(id.data());
-        if ((filter_[bit / 64] >> bit % 64 & 1) == 0)
-            return false;
-    }
+    if (id.size() == values::id_length && !may_hold(id.data()))
+        return false;
     // The occurrences of a series follow one another, so that the end of the text is the likely place.
     return text_.rfind(id) != std::string::npos;
 }
@@ -38,7 +48,12 @@ bool DisplayedIds::contains(std::string_view id) const {
 void DisplayedIds::append(std::string_view id) {
     const std::size_t old_size = text_.size();
     text_ += id;
-    note_pieces(old_size, text_.size());
+    if (text_.size() <= filter_.size()) {
+        note_pieces(old_size, text_.size());
+    } else { // too full to rule out most of what isn't there
+        filter_.assign(filter_.size() * 2, 0);
+        note_pieces(0, text_.size());
+    }
 }
 
 void DisplayedIds::remove(std::string_view id) {
@@ -59,8 +74,9 @@ void DisplayedIds::note_pieces(std::size_t from, std::size_t to) {
     // What ends behind `from` may have begun before it.
     const std::size_t first = from < values::id_length ? 0 : from - values::id_length + 1;
     for (std::size_t at = first; at <= to && at + values::id_length <= text_.size(); ++at) {
-        const std::size_t bit = hash_of(text_.data() + at);
-        filter_[bit / 64] |= std::uint64_t{1} << bit % 64;
+        const Bits bits = bits_of(text_.data() + at);
+        for (const std::uint32_t bit : {bits.first, bits.second})
+            filter_[bit / 64 & (filter_.size() - 1)] |= std::uint64_t{1} << bit % 64;
     }
 }
 

@@ -10,7 +10,7 @@ namespace engine {
 
 // The ids of the activities placed since the last full refresh, each standing once. It is a plain text of ids
 // joined with no separator, and an id counts as held wherever it occurs in that text, across the border of two
-// others as well. A filter of all its 12-byte pieces answers most questions without a search.
+// others as well. A filter of all its 12-byte pieces answers nearly every question without a search.
 class DisplayedIds {
 public:
     DisplayedIds();
@@ -23,9 +23,10 @@ public:
 
 private:
     void note_pieces(std::size_t from, std::size_t to); // those with a character from there to there
+    bool may_hold(const char* piece) const;
 
     std::string text_;
-    std::vector<std::uint64_t> filter_; // a bit is set for the hash of every piece that ever stood in the text
+    std::vector<std::uint64_t> filter_; // two bits are set for every piece that ever stood in the text
 };
 
 } // namespace engine

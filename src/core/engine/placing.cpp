@@ -19,7 +19,7 @@ void Placing::read_settings() {
     slots_.read(layout_.slot_times(), layout_.SlotsCount);
     cell_text_.read_settings();
     user_colours_.clear();
-    last_text_.clear();
+    last_ = {};
     if (start_texts_.size() > most_start_texts)
         start_texts_.clear();
 }
@@ -27,57 +27,57 @@ void Placing::read_settings() {
 void Placing::Treat_Activity(DateTime date, int duration, bool recurring) {
     guarded_("in modRefresh: Sub Treat_Activity - Line # ", [&](host::Step& step) {
         namespace field = act::activity_field;
-        act::Activity& activity = *session_.ActActivity;
-        const auto text = [&](int number) { return values::text_of(activity.Data(number), locale_); };
+        const act::Activity& activity = *session_.ActActivity;
         step = 10;
         const int col = layout_.GetDayCol(date);
         step = 20;
-        std::string own_colour = text(field::colour);
-        if (!values::is_numeric(own_colour))
-            own_colour = "0";
-        step = 30;
-        std::string contact = text(field::contact);
-        step = 40;
-        const int type = values::int16_of(activity.Data(field::type));
-        step = 50;
-        std::string id = text(field::id);
-        step = 60;
-        const bool cleared = text(field::cleared) == "1";
-        step = 70;
-        const bool has_details = activity.HasDetails();
+        if (last_.id.empty() || values::text_of(activity.Data(field::id), locale_) != last_.id)
+            last_ = read_current(step);
         step = 80;
         const std::optional<int> slot = slots_.slot_of(date);
         if (!slot)
             return;
         step = 90;
-        const std::string user = text(field::scheduled_for);
-        std::string colour = colour_of(own_colour, user);
+        if (last_.colour.empty())
+            last_.colour = colour_of(last_.own_colour, last_.user);
         step = 100;
         const int further_slots = GetSlotSpan(*slot + 1, date.plus_minutes(duration));
         step = 110;
-        if (!DisplayedIDs.contains(id))
-            DisplayedIDs.append(id);
+        if (!DisplayedIDs.contains(last_.id))
+            DisplayedIDs.append(last_.id);
         step = 120;
-        std::string cell_text = text_of_cell(contact, id);
-        step = 130;
-        std::string sort_text = user_name(user);
-        sort_text.append("||").append(start_text(activity.Data(field::start))).append(cell_text);
+        if (last_.text.empty()) { // as it also is when it failed; then the next try fails for itself
+            last_.text = cell_text_.GetContactInfo(last_.contact, last_.id);
+            step = 130;
+            last_.sort_text = user_name(last_.user) + "||" + start_text(activity.Data(field::start)) + last_.text;
+        }
         step = 140;
         layout_.Slots(*slot, col)
-            .SetCell(std::move(id), std::move(contact), flag(recurring), flag(cleared), "", std::move(colour),
-                     std::to_string(type + 1), std::move(cell_text), std::move(sort_text), flag(has_details),
-                     further_slots);
+            .SetCell(last_.id, last_.contact, flag(recurring), flag(last_.cleared), "", last_.colour, last_.type,
+                     last_.text, last_.sort_text, flag(last_.has_details), further_slots);
     });
 }
 
-const std::string& Placing::text_of_cell(const std::string& contact, const std::string& activity) {
-    // A text that failed is empty, and its next try fails for itself.
-    if (last_text_.empty() || last_activity_ != activity || last_contact_ != contact) {
-        last_text_ = cell_text_.GetContactInfo(contact, activity);
-        last_contact_ = contact;
-        last_activity_ = activity;
-    }
-    return last_text_;
+Placing::Shared Placing::read_current(host::Step& step) const {
+    namespace field = act::activity_field;
+    const act::Activity& activity = *session_.ActActivity;
+    const auto text = [&](int number) { return values::text_of(activity.Data(number), locale_); };
+    Shared shared;
+    shared.own_colour = text(field::colour);
+    if (!values::is_numeric(shared.own_colour))
+        shared.own_colour = "0";
+    step = 30;
+    shared.contact = text(field::contact);
+    step = 40;
+    shared.type = std::to_string(values::int16_of(activity.Data(field::type)) + 1);
+    step = 50;
+    shared.id = text(field::id);
+    step = 60;
+    shared.cleared = text(field::cleared) == "1";
+    shared.user = text(field::scheduled_for);
+    step = 70;
+    shared.has_details = activity.HasDetails();
+    return shared;
 }
 
 std::string Placing::colour_of(const std::string& own_colour, const std::string& user_id) {

@@ -47,10 +47,17 @@ public:
     int GetSlotSpan(int first_slot, DateTime end_time) const { return slots_.span(first_slot, end_time); }
 
 private:
+    // What an activity's occurrences have in common, as its slots get it.
+    struct Shared {
+        std::string id, contact, user, own_colour, type;
+        bool cleared = false, has_details = false;
+        // Composed once an occurrence has found its slot, empty before.
+        std::string colour, text, sort_text;
+    };
+    Shared read_current(host::Step& step) const;
     std::string colour_of(const std::string& own_colour, const std::string& user_id);
     const std::string& user_name(const std::string& user_id) const;
     std::string start_text(const values::Value& start);
-    const std::string& text_of_cell(const std::string& contact, const std::string& activity);
 
     act::Session& session_;
     const act::UserList& users_;
@@ -60,8 +67,7 @@ private:
     const values::Locale& locale_;
     const host::Guard& guarded_;
     SlotTable slots_;
-    // The last text and whose it is. The occurrences of a series follow one another.
-    std::string last_contact_, last_activity_, last_text_;
+    Shared last_; // of the last activity, since the occurrences of a series follow one another
     std::unordered_map<std::string, std::string> user_colours_; // by name, as far as they were needed
     // Starts as text, by their seconds. A refresh meets the same ones again and again.
     std::unordered_map<std::int64_t, std::string> start_texts_;

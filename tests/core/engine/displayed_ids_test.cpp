@@ -63,6 +63,19 @@ TEST(DisplayedIds, IsEmptyAfterClear) {
     EXPECT_FALSE(ids.contains("AAAAAAAAAAA1"));
 }
 
+TEST(DisplayedIds, AnswersRightWithMoreIdsThanItBeganWithRoomFor) {
+    const auto id = [](int number) { return "A" + std::to_string(10'000'000'000 + number); };
+    DisplayedIds ids;
+    for (int number = 0; number < 6000; number += 2) {
+        EXPECT_FALSE(ids.contains(id(number)));
+        ids.append(id(number));
+    }
+    for (int number = 0; number < 6000; ++number)
+        ASSERT_EQ(ids.contains(id(number)), number % 2 == 0) << number;
+    EXPECT_TRUE(ids.contains("000000A10000"));
+    EXPECT_FALSE(ids.contains("000001A10000"));
+}
+
 // Few letters, so that ids often occur by chance across borders.
 TEST(DisplayedIds, AnswersAsASearchOfTheTextWould) {
     std::mt19937 random(7);

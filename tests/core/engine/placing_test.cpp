@@ -97,6 +97,28 @@ TEST_F(PlacingTest, AnIdStandsOnceInDisplayedIDs) {
     EXPECT_EQ(world_.placed(), (std::vector<std::string>{"1/5 Meet", "1/6 Meet"}));
 }
 
+TEST_F(PlacingTest, SeesAtTheNextRefreshWhatChangedOfTheActivityPlacedLast) {
+    treat(DateTime::of(2024, 1, 10, 9, 0));
+    world_.calendar.layout.Slots(1, wednesday).ClearCells();
+    world_.act_data.contacts["contact-----"][26] = std::string("Chris Jones");
+    activity_->fields[field::type] = std::int64_t{2};
+    treat(DateTime::of(2024, 1, 10, 9, 0));
+    EXPECT_EQ(world_.only_record().Text, "Chris Jones");
+    EXPECT_EQ(world_.only_record().Detail, "Ann||1/10/2024 9:00:00 AMChris Jones");
+    EXPECT_EQ(world_.only_record().Type, "3");
+}
+
+TEST_F(PlacingTest, ComposesATextAnewThatWasEmpty) {
+    world_.act_data.contacts.erase("contact-----");
+    treat(DateTime::of(2024, 1, 10, 9, 0));
+    EXPECT_EQ(world_.only_record().Text, "");
+    world_.calendar.layout.Slots(1, wednesday).ClearCells();
+    world_.act_data.contacts["contact-----"][26] = std::string("Chris Smith");
+    world_.engine.placing.Treat_Activity(DateTime::of(2024, 1, 10, 9, 0), 60, false);
+    EXPECT_EQ(world_.only_record().Text, "Chris Smith");
+    EXPECT_EQ(world_.only_record().Detail, "Ann||1/10/2024 9:00:00 AMChris Smith");
+}
+
 TEST_F(PlacingTest, ADateOutsideTheGridShowsTheBox) {
     treat(DateTime::of(2024, 1, 14, 9, 0));
     EXPECT_EQ(world_.failures(),

@@ -95,6 +95,29 @@ class Desktop:
     def picture(self, path, window="root"):
         self.run("import", "-silent", "-window", window, path)
 
+    # Real events of mouse and keyboard
+
+    def hands(self, *actions):
+        self.run("xdotool", *map(str, actions))
+
+    def focus(self, window):
+        self.hands("windowraise", window, "windowfocus", "--sync", window)
+
+    def keys(self, *keys):
+        self.hands("key", "--delay", 5, *keys)
+
+    def type(self, text):
+        """Types over what the field in focus holds."""
+        self.keys("ctrl+a")
+        self.hands("type", "--delay", 5, text)
+
+    def click(self, place, button=1, times=1):
+        self.hands("mousemove", *place, "click", "--repeat", times, "--delay", 30, button)
+
+    def drag_with_ctrl(self, start, end):
+        self.hands("mousemove", *start, "keydown", "ctrl", "mousedown", 1, "mousemove", *end,
+                   "mousemove", end[0] + 1, end[1] + 1, "mouseup", 1, "keyup", "ctrl")
+
 
 # The accessibility tree -----------------------------------------------------------------------------------------------
 
@@ -135,6 +158,59 @@ def names(process, role):
     return [node.get_name() for node in descendants(application_of(process)) if node.get_role() == role]
 
 
+def in_sight(process, role):
+    """All objects of that role that are to be seen in the program's windows."""
+    return [node for node in descendants(application_of(process))
+            if node.get_role() == role and has_state(node, Atspi.StateType.SHOWING)]
+
+
+def has_state(node, state):
+    return node.get_state_set().contains(state)
+
+
+def wait_to_see(process, role, name):
+    """The object of that role and name, once it is to be seen."""
+    return wait_for(lambda: next((node for node in in_sight(process, role) if node.get_name() == name), None),
+                    f"an object of role {role.value_nick} named {name!r} in sight")
+
+
+def part_of_its_window(node, role, name):
+    """The object of that role and name in the same window."""
+    while node.get_parent().get_role() != Atspi.Role.APPLICATION:
+        node = node.get_parent()
+    return next(part for part in descendants(node) if part.get_role() == role and part.get_name() == name)
+
+
+def is_busy(node):
+    """Whether the program of an object is too busy to answer a question about it within a tenth of a second."""
+    Atspi.set_timeout(100, 100)
+    try:
+        Atspi.Component.get_extents(node, Atspi.CoordType.SCREEN)
+        return False
+    except GLib.GError:
+        return True
+    finally:
+        Atspi.set_timeout(800, 15000)  # the library's own
+
+
+def middle(node):
+    """Where on the screen an object has its middle."""
+    place = Atspi.Component.get_extents(node, Atspi.CoordType.SCREEN)
+    return place.x + place.width // 2, place.y + place.height // 2
+
+
+def text_in(process, name):
+    """What the text field of that name holds; None without such a field in sight."""
+    for field in in_sight(process, Atspi.Role.TEXT):
+        if field.get_name() == name:
+            return Atspi.Text.get_text(field, 0, -1)
+    return None
+
+
+def texts_in_sight(process, role):
+    return [node.get_name() for node in in_sight(process, role)]
+
+
 def press(process, role, name):
     """Does the default action of an object: a button's press, a menu entry's choice."""
     Atspi.Action.do_action(wait_to_find(process, role, name), 0)
@@ -163,6 +239,9 @@ class Grid:
 
     def text(self, row, column):
         return Atspi.Table.get_accessible_at(self.table, row, column).get_name()
+
+    def middle(self, row, column):
+        return middle(Atspi.Table.get_accessible_at(self.table, row, column))
 
     def column(self, column):
         return [self.text(row, column) for row in range(self.rows)]

@@ -4,7 +4,9 @@ import contextlib
 import datetime
 import sqlite3
 
-from sample_week import seconds, users
+from sample_week import EMPTY_DATE, seconds, users
+
+DAILY = 1
 
 
 class TeamDatabase:
@@ -34,8 +36,9 @@ class TeamDatabase:
         with self.change() as (connection, _):
             connection.execute("DELETE FROM activities")
 
-    def add(self, activity, user, start, edited=None):
-        """A call of an hour with the first contact; gives that contact's name."""
+    def add(self, activity, user, start, edited=None, **others):
+        """A call of an hour with the first contact, with other values where they are given; gives that contact's
+        name."""
         with self.change() as (connection, revision):
             contact, name = connection.execute("SELECT id, name FROM contacts ORDER BY id").fetchone()
             values = dict(id=activity, revision=revision, edited_at=seconds(edited or datetime.datetime.now()), type=0,
@@ -44,9 +47,31 @@ class TeamDatabase:
                           alarm_lead=0, scheduled_for=user, contact=contact, contact_count=1, cleared=0, result="",
                           details="", has_details=0, recurrence=0, frequency=1, days_of_week=0, weeks_of_month=0,
                           days_of_month=0)
+            values.update(others)
             connection.execute(f"INSERT INTO activities ({', '.join(values)}) VALUES ({', '.join('?' * len(values))})",
                                tuple(values.values()))
         return name
+
+    def add_daily_series(self, activity, user, start, days, **others):
+        return self.add(activity, user, start, recurrence=DAILY,
+                        until=seconds(start.replace(hour=0) + datetime.timedelta(days=days - 1)), **others)
+
+    def look(self, question, *values):
+        """The rows of an SQL question, each a dictionary."""
+        with contextlib.closing(sqlite3.connect(f"file:{self.path}?mode=ro", uri=True)) as connection:
+            connection.row_factory = sqlite3.Row
+            return [dict(row) for row in connection.execute(question, values)]
+
+    def activities(self):
+        """All of them by their start, with start as a date and time, and with the names of user and contact."""
+        rows = self.look("SELECT activities.*, users.name AS user, contacts.name AS contact_name FROM activities"
+                         " LEFT JOIN users ON users.id = scheduled_for LEFT JOIN contacts ON contacts.id = contact"
+                         " ORDER BY starts_at, activities.id")
+        return [dict(row, start=EMPTY_DATE + datetime.timedelta(seconds=row["starts_at"])) for row in rows]
+
+    def exceptions(self, activity):
+        rows = self.look("SELECT date FROM exceptions WHERE activity = ? ORDER BY date", activity)
+        return [(EMPTY_DATE + datetime.timedelta(seconds=row["date"])).date() for row in rows]
 
     def move(self, activity, start):
         with self.change() as (connection, revision):

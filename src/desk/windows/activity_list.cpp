@@ -114,8 +114,8 @@ void ActivityList::show_filter() {
         choice.action->setChecked(filter_.types.contains(choice.kind));
     for (const auto& choice : priorities_)
         choice.action->setChecked(filter_.priorities.contains(choice.kind));
-    mark(ui_->types_button, tr("Types"), types_);
-    mark(ui_->priorities_button, tr("Priorities"), priorities_);
+    mark(ui_->types_button, tr("&Types"), types_);
+    mark(ui_->priorities_button, tr("&Priorities"), priorities_);
     ui_->period_box->setCurrentIndex(static_cast<int>(filter_.period));
     ui_->from_edit->set_date(filter_.from);
     ui_->to_edit->set_date(filter_.to);

@@ -11,7 +11,7 @@
 namespace windows {
 
 ContactChooser::ContactChooser(QWidget* parent)
-    : QWidget(parent), list_(new QListWidget(this)), remove_button_(new QPushButton(tr("Remo&ve"), this)) {
+    : QWidget(parent), list_(new QListWidget(this)), remove_button_(new QPushButton(tr("Re&move"), this)) {
     auto* add_button = new QPushButton(tr("Add &Contacts..."), this);
     list_->setObjectName("contacts_list");
     list_->setAccessibleName(tr("Contacts of the activity"));

@@ -35,9 +35,9 @@ ContactPage::ContactPage(Session& session, Lookup& lookup, QWidget* parent)
     activities_ = new ActivityList(session, ActivityList::Scope::contact);
     notes_ = new NotesTab(session);
     groups_ = new GroupsTab(session);
-    ui_->tabs->addTab(activities_, tr("Activities"));
-    ui_->tabs->addTab(notes_, tr("Notes"));
-    ui_->tabs->addTab(groups_, tr("Groups"));
+    ui_->tabs->addTab(activities_, tr("Act&ivities"));
+    ui_->tabs->addTab(notes_, tr("N&otes"));
+    ui_->tabs->addTab(groups_, tr("&Groups"));
     activities_->setObjectName("Activities");
     notes_->setObjectName("Notes");
     groups_->setObjectName("Groups");

@@ -87,7 +87,7 @@ void MainWindow::build_views() {
         connect(list, &ActivityList::chosen, this, &MainWindow::show_state);
     }
     count_label_->setObjectName("record_count");
-    count_label_->setAccessibleName(tr("Contacts in the lookup"));
+    count_label_->setAccessibleDescription(tr("Contacts in the lookup"));
     ui_->status_bar->addWidget(count_label_);
 }
 

@@ -109,7 +109,7 @@ TEST_F(ActivityListTest, FiltersByTypeAndTellsSoOnTheButton) {
     });
     click(button);
     EXPECT_EQ(ids(list), (Ids{series, meeting}));
-    EXPECT_EQ(button->text(), "Types (2 of 3)");
+    EXPECT_EQ(button->text(), "&Types (2 of 3)");
 }
 
 TEST_F(ActivityListTest, AFilterSetFromOutsideShowsInTheBar) {
@@ -120,7 +120,7 @@ TEST_F(ActivityListTest, AFilterSetFromOutsideShowsInTheBar) {
     EXPECT_EQ(ids(list), Ids{});
     list.set_filter(filter_of({242, "6\\1/31/2024\\2/2/2024", anna}, session.locale()));
     EXPECT_EQ(ids(list), Ids{old_task});
-    EXPECT_EQ(child<QPushButton>(list, "types_button")->text(), "Types (1 of 3)");
+    EXPECT_EQ(child<QPushButton>(list, "types_button")->text(), "&Types (1 of 3)");
     EXPECT_EQ(child<QComboBox>(list, "period_box")->currentText(), "Date range");
     EXPECT_EQ(child<DateField>(list, "from_edit")->date(), at(1, 31));
     EXPECT_EQ(child<QComboBox>(list, "user_box")->currentText(), "Anna Berg");

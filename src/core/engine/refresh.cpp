@@ -71,8 +71,14 @@ void Refresh::clear_cells() {
     const int last_row = grid_.msgSched.Rows() - 1, last_col = grid_.msgSched.Cols() - 1;
     const int first_col = grid_.layout.FixedCols;
     for (int row = 1; row <= last_row; ++row)
-        for (int col = first_col; col <= last_col; ++col)
-            grid_.layout.Cells(row, col).Clear();
+        for (int col = first_col; col <= last_col; ++col) {
+            grid::clsMsgSchedCell& cell = grid_.layout.Cells(row, col);
+            cell.Clear();
+            // Drawing links the cells that continue an activity now; of those that did none may stay.
+            cell.DependsOnActivity({});
+            cell.DependsOnActivityX(0);
+            cell.DependsOnActivityY(0);
+        }
     grid_.msgSched.clear_contents(1, last_row, first_col, last_col);
 }
 

@@ -60,7 +60,8 @@ void DragDrop::Reschedule(clsMsgSchedCell& source, clsMsgSchedCell& target) {
             return;
         }
         step = 20;
-        activity().Goto(source.ActivityID());
+        std::string moved = source.ActivityID();
+        activity().Goto(moved);
         step = 30;
         const std::int32_t duration = values::int32_of(activity().Data(field::duration));
         const std::int32_t length = values::int32_of(activity().Data(field::occurrence_length));
@@ -73,7 +74,7 @@ void DragDrop::Reschedule(clsMsgSchedCell& source, clsMsgSchedCell& target) {
             if (!may_leave_series())
                 return;
             step = 70;
-            here_.instances.Change_Instance(source, target, duration);
+            moved = here_.instances.Change_Instance(source, target, duration);
         } else {
             step = 80;
             const int answer = here_.frmActivityChange.show();
@@ -83,12 +84,12 @@ void DragDrop::Reschedule(clsMsgSchedCell& source, clsMsgSchedCell& target) {
             if (answer == ActivityChange::all_instances)
                 move_series(target, length, *user);
             else
-                here_.instances.Change_Instance(source, target, duration);
+                moved = here_.instances.Change_Instance(source, target, duration);
         }
         step = 100;
         here_.refresh.Refresh_Data();
         step = 110;
-        here_.grid.rendering.Display_Changes(std::string(source.ActivityID()));
+        follow(moved, target);
     });
 }
 
@@ -99,6 +100,20 @@ bool DragDrop::changes_user(const clsMsgSchedCell& source, const clsMsgSchedCell
 void DragDrop::make_current(const clsMsgSchedCell& cell) {
     here_.grid.msgSched.Row(cell.Row());
     here_.grid.msgSched.Col(cell.Col());
+}
+
+// In shared rows it stands where its slot sorts it, which needn't be the row on which it was let go.
+void DragDrop::follow(const std::string& id, const clsMsgSchedCell& target) {
+    const grid::Layout& layout = here_.grid.layout;
+    const int first = layout.first_row_of(target.Slot());
+    make_current(target);
+    for (int row = first; row < first + layout.CellsPerSlot && !id.empty(); ++row) {
+        if (layout.Cells(row, target.Col()).ActivityID() != id)
+            continue;
+        here_.grid.selection.SelectedCell = layout.Cells.reference(row, target.Col());
+        make_current(*here_.grid.selection.SelectedCell);
+        return;
+    }
 }
 
 std::optional<std::string> DragDrop::ask_for_user(const clsMsgSchedCell& source, const clsMsgSchedCell& target) {

@@ -76,6 +76,25 @@ TEST_F(DragDrop, MovesAPlainActivityToAnotherDayAndHour) {
     EXPECT_EQ(calendar.msgSched.Col(), col_of(12));
 }
 
+TEST_F(DragDrop, TheCellsIntoWhichTheActivityRanOnStandForItNoLonger) {
+    ann_at_nine(meeting(10, 9, 120));
+    ASSERT_EQ(cell(row_of(nine + 1), col_of(10)).DependsOnActivity(), id);
+    drag(row_of(nine), col_of(10), row_of(eleven), col_of(12));
+    EXPECT_EQ(cell(row_of(nine + 1), col_of(10)).DependsOnActivity(), "");
+    EXPECT_EQ(cell(row_of(eleven + 1), col_of(12)).DependsOnActivity(), id);
+    EXPECT_EQ(cell(row_of(eleven + 1), col_of(12)).DependsOnActivityX(), row_of(eleven));
+}
+
+TEST_F(DragDrop, OfACellIntoWhichAnActivityRunsOnWritesNothing) {
+    ann_at_nine(meeting(10, 9, 120));
+    const auto before = revision();
+    drag(row_of(nine + 1), col_of(10), row_of(eleven), col_of(12));
+    EXPECT_EQ(presenter.drags, 1) << "it shows text";
+    EXPECT_EQ(box.shown.size(), 1U);
+    EXPECT_EQ(revision(), before);
+    EXPECT_EQ(shown(row_of(nine), col_of(10)), "Chris Smith");
+}
+
 TEST_F(DragDrop, WritesAPlainActivityInOrder) {
     ann_at_nine(meeting(10, 9));
     drag(row_of(nine), col_of(10), row_of(eleven), col_of(12));
@@ -101,17 +120,6 @@ TEST_F(DragDrop, OnTheTitlesDoesNothing) {
     EXPECT_EQ(record.calls, Calls{});
     EXPECT_EQ(calendar.msgSched.Row(), row_of(nine));
     EXPECT_EQ(calendar.msgSched.Col(), col_of(10));
-}
-
-TEST_F(DragDrop, InSharedRowsOnAnotherRowOfTheSameSlotIsNone) {
-    id = add(meeting(10, 9));
-    open(7, false);
-    const int col = 1 + 3;
-    press(1, 2, row_of(nine), col);
-    hands.drag_drop.msgSched_DragDrop(x(col), y(row_of(nine) + 1));
-    EXPECT_EQ(record.calls, Calls{});
-    EXPECT_EQ(calendar.msgSched.Row(), row_of(nine)) << "the source is the current cell again";
-    EXPECT_EQ(cell(row_of(nine) + 1, col).ActivityID(), id) << "the copy stays until the next refresh";
 }
 
 TEST_F(DragDrop, TheTargetTakesTheSourcesIdBeforeAnythingIsConfirmed) {

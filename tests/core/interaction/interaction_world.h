@@ -19,7 +19,11 @@ namespace support {
 // Remembers what was asked of the main window and answers frmActivityChange from a list, then with "Cancel".
 class FakePresenter : public interaction::Presenter {
 public:
-    void show_mnuPopup(const interaction::PopupMenu& menu) override { popup = menu; }
+    void show_mnuPopup(const interaction::PopupMenu& menu) override {
+        popup = menu;
+        if (while_showing_menu)
+            while_showing_menu();
+    }
     void begin_drag() override { ++drags; }
     void show_drag_icon(interaction::DragIcon icon) override { drag_icon = static_cast<int>(icon); }
     int ask_activity_change() override {
@@ -38,7 +42,7 @@ public:
     std::optional<interaction::PopupMenu> popup;
     int drags = 0, drag_icon = 0, questions = 0, minimised = 0, switched_to = -1;
     std::deque<int> answers;
-    std::function<void()> while_asking;
+    std::function<void()> while_asking, while_showing_menu;
 };
 
 // What the user does with a grid over a real database: the week of Sunday, 7 to Saturday, 13 January 2024, now

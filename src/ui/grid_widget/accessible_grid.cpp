@@ -149,13 +149,15 @@ void tell_screen_readers(GridWidget& widget, const GridNews& news,
         event.setLastColumn(model.Cols() - 1);
         tell(&event);
     }
-    if (!news.current)
-        return;
     QAccessibleInterface* table = QAccessible::queryAccessibleInterface(&widget);
     QAccessibleInterface* cell = table->tableInterface()->cellAt(model.Row(), model.Col());
-    QAccessibleEvent selection(cell, QAccessible::Selection);
-    tell(&selection);
-    if (widget.hasFocus()) {
+    const bool several = table->tableInterface()->selectedCellCount() > 1;
+    if (news.selection) {
+        QAccessibleEvent selection(several ? table : cell,
+                                   several ? QAccessible::SelectionWithin : QAccessible::Selection);
+        tell(&selection);
+    }
+    if (news.focus && widget.hasFocus()) {
         QAccessibleEvent focus(cell, QAccessible::Focus);
         tell(&focus);
     }

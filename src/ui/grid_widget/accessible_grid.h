@@ -11,8 +11,9 @@ class GridWidget;
 // What a turn of the event loop has changed.
 struct GridNews {
     bool cells = false;
-    bool size = false;    // the number of rows or columns
-    bool current = false; // the current cell, the selection, or the focus
+    bool size = false; // the number of rows or columns
+    bool selection = false;
+    bool focus = false; // the current cell is another one, or the grid has got the focus
 };
 
 // Makes screen readers find a grid widget as a table: its cells by row and column, fixed ones included, the fixed

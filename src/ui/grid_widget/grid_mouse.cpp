@@ -11,6 +11,10 @@ namespace ui {
 
 namespace {
 
+// Milliseconds for a row or column while the grid scrolls by itself.
+constexpr int selection_interval = 60, drag_interval = 150;
+constexpr int drag_reach = 24; // pixels from an edge at which a drag scrolls
+
 int button_number(Qt::MouseButton button) {
     switch (button) {
     case Qt::LeftButton:
@@ -84,14 +88,13 @@ void GridWidget::mouseMoveEvent(QMouseEvent* event) {
     if (sizer_.is_sizing() && is_pressed) {
         sizer_.move_to(place);
     } else if (is_dragging_) {
-        const QPoint twips = to_twips(place);
-        emit drag_moved(twips.x(), twips.y());
+        if (!dragged_cell_.contains(place))
+            dragged_cell_ = {};
+        tell_drag_moved();
+        scroll_if_at_edge();
     } else if (is_selecting_ && is_pressed) {
         extend_selection_to(place);
-        if (cells_rect().contains(place))
-            scroll_timer_.stop();
-        else if (!scroll_timer_.isActive())
-            scroll_timer_.start();
+        scroll_if_at_edge();
     } else {
         update_pointer(place);
     }
@@ -137,13 +140,42 @@ QRect GridWidget::cells_rect() const {
     return viewport()->rect().adjusted(cols().fixed_end(), rows().fixed_end(), 0, 0);
 }
 
-void GridWidget::scroll_towards(QPoint place) {
+// By columns and rows, -1 back and 1 on: for a selection that is drawn beyond the view, for a drag already near
+// its edge. A drag that has not left its own cell doesn't scroll, or a click in the last row could move an
+// activity.
+QPoint GridWidget::scroll_direction() const {
     const QRect cells = cells_rect();
-    const auto step = [](int at, int begin, int end) { return at < begin ? -1 : at > end ? 1 : 0; };
+    if (is_dragging_ && !dragged_cell_.isEmpty())
+        return {};
+    const auto direction = [this](int at, int begin, int end) {
+        const int reach = is_dragging_ ? std::min(drag_reach, (end - begin) / 4) : 0;
+        return at < begin + reach ? -1 : at > end - reach ? 1 : 0;
+    };
+    return {direction(pointer_.x(), cells.left(), cells.right()),
+            direction(pointer_.y(), cells.top(), cells.bottom())};
+}
+
+void GridWidget::scroll_if_at_edge() {
+    if (scroll_direction().isNull())
+        scroll_timer_.stop();
+    else if (!scroll_timer_.isActive())
+        scroll_timer_.start(is_dragging_ ? drag_interval : selection_interval);
+}
+
+void GridWidget::scroll_on() {
+    const QPoint direction = scroll_direction();
     const auto scroll = [](QScrollBar* bar, int lines) { bar->setValue(bar->value() + lines); };
-    scroll(horizontalScrollBar(), step(place.x(), cells.left(), cells.right()));
-    scroll(verticalScrollBar(), step(place.y(), cells.top(), cells.bottom()));
-    extend_selection_to(place);
+    scroll(horizontalScrollBar(), direction.x());
+    scroll(verticalScrollBar(), direction.y());
+    if (is_dragging_)
+        tell_drag_moved();
+    else
+        extend_selection_to(pointer_);
+}
+
+void GridWidget::tell_drag_moved() {
+    const QPoint twips = to_twips(pointer_);
+    emit drag_moved(twips.x(), twips.y());
 }
 
 void GridWidget::update_pointer(QPoint place) {
@@ -156,6 +188,8 @@ void GridWidget::update_pointer(QPoint place) {
 void GridWidget::begin_drag() {
     is_dragging_ = true;
     is_selecting_ = false;
+    dragged_cell_ = cell_rect(model_.Row(), model_.Col());
+    bars_at_drag_ = {horizontalScrollBar()->value(), verticalScrollBar()->value()};
     show_drop_permitted(true);
 }
 
@@ -172,8 +206,11 @@ void GridWidget::end_drag() {
 void GridWidget::abandon_mouse_work() {
     if (sizer_.is_sizing())
         sizer_.abandon();
-    if (is_dragging_)
+    if (is_dragging_) {
         end_drag();
+        horizontalScrollBar()->setValue(bars_at_drag_.x());
+        verticalScrollBar()->setValue(bars_at_drag_.y());
+    }
     is_selecting_ = false;
     scroll_timer_.stop();
 }

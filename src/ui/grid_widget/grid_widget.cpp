@@ -14,8 +14,6 @@ namespace ui {
 
 namespace {
 
-constexpr int scroll_interval = 60; // milliseconds for a row while a selection is drawn beyond the view
-
 // The line at a position among the scrollable ones; the present one when there is none.
 int scrolled_line(const PixelLines& lines, int position, int present) {
     const auto& scrollable = lines.scrollable();
@@ -28,15 +26,15 @@ int scrolled_line(const PixelLines& lines, int position, int present) {
 
 GridWidget::GridWidget(grid::GridModel& model, QWidget* parent)
     : QAbstractScrollArea(parent), model_(model), painter_(font()), sizer_(model),
-      told_size_(model.Cols(), model.Rows()) {
+      told_size_(model.Cols(), model.Rows()), told_current_(model.Col(), model.Row()),
+      told_far_end_(model.ColSel(), model.RowSel()) {
     install_grid_accessibility();
     setFocusPolicy(Qt::StrongFocus);
     setFrameShape(QFrame::NoFrame);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
     viewport()->setMouseTracking(true);
-    scroll_timer_.setInterval(scroll_interval);
-    connect(&scroll_timer_, &QTimer::timeout, this, [this] { scroll_towards(pointer_); });
+    connect(&scroll_timer_, &QTimer::timeout, this, &GridWidget::scroll_on);
     model_.add_observer(*this);
     sync_scroll_bars();
 }
@@ -62,12 +60,15 @@ void GridWidget::grid_changed(grid::GridChange change) {
         shape_changed_ = lines_are_stale_ = true;
         break;
     case grid::GridChange::current:
-        current_changed_ = true;
         break;
     case grid::GridChange::redraw:
         viewport()->setUpdatesEnabled(!is_locked_ && model_.Redraw());
         break;
     }
+    settle_soon();
+}
+
+void GridWidget::settle_soon() {
     if (settle_is_due_)
         return;
     settle_is_due_ = true;
@@ -78,12 +79,28 @@ void GridWidget::settle() {
     settle_is_due_ = false;
     if (shape_changed_)
         sync_scroll_bars();
-    const QSize size(model_.Cols(), model_.Rows());
-    if (QAccessible::isActive())
-        tell_screen_readers(*this, {cells_changed_, size != told_size_, current_changed_});
-    told_size_ = size;
-    cells_changed_ = shape_changed_ = current_changed_ = false;
+    tell_what_is_new();
+    cells_changed_ = shape_changed_ = focus_came_ = false;
     viewport()->update();
+}
+
+// A refresh moves the current cell about and back again, of which nobody needs to hear.
+void GridWidget::tell_what_is_new() {
+    const QSize size(model_.Cols(), model_.Rows());
+    const QPoint current(model_.Col(), model_.Row()), far_end(model_.ColSel(), model_.RowSel());
+    const bool is_reshaped = size != told_size_;
+    tell({.cells = cells_changed_,
+          .size = is_reshaped,
+          .selection = current != told_current_ || far_end != told_far_end_,
+          .focus = current != told_current_ || is_reshaped || focus_came_});
+    told_size_ = size;
+    told_current_ = current;
+    told_far_end_ = far_end;
+}
+
+void GridWidget::tell(const GridNews& news) {
+    if (QAccessible::isActive())
+        tell_screen_readers(*this, news);
 }
 
 void GridWidget::refresh_lines() const {
@@ -176,13 +193,13 @@ void GridWidget::changeEvent(QEvent* event) {
 
 void GridWidget::focusInEvent(QFocusEvent* event) {
     QAbstractScrollArea::focusInEvent(event);
-    if (QAccessible::isActive())
-        tell_screen_readers(*this, {.current = true});
-    viewport()->update();
+    focus_came_ = true; // the cell is told behind the widget itself, so that it is what is spoken last
+    settle_soon();
 }
 
 void GridWidget::focusOutEvent(QFocusEvent* event) {
     QAbstractScrollArea::focusOutEvent(event);
+    abandon_mouse_work();
     viewport()->update();
 }
 
@@ -196,7 +213,8 @@ void GridWidget::keyPressEvent(QKeyEvent* event) {
     switch (event->key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        emit double_clicked();
+        if (show_current_cell())
+            emit double_clicked();
         break;
     case Qt::Key_Escape:
         abandon_mouse_work();
@@ -220,8 +238,15 @@ void GridWidget::contextMenuEvent(QContextMenuEvent* event) {
     event->accept();
 }
 
-void GridWidget::request_menu() {
+// A key means the current cell, so it has to be seen. False for one in a hidden row or column.
+bool GridWidget::show_current_cell() {
     make_visible(model_.Row(), model_.Col());
+    return !cell_rect(model_.Row(), model_.Col()).isEmpty();
+}
+
+void GridWidget::request_menu() {
+    if (!show_current_cell())
+        return;
     const QPoint middle = to_twips(cell_rect(model_.Row(), model_.Col()).center());
     emit menu_requested(middle.x(), middle.y());
 }

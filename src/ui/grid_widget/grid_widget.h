@@ -12,6 +12,8 @@
 
 namespace ui {
 
+struct GridNews;
+
 // Shows a grid model and brings the user's mouse and keys to it. However much of the model changes, it is painted
 // once an event-loop turn. The model outlives the widget.
 //
@@ -40,7 +42,8 @@ public:
     void paint_whole(QPainter& painter);
     QSize whole_size() const; // pixels
 
-    // The user draws a cell from the press on until the button is let go, or until Escape.
+    // The user draws the current cell from the press on until the button is let go. At an edge of the view the
+    // grid scrolls. Escape, or somebody else's getting the focus, gives the drag up and scrolls back.
     void begin_drag();
     bool is_dragging() const { return is_dragging_; }
     // What the pointer says while the user drags.
@@ -74,11 +77,15 @@ protected:
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
     QSize viewportSizeHint() const override;
+    // Hands what is new to screen readers, where one listens.
+    virtual void tell(const GridNews& news);
 
 private:
     void grid_changed(grid::GridChange change) override;
-    // Brings scroll bars, screen and screen readers up to date with the model.
+    // Brings scroll bars, screen and screen readers up to date with the model, in the event loop's next turn.
+    void settle_soon();
     void settle();
+    void tell_what_is_new();
     void sync_scroll_bars();
     const PixelLines& rows() const;
     const PixelLines& cols() const;
@@ -88,25 +95,33 @@ private:
     void press_left(QPoint place, bool extends);
     void extend_selection_to(QPoint place);
     QRect cells_rect() const;
-    void scroll_towards(QPoint place);
+    QPoint scroll_direction() const;
+    void scroll_if_at_edge();
+    void scroll_on();
+    void tell_drag_moved();
     void update_pointer(QPoint place);
     void end_drag();
     void abandon_mouse_work();
+    bool show_current_cell();
     void request_menu();
 
     grid::GridModel& model_;
     GridPainter painter_;
     LineSizer sizer_;
-    QTimer scroll_timer_; // while a selection is drawn beyond the view
+    QTimer scroll_timer_; // while a selection is drawn beyond the view or something is dragged to its edge
     QPoint pointer_;      // where the pointer was last, in the viewport
+    QRect dragged_cell_;  // where the cell lies that is dragged, until the pointer has left it
+    QPoint bars_at_drag_; // the scroll bars' values when the drag began
     mutable PixelLines rows_, cols_;
     mutable bool lines_are_stale_ = true;
-    QSize told_size_; // columns and rows that screen readers know of
+    // What screen readers know of: columns and rows, current cell, far end of the selection.
+    QSize told_size_;
+    QPoint told_current_, told_far_end_;
     bool is_locked_ = false;
     bool is_selecting_ = false;
     bool is_dragging_ = false;
     bool settle_is_due_ = false;
-    bool cells_changed_ = false, shape_changed_ = false, current_changed_ = false; // since the last settle
+    bool cells_changed_ = false, shape_changed_ = false, focus_came_ = false; // since the last settle
 };
 
 } // namespace ui

@@ -4,6 +4,7 @@
 
 #include <QAccessible>
 #include <QAccessibleTableInterface>
+#include <QLineEdit>
 #include <gtest/gtest.h>
 
 namespace {
@@ -123,14 +124,20 @@ TEST(AccessibleGrid, HasTheCurrentCellForItsFocus) {
 TEST(AccessibleGrid, TellsOfTheCurrentCell) {
     ReadGrid grid;
     grid.model.Row(4);
-    EXPECT_EQ(grid.tell({.current = true}),
+    EXPECT_EQ(grid.tell({.selection = true, .focus = true}),
               (std::vector<Told>{{QAccessible::Selection, 4, 2}, {QAccessible::Focus, 4, 2}}));
+}
+
+TEST(AccessibleGrid, TellsOfSeveralSelectedCellsAsATable) {
+    ReadGrid grid;
+    grid.model.RowSel(4);
+    EXPECT_EQ(grid.tell({.selection = true}), (std::vector<Told>{{QAccessible::SelectionWithin}}));
 }
 
 TEST(AccessibleGrid, ClaimsNoFocusThatItHasNot) {
     ReadGrid grid;
     grid.widget->clearFocus();
-    EXPECT_EQ(grid.tell({.current = true}), (std::vector<Told>{{QAccessible::Selection, 1, 2}}));
+    EXPECT_EQ(grid.tell({.selection = true, .focus = true}), (std::vector<Told>{{QAccessible::Selection, 1, 2}}));
     EXPECT_EQ(grid.node()->focusChild(), nullptr);
 }
 
@@ -153,6 +160,94 @@ TEST(AccessibleGrid, StartsAfreshWithAnotherNumberOfRows) {
 TEST(AccessibleGrid, TellsNothingWhenNothingHasChanged) {
     const ReadGrid grid;
     EXPECT_TRUE(grid.tell({}).empty());
+}
+
+// Hands to a list what it would tell a screen reader.
+class TellingWidget : public ui::GridWidget {
+public:
+    TellingWidget(grid::GridModel& model, std::vector<Told>& heard) : GridWidget(model), heard_(heard) {}
+
+private:
+    void tell(const ui::GridNews& news) override {
+        ui::tell_screen_readers(*this, news, [this](QAccessibleEvent* event) {
+            Told told{event->type()};
+            if (const auto* cell = event->accessibleInterface()->tableCellInterface()) {
+                told.row = cell->rowIndex();
+                told.col = cell->columnIndex();
+            }
+            if (told.type != QAccessible::TableModelChanged)
+                heard_.push_back(told);
+        });
+    }
+
+    std::vector<Told>& heard_;
+};
+
+// What is told of the current cell and the selection, in order.
+class Spoken : public testing::Test {
+protected:
+    Spoken() {
+        grid.widget = std::make_unique<TellingWidget>(grid.model, heard);
+        grid.show();
+        hear();
+    }
+    std::vector<Told> hear() {
+        ShownGrid::settle();
+        return std::exchange(heard, {});
+    }
+
+    std::vector<Told> heard;
+    ReadGrid grid;
+};
+
+TEST_F(Spoken, AnArrowKeySpeaksTheCellThatItLeadsTo) {
+    grid.press_key(Qt::Key_Down);
+    EXPECT_EQ(hear(), (std::vector<Told>{{QAccessible::Selection, 2, 2}, {QAccessible::Focus, 2, 2}}));
+    EXPECT_TRUE(grid.table()->cellAt(2, 2)->state().focused);
+    EXPECT_TRUE(grid.table()->cellAt(2, 2)->state().selected);
+    EXPECT_FALSE(grid.table()->cellAt(1, 2)->state().focused);
+    EXPECT_FALSE(grid.table()->cellAt(1, 2)->state().selected);
+}
+
+TEST_F(Spoken, ShiftAndAnArrowKeySpeakTheSelectionAndLeaveTheCurrentCell) {
+    grid.press_key(Qt::Key_Down, Qt::ShiftModifier);
+    grid.press_key(Qt::Key_Right, Qt::ShiftModifier);
+    EXPECT_EQ(hear(), (std::vector<Told>{{QAccessible::SelectionWithin}}));
+    EXPECT_TRUE(grid.table()->cellAt(2, 3)->state().selected);
+    EXPECT_FALSE(grid.table()->cellAt(2, 3)->state().focused);
+    EXPECT_TRUE(grid.table()->cellAt(1, 2)->state().focused);
+    EXPECT_EQ(grid.table()->selectedCellCount(), 4);
+}
+
+TEST_F(Spoken, AClickSpeaksTheCellUnderIt) {
+    QTest::mouseClick(grid.view(), Qt::LeftButton, {}, grid.middle_of(3, 4));
+    EXPECT_EQ(hear(), (std::vector<Told>{{QAccessible::Selection, 3, 4}, {QAccessible::Focus, 3, 4}}));
+}
+
+TEST_F(Spoken, ACurrentCellThatMovesAboutAndComesBackSaysNothing) {
+    for (int row = 1; row < 10; ++row)
+        write(grid.model, row, 3, "changed");
+    EXPECT_TRUE(hear().empty());
+}
+
+TEST_F(Spoken, AGridOfAnotherSizeSpeaksItsCurrentCellAgain) {
+    grid.model.Rows(20);
+    EXPECT_EQ(hear(), (std::vector<Told>{{QAccessible::Focus, 1, 2}}));
+}
+
+TEST_F(Spoken, TheFocusThatComesToTheGridSpeaksItsCurrentCell) {
+    QLineEdit other;
+    other.show();
+    other.activateWindow();
+    other.setFocus();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !grid.widget->hasFocus(); }));
+    hear();
+    grid.model.Row(5);
+    EXPECT_EQ(hear(), (std::vector<Told>{{QAccessible::Selection, 5, 2}})) << "without the focus";
+    grid.widget->activateWindow();
+    grid.widget->setFocus();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return grid.widget->hasFocus(); }));
+    EXPECT_EQ(hear(), (std::vector<Told>{{QAccessible::Focus, 5, 2}}));
 }
 
 } // namespace

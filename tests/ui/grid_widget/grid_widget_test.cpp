@@ -203,6 +203,27 @@ TEST(GridWidget, TakesEnterForTheDoubleClick) {
     EXPECT_EQ(clicks, 2);
 }
 
+TEST(GridWidget, ShowsTheCurrentCellBeforeEnterIsTaken) {
+    ShownGrid grid;
+    grid.model.Row(30);
+    grid.press_key(Qt::Key_Return);
+    EXPECT_FALSE(grid.widget->cell_rect(30, 2).isEmpty());
+}
+
+TEST(GridWidget, TakesNoKeyForACellOfAHiddenColumn) {
+    ShownGrid grid;
+    int told = 0;
+    QObject::connect(grid.widget.get(), &ui::GridWidget::double_clicked, [&told] { ++told; });
+    QObject::connect(grid.widget.get(), &ui::GridWidget::menu_requested, [&told] { ++told; });
+    grid.model.ColWidth(2, 0);
+    grid.press_key(Qt::Key_Return);
+    grid.press_key(Qt::Key_F10, Qt::ShiftModifier);
+    EXPECT_EQ(told, 0);
+    grid.press_key(Qt::Key_Right);
+    grid.press_key(Qt::Key_Return);
+    EXPECT_EQ(told, 1);
+}
+
 TEST(GridWidget, TellsOfEscape) {
     ShownGrid grid;
     int escapes = 0;

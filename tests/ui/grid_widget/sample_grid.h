@@ -39,7 +39,8 @@ struct ShownGrid {
     grid::GridModel model = sample_model();
     std::unique_ptr<ui::GridWidget> widget = std::make_unique<ui::GridWidget>(model);
 
-    ShownGrid() {
+    ShownGrid() { show(); }
+    void show() const {
         widget->resize(640, 400);
         widget->show();
         widget->activateWindow();

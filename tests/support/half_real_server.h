@@ -18,6 +18,8 @@ public:
     }
     std::unique_ptr<act::AuxCommands> create_aux_commands() override { return fakes_.create_aux_commands(); }
 
+    const FakeApplicationState& application() const { return state_; }
+
 private:
     std::string database_;
     FakeActData data_;

@@ -178,8 +178,11 @@ Value ActivityList::Data(int field) const {
 void ActivityList::Data(int field, const Value& value) {
     if (!draft_)
         throw Failure(FailureNumber::automation, "No activity is being edited.");
+    const int duration = draft_->duration;
     set_field(*draft_, field, value, session_->locale());
-    written_.insert(field);
+    // A duration that a stored activity has already says nothing about its end.
+    if (field != act::activity_field::duration || draft_->id.empty() || draft_->duration != duration)
+        written_.insert(field);
 }
 
 bool ActivityList::HasDetails() const {

@@ -6,23 +6,22 @@
 namespace interaction {
 
 bool InstanceEditor::Edit_Instance(std::string& id, act::CommandNumber command) {
-    const bool is_instance = !is_first_occurrence(id);
-    if (is_instance) {
-        const grid::CellReference cell = here_.selection.SelectedCell;
-        id = here_.instances.Change_Instance(*cell, *cell, values::to_int32(cell->Duration()));
-    }
+    // As it was clicked: dialog and question run the event loop, and a refresh can empty the grid's own record.
+    const grid::clsMsgSchedCell cell = here_.selection.selected();
+    const bool is_instance = !is_first_occurrence(id, cell);
+    if (is_instance)
+        id = here_.instances.Change_Instance(cell, cell, values::to_int32(cell.Duration()));
     here_.launcher.Select_and_Launch_Command(id, command, true, false, false);
-    return is_instance ? settle(id) : true;
+    return is_instance ? settle(id, cell) : true;
 }
 
-bool InstanceEditor::is_first_occurrence(const std::string& id) const {
+bool InstanceEditor::is_first_occurrence(const std::string& id, const grid::clsMsgSchedCell& cell) const {
     here_.session.ActActivity->Goto(id);
     const auto start = values::date_of(here_.session.ActActivity->Data(act::activity_field::start), here_.locale);
-    return start && start->date() == here_.selection.selected().DateDay();
+    return start && start->date() == cell.DateDay();
 }
 
-bool InstanceEditor::settle(const std::string& instance) {
-    const grid::CellReference cell = here_.selection.SelectedCell; // the question runs the event loop
+bool InstanceEditor::settle(const std::string& instance, const grid::clsMsgSchedCell& cell) {
     bool refresh_needed = false;
     switch (here_.instances.Compare_Instance(instance)) {
     case InstanceChange::none:
@@ -39,13 +38,13 @@ bool InstanceEditor::settle(const std::string& instance) {
         case ActivityChange::this_instance:
             return true;
         case ActivityChange::all_instances:
-            here_.instances.Apply_To_Series(instance, cell->ActivityID());
+            here_.instances.Apply_To_Series(instance, cell.ActivityID());
             refresh_needed = true;
             break;
         }
         break;
     }
-    here_.instances.Delete_Instance(instance, *cell);
+    here_.instances.Delete_Instance(instance, cell);
     return refresh_needed;
 }
 

@@ -32,8 +32,8 @@ public:
     bool Edit_Instance(std::string& id, act::CommandNumber command);
 
 private:
-    bool is_first_occurrence(const std::string& id) const;
-    bool settle(const std::string& instance);
+    bool is_first_occurrence(const std::string& id, const grid::clsMsgSchedCell& cell) const;
+    bool settle(const std::string& instance, const grid::clsMsgSchedCell& cell);
 
     Needs here_;
 };

@@ -106,7 +106,10 @@ void Instances::Apply_To_Series(const std::string& instance, const std::string& 
     activity().RecurringChangeMode(false);
     write_fields(activity(), fields);
     activity().Update();
-    schedule_with(contacts);
+    // Whom the user took out of the instance goes from the series as well.
+    const int kept = schedule_with(contacts);
+    for (int count = values::int32_of(activity().Data(field::contact_count)); count > kept; --count)
+        activity().NextScheduledWith("");
 }
 
 void Instances::Delete_Instance(const std::string& id, const grid::clsMsgSchedCell& cell) {
@@ -123,13 +126,16 @@ ScheduledWith Instances::scheduled_with() const {
     return contacts;
 }
 
-void Instances::schedule_with(const ScheduledWith& contacts) {
+int Instances::schedule_with(const ScheduledWith& contacts) {
+    int count = contacts.first.empty() ? 0 : 1;
     activity().FirstScheduledWith(contacts.first);
     for (const std::string& contact : contacts.further) {
         if (values::length(contact) != values::id_length)
             break;
         activity().NextScheduledWith(contact);
+        ++count;
     }
+    return count;
 }
 
 // A row that belongs to nobody leaves the occurrence with the series' user.

@@ -56,7 +56,7 @@ public:
 private:
     act::Activity& activity() const { return *session_.ActActivity; }
     ScheduledWith scheduled_with() const;
-    void schedule_with(const ScheduledWith& contacts);
+    int schedule_with(const ScheduledWith& contacts); // gives how many those are
     std::string user_of(const grid::clsMsgSchedCell& cell) const;
     std::string text(int field) const;
 

@@ -35,6 +35,18 @@ void ignoring_failure(Statement&& statement) {
     }
 }
 
+// Puts back what the work changed, also when it fails; its failure is then the one to tell.
+template <typename Work, typename PutBack>
+void and_put_back(Work&& work, PutBack&& put_back) {
+    try {
+        work();
+    } catch (...) {
+        ignoring_failure(put_back);
+        throw;
+    }
+    put_back();
+}
+
 } // namespace
 
 void Launcher::Setup_ActivityWin(const grid::clsMsgSchedCell& cell, const std::string& type) {
@@ -69,40 +81,42 @@ void Launcher::Select_and_Launch_Command(const std::string& id, act::CommandNumb
                                          bool showCleared, bool startCompanion) {
     here_.guarded("in frmMain: Sub Select_and_Launch_Command - Line # ", [&](host::Step& step) {
         step = 10;
-        here_.session.ActActivity->Goto(id);
-        step = 20;
-        const int mask = mask_of_type(values::int16_of(here_.session.ActActivity->Data(field::type))) |
-                         (showCleared ? cleared_bit : 0);
-        step = 30;
-        show_contact(text(field::contact));
-        step = 40;
-        act::ContactView& view = *here_.session.ActContactView;
-        const std::string tab = view.GetActiveTab();
-        step = 50;
-        view.SetActiveTab("Activities");
-        act::ActivityList& list = view.Activities();
-        step = 60;
-        const act::ListFilter users_own = list.GetFilter();
-        step = 70;
-        list.SetFilter({mask, allDates ? all_dates : dates_shown(), text(field::scheduled_for)});
-        step = 80;
-        const auto put_back = [&] {
-            list.SetFilter(users_own);
-            view.SetActiveTab(tab);
-        };
-        try {
-            run_selected(list, command, startCompanion);
-        } catch (...) {
-            ignoring_failure(put_back); // the first failure is the one to tell
-            throw;
+        if (here_.session.ActActivity->Goto(id)) { // what is gone stands in no list
+            step = 20;
+            const int mask = mask_of_type(values::int16_of(here_.session.ActActivity->Data(field::type))) |
+                             (showCleared ? cleared_bit : 0);
+            step = 30;
+            show_contact(text(field::contact));
+            step = 40;
+            run_in_list(command, allDates, mask, startCompanion, step);
         }
-        step = 90;
-        put_back();
         step = 100;
         here_.window.unlock_updates();
         step = 110;
         here_.window.bring_to_front();
     });
+}
+
+void Launcher::run_in_list(act::CommandNumber command, bool allDates, int mask, bool startCompanion,
+                           host::Step& step) {
+    act::ContactView& view = *here_.session.ActContactView;
+    const std::string tab = view.GetActiveTab();
+    const auto in_own_filter = [&] {
+        step = 50;
+        view.SetActiveTab("Activities");
+        act::ActivityList& list = view.Activities();
+        step = 60;
+        const act::ListFilter users_own = list.GetFilter();
+        const auto run = [&] {
+            step = 70;
+            list.SetFilter({mask, allDates ? all_dates : dates_shown(), text(field::scheduled_for)});
+            step = 80;
+            run_selected(list, command, startCompanion);
+            step = 90;
+        };
+        and_put_back(run, [&] { list.SetFilter(users_own); });
+    };
+    and_put_back(in_own_filter, [&] { view.SetActiveTab(tab); });
 }
 
 // The view may stand on another page of ACT!, and then doesn't follow.

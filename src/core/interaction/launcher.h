@@ -41,6 +41,8 @@ public:
 private:
     void start_companion();
     void show_contact(const std::string& contact);
+    // Shows the list of activities under that mask for the command alone.
+    void run_in_list(act::CommandNumber command, bool allDates, int mask, bool startCompanion, host::Step& step);
     std::string dates_shown() const;
     void run_selected(act::ActivityList& list, act::CommandNumber command, bool startCompanion);
     std::string text(int field) const;

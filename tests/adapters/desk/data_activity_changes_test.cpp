@@ -198,6 +198,21 @@ TEST_F(ActivityChanges, EditsTheRecordAsItIsInTheStoreEvenWhenTheListIsOlder) {
     EXPECT_EQ(store.activity(changed)->regarding, "mine");
 }
 
+TEST_F(ActivityChanges, LeavesTheEndOfAStoredActivityForADurationThatItHasAlready) {
+    store::Activity activity = daily("series");
+    activity.end = activity.start->plus_minutes(180); // longer than the duration says
+    const std::string changed = store.add(activity);
+    list->Goto(changed);
+    list->Edit();
+    list->Data(field::duration, std::int64_t(60));
+    list->Update();
+    EXPECT_EQ(store.activity(changed)->end, activity.end);
+    list->Edit();
+    list->Data(field::duration, std::int64_t(90));
+    list->Update();
+    EXPECT_EQ(store.activity(changed)->end, activity.start->plus_minutes(90));
+}
+
 TEST_F(ActivityChanges, StoresNothingWhenAFieldNamesWhatThereIsNot) {
     const std::string changed = store.add(meeting("monday"));
     list->Goto(changed);

@@ -153,6 +153,24 @@ public:
         hands.drag_drop.msgSched_DragDrop(x(to_col), y(to_row));
     }
 
+    // Runs the work once, before the first call that begins so is carried out.
+    void before_call(const std::string& beginning, const std::function<void()>& work) {
+        record.before = [this, beginning, work](const std::string& call) {
+            if (!call.starts_with(beginning))
+                return;
+            const auto once = work; // the next line ends what this function captured
+            record.before = nullptr;
+            once();
+        };
+    }
+    void fail_before(const std::string& beginning, const std::string& sentence = "The desk has gone.") {
+        before_call(beginning, [sentence] { throw values::Failure(values::FailureNumber::automation, sentence); });
+    }
+    // The text of the box that was shown, when it was one.
+    std::string only_box() const {
+        return box.shown.size() == 1 ? box.shown[0].text : std::to_string(box.shown.size()) + " boxes";
+    }
+
     void forget() {
         record.calls.clear();
         box.shown.clear();

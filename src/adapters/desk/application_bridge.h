@@ -20,6 +20,8 @@ class Link;
 std::shared_ptr<Link> make_link(const QDBusConnection& bus);
 // Whether a command waits right now, so that a timer of the program can stay away from the procedure under way.
 bool command_waits(const Link& link);
+// A command that waits returns as if its dialog had been closed, which stays open: for a program that has to end.
+void abandon_command(Link& link);
 
 // Both fail with 429 when the desk isn't running.
 std::unique_ptr<act::Application> make_application(std::shared_ptr<Link> link);

@@ -100,9 +100,14 @@ void Link::wait_for(act::CommandNumber number) {
         else
             loop.quit();
     });
+    bool is_abandoned = false;
+    connect(this, &Link::abandoned, &loop, [&] {
+        is_abandoned = true;
+        loop.quit();
+    });
     loop.exec();
 
-    if (closing && !desk_runs())
+    if (is_abandoned || (closing && !desk_runs()))
         return;
     if (!reply.isFinished() || is_lost(reply.error()))
         throw Failure(FailureNumber::automation, "The contact desk ended before its dialog was closed.");
@@ -113,5 +118,7 @@ void Link::wait_for(act::CommandNumber number) {
 std::shared_ptr<Link> make_link(const QDBusConnection& bus) { return std::make_shared<Link>(bus); }
 
 bool command_waits(const Link& link) { return link.waits(); }
+
+void abandon_command(Link& link) { link.abandon(); }
 
 } // namespace desk

@@ -38,10 +38,12 @@ public:
     // As act::Application::Command, see application_bridge.h.
     void run(act::CommandNumber number);
     bool waits() const { return waits_; }
+    void abandon() { emit abandoned(); } // the wait, see application_bridge.h
 
 signals:
     void desk_gone(); // it has left the bus, or the bus has ended
     void wait_ended();
+    void abandoned();
 
 private:
     void wait_for(act::CommandNumber number);

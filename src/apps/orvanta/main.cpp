@@ -58,7 +58,10 @@ int main(int argc, char** argv) {
     const auto load = [&] {
         window.load();
         // Not before, as what isn't loaded yet would be stored over the state of the last time.
-        end_requests = qt::make_end_requests([&window] { window.unload(); });
+        end_requests = qt::make_end_requests([&] {
+            window.unload_at_once();
+            desk::abandon_command(*link);
+        });
     };
     QMetaObject::invokeMethod(&window, load, Qt::QueuedConnection);
     return QApplication::exec();

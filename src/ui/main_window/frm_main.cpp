@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QMessageBox>
 #include <QThread>
 #include <QTimer>
 
@@ -23,6 +24,12 @@ std::unique_ptr<Ui::frmMain> make_controls(QMainWindow& window) {
 
 // Inside a loop of its own, such as a box's, somebody waits whom the end must not surprise.
 bool a_procedure_waits() { return QThread::currentThread()->loopLevel() > 1; }
+
+// It tells why something failed, such as the end of the contact manager that is the reason to end as well.
+bool only_tells(const QWidget* window) {
+    const auto* box = qobject_cast<const QMessageBox*>(window);
+    return box && box->buttons().size() == 1;
+}
 
 } // namespace
 
@@ -88,6 +95,11 @@ void frmMain::unload() {
     finish_unload();
 }
 
+void frmMain::unload_at_once() {
+    is_in_haste_ = true;
+    unload();
+}
+
 void frmMain::finish_unload() {
     if (!a_procedure_waits()) {
         calendar_.closing.Form_Unload();
@@ -96,7 +108,7 @@ void frmMain::finish_unload() {
     // The closing of a dialog can ask in a box of its own, which the next try closes.
     QTimer::singleShot(retry_milliseconds, this, [this] { finish_unload(); });
     for (QWidget* waiting : {QApplication::activePopupWidget(), QApplication::activeModalWidget()})
-        if (waiting)
+        if (waiting && (is_in_haste_ || !only_tells(waiting)))
             waiting->close();
 }
 

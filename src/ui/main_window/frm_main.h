@@ -23,8 +23,11 @@ public:
     // Brings the calendar up, and shows the window unless the start was stopped. Called from the event loop, so
     // that it can end it.
     void load();
-    // Raises Form_Unload, the first time; while a procedure waits in a box, once that is over, and closes the box.
+    // Raises Form_Unload, the first time; while a procedure waits in a box, once that is over. A box that asks is
+    // closed for it, one that only tells stays until the user has read it.
     void unload();
+    // The same for one who can't wait for the user: every box is closed.
+    void unload_at_once();
 
     WindowFace& face() { return face_; }
     shell::Calendar& calendar() { return calendar_; }
@@ -49,6 +52,7 @@ private:
     std::unique_ptr<GridWidget> msgSched_;
     GridHands hands_;
     bool is_unloading_ = false;
+    bool is_in_haste_ = false;
     bool update_is_due_ = false;
 };
 

@@ -57,6 +57,27 @@ TEST_F(Command, FailsWhileAnotherOneWaits) {
     EXPECT_EQ(second, "440 The contact desk is still busy with another command.");
 }
 
+TEST_F(Command, ReturnsWhenItIsAbandonedThoughTheDialogIsStillOpen) {
+    QTimer::singleShot(100, [&] { desk::abandon_command(*link); });
+    EXPECT_EQ(failure_text([&] { link->run(CommandNumber::edit_activity); }), "");
+    EXPECT_FALSE(link->waits());
+    EXPECT_TRUE(link->desk_runs());
+    finish();
+    QTimer::singleShot(100, [&] { finish(); });
+    link->run(CommandNumber::edit_activity); // the next one waits for its own dialog
+}
+
+TEST_F(Command, NoticesNoAbandonmentWhileNoneWaits) {
+    desk::abandon_command(*link);
+    bool closed = false;
+    QTimer::singleShot(100, [&] {
+        closed = true;
+        finish();
+    });
+    link->run(CommandNumber::edit_activity);
+    EXPECT_TRUE(closed);
+}
+
 class PaintCounter : public QWidget {
 public:
     int count = 0;

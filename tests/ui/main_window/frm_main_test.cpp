@@ -10,7 +10,9 @@
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
+#include <QMessageBox>
 #include <QPushButton>
+#include <QTest>
 #include <QTimer>
 #include <QToolButton>
 #include <gtest/gtest.h>
@@ -37,11 +39,14 @@ protected:
     }
     // The database closes while a procedure waits for the user; the end that wants to come ends the waiting.
     void close_database_while(const std::function<void()>& waits) {
+        end_while([this] { events.OnDatabaseClose(); }, waits);
+    }
+    void end_while(const std::function<void()>& end, const std::function<void()>& waits) {
         QEventLoop outer;
         int ends_while_it_waits = -1, ends_behind_it = -1;
         QTimer::singleShot(0, &window, [&] {
             QTimer::singleShot(0, &window, [&] {
-                events.OnDatabaseClose();
+                end();
                 ends_while_it_waits = program.ends;
             });
             waits();
@@ -171,6 +176,48 @@ TEST_F(FrmMain, EndsAfterTheProcedureThatWaitsInAMenu) {
     QMenu menu;
     menu.addAction("Schedule");
     close_database_while([&] { menu.exec(QPoint(10, 10)); });
+}
+
+TEST_F(FrmMain, LeavesABoxThatOnlyTellsUntilItIsReadAndEndsThen) {
+    load();
+    QMessageBox told(QMessageBox::NoIcon, "Orvanta error", "The contact desk ended.", QMessageBox::Ok, &window);
+    bool was_read = false;
+    close_database_while([&] {
+        QTimer::singleShot(200, &told, [&] { // the end has tried ten times by then
+            EXPECT_TRUE(told.isVisible());
+            was_read = true;
+            QTest::mouseClick(told.button(QMessageBox::Ok), Qt::LeftButton);
+        });
+        told.exec();
+    });
+    EXPECT_TRUE(was_read);
+}
+
+TEST_F(FrmMain, ClosesABoxThatAsksAsByItsNo) {
+    load();
+    QMessageBox asked(QMessageBox::Question, "Auto-refresh", "Refresh?", QMessageBox::Yes | QMessageBox::No,
+                      &window);
+    int answer = QMessageBox::Yes;
+    close_database_while([&] { answer = asked.exec(); });
+    EXPECT_EQ(answer, QMessageBox::No);
+}
+
+TEST_F(FrmMain, AtOnceClosesABoxThatOnlyTellsAsWell) {
+    load();
+    QMessageBox told(QMessageBox::NoIcon, "Orvanta", "1.2.3", QMessageBox::Ok, &window);
+    end_while([&] { window.unload_at_once(); }, [&] { told.exec(); });
+}
+
+TEST_F(FrmMain, AtOnceClosesABoxThatAnEndAlreadyWaitsFor) {
+    load();
+    QMessageBox told(QMessageBox::NoIcon, "Orvanta error", "The contact desk ended.", QMessageBox::Ok, &window);
+    close_database_while([&] {
+        QTimer::singleShot(100, &told, [&] {
+            EXPECT_TRUE(told.isVisible());
+            window.unload_at_once();
+        });
+        told.exec();
+    });
 }
 
 TEST_F(FrmMain, HidesAndWaitsTwoSecondsWhenItRestartsACT) {

@@ -133,7 +133,7 @@ private:
         if (in_so_many_of_100(12))
             for (int more = 1 + pick(3); more > 0; --more)
                 result.contacts.push_back(
-                    contacts_[(contact + static_cast<std::size_t>(20 * more)) % contacts_.size()]);
+                    contacts_[(contact + static_cast<std::size_t>(15 * more)) % contacts_.size()]);
         if (in_so_many_of_100(40))
             result.group = groups_[group_of(contact)];
         if (in_so_many_of_100(45))

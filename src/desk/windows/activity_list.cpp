@@ -61,7 +61,7 @@ void ActivityList::build_choices() {
     types->setObjectName("types_menu");
     using store::ActivityType;
     for (const auto type : {ActivityType::call, ActivityType::meeting, ActivityType::to_do})
-        types_.push_back({type, types->addAction(type_icon(type), type_name(type) + "s")});
+        types_.push_back({type, types->addAction(type_name(type) + "s")});
     ui_->types_button->setMenu(types);
     auto* priorities = new QMenu(this);
     priorities->setObjectName("priorities_menu");

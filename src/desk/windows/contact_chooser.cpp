@@ -30,6 +30,8 @@ ContactChooser::ContactChooser(QWidget* parent)
     buttons->addWidget(remove_button_);
     buttons->addStretch();
     setFocusProxy(list_);
+    setTabOrder(list_, add_button);
+    setTabOrder(add_button, remove_button_);
     connect(add_button, &QPushButton::clicked, this, &ContactChooser::pick);
     connect(remove_button_, &QPushButton::clicked, this, [this] { delete list_->currentItem(); });
     connect(list_, &QListWidget::currentRowChanged, this,

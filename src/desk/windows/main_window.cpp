@@ -88,6 +88,7 @@ void MainWindow::build_views() {
     }
     count_label_->setObjectName("record_count");
     count_label_->setAccessibleDescription(tr("Contacts in the lookup"));
+    count_label_->setContentsMargins(6, 0, 6, 0);
     ui_->status_bar->addWidget(count_label_);
 }
 

@@ -9,8 +9,25 @@
 #include <algorithm>
 
 namespace windows {
+namespace {
+
+// Pale, so that the icons in a selected row can be made out.
+QPalette with_pale_selection(QPalette palette) {
+    constexpr qreal strength = 0.25;
+    const QColor ground = palette.color(QPalette::Base);
+    const QColor full = palette.color(QPalette::Active, QPalette::Highlight);
+    const auto mixed = [](qreal from, qreal to) { return from + (to - from) * strength; };
+    palette.setColor(QPalette::Highlight,
+                     QColor::fromRgbF(mixed(ground.redF(), full.redF()), mixed(ground.greenF(), full.greenF()),
+                                      mixed(ground.blueF(), full.blueF())));
+    palette.setColor(QPalette::HighlightedText, palette.color(QPalette::Text));
+    return palette;
+}
+
+} // namespace
 
 RecordTable::RecordTable(QWidget* parent) : QTableView(parent) {
+    setPalette(with_pale_selection(palette()));
     setAlternatingRowColors(true);
     setSelectionBehavior(SelectRows);
     setSelectionMode(SingleSelection);

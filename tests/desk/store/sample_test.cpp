@@ -105,6 +105,13 @@ TEST_F(Sample, ShowsEveryKindOfRecord) {
     EXPECT_GT(count([](const Activity& one) { return one.duration >= 120; }), 10);
 }
 
+TEST_F(Sample, SchedulesNobodyTwiceInAnActivity) {
+    for (const Activity& activity : activities)
+        EXPECT_EQ(std::set(activity.contacts.begin(), activity.contacts.end()).size(), activity.contacts.size())
+            << activity.regarding;
+    EXPECT_GT(count([](const Activity& activity) { return activity.contacts.size() > 3; }), 0);
+}
+
 TEST_F(Sample, ClearsMuchOfThePastButNothingToCome) {
     const auto is_past = [](const Activity& one) {
         return one.recurrence.kind == RecurrenceKind::none && *one.start < wednesday;

@@ -293,3 +293,20 @@ TEST_F(ActivityDialogTest, CancelStoresNothing) {
     EXPECT_FALSE(dialog->isVisible());
     EXPECT_EQ(stored(call).regarding, "Ask for prices");
 }
+
+TEST_F(ActivityDialogTest, TabGoesThroughTheFieldsInReadingOrder) {
+    edit(call);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(dialog.get()));
+    part<QComboBox>("type_box")->setFocus();
+    QStringList names;
+    for (int field = 0; field < 14; ++field) {
+        const QWidget* widget = QApplication::focusWidget();
+        const auto* button = qobject_cast<const QPushButton*>(widget);
+        names << (button && widget->objectName().isEmpty() ? button->text().remove('&') : widget->objectName());
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    }
+    EXPECT_EQ(
+        names.join(" ").toStdString(),
+        "type_box duration_box date_edit time_edit contacts_list add_contacts_button "
+        "remove_contact_button regarding_edit priority_box colour_box user_box group_box private_box alarm_box");
+}

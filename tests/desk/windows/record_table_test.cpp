@@ -113,3 +113,12 @@ TEST_F(RecordTableTest, SeveralRecordsAreTakenFromTheTop) {
                       table.visualRect(table.model()->index(0, 0)).center());
     EXPECT_EQ(table.selected_ids(), (Ids{"2", "1"}));
 }
+
+TEST_F(RecordTableTest, ASelectedRowIsPaleSoThatItsIconsShow) {
+    click_cell(0, 0);
+    const QRect cell = table.visualRect(table.model()->index(0, 1));
+    const QColor selected = table.viewport()->grab().toImage().pixelColor(cell.right() - 2, cell.center().y());
+    EXPECT_GT(selected.lightness(), 190);
+    EXPECT_LT(selected.lightness(), 250);
+    EXPECT_EQ(table.palette().color(QPalette::HighlightedText), table.palette().color(QPalette::Text));
+}

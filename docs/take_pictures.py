@@ -1,9 +1,10 @@
 """Takes the pictures of the documents: both layouts in both views, with days off, holidays and inactive hours, at
-200 %, and the contact desk."""
+200 %, the grid's menu, and the contact desk with its dialog."""
 
+import contextlib
 import os
 
-from desktop import Desktop, wait_for
+from desktop import Desktop, Grid, text_in, wait_for
 
 FOLDER = os.path.dirname(os.path.abspath(__file__))
 SHARED_ROWS = "OneRowPerUser=0\nCellsPerSlot=4\n"
@@ -24,19 +25,25 @@ PICTURES = [
 TWIPS_PER_PIXEL = 15
 
 
-def shown_and_still(desktop, window, path):
-    """A picture of the window once two in a row are equal."""
+def shown_and_still(desktop, path, *options):
+    """A picture of the screen, or what of it the options say, once two in a row are equal."""
     seen = []
 
     def look():
-        desktop.picture(path, window)
+        desktop.run("import", "-silent", *options, path)
         with open(path, "rb") as file:
             seen.append(file.read())
         return len(seen) > 3 and seen[-1] == seen[-2]
-    wait_for(look, "a window that has finished painting", 20)
+    wait_for(look, "windows that have finished painting", 20)
 
 
-def calendar(name, settings, weekly, width, height, scale):
+def picture(name):
+    return os.path.join(FOLDER, name + ".png")
+
+
+@contextlib.contextmanager
+def both_programs(settings, weekly, width, height, scale=1):
+    """The desktop, its desk and its calendar, and the window of that at the upper left corner of the screen."""
     with Desktop(scale) as desktop:
         with open(desktop.path("programs", "Orvanta.ini"), "w") as file:
             file.write("[Settings]\n" + settings + "[Filter]\nShowCleared=1\n")
@@ -48,18 +55,51 @@ def calendar(name, settings, weekly, width, height, scale):
             file.write("[Software\\Program Settings\\Orvanta\\Settings]\n"
                        f"WeeklyView={weekly}\nLeft=0\nTop=0\n"
                        f"Width={width * TWIPS_PER_PIXEL}\nHeight={height * TWIPS_PER_PIXEL}\n")
-        desktop.start_desk(desktop.sample())
-        window = desktop.wait_for_window("^Orvanta$", desktop.start("orvanta"))
-        shown_and_still(desktop, window, os.path.join(FOLDER, name + ".png"))
+        desk = desktop.start_desk(desktop.sample())
+        calendar = desktop.start("orvanta")
+        yield desktop, desk, calendar, desktop.wait_for_window("^Orvanta$", calendar)
+
+
+def calendar_window(name, *given):
+    with both_programs(*given) as (desktop, _, _, window):
+        shown_and_still(desktop, picture(name), "-window", window)
+
+
+def first_cell(grid, is_wanted):
+    """Where the first cell of the second band of slots has its middle whose text is wanted, from Monday on."""
+    return next(grid.middle(row, column) for row in range(7, 13) for column in range(3, 9)
+                if is_wanted(grid.text(row, column).strip()))
+
+
+def menu_over_the_grid():
+    with both_programs("", 1, 850, 700) as (desktop, _, calendar, window):
+        shown_and_still(desktop, picture("menu"), "-window", window)
+        desktop.focus(window)
+        desktop.click(first_cell(Grid(calendar), lambda text: text and text != "( Continued )"), button=3)
+        desktop.keys("Down", "Down")
+        shown_and_still(desktop, picture("menu"), "-window", "root", "-crop", "850x700+0+0", "+repage")
+
+
+def dialog_of_the_desk():
+    regarding = "Plan the spring fair"
+    with both_programs(f"ActyRegarding={regarding}\nActyPriority=M\n", 1, 850, 700) as (desktop, desk, calendar, window):
+        shown_and_still(desktop, picture("dialog"), "-window", window)
+        desktop.focus(window)
+        desktop.click(first_cell(Grid(calendar), lambda text: not text), times=2)
+        dialog = desktop.wait_for_window("^Schedule Activity$", desk)
+        wait_for(lambda: text_in(desk, "Regarding") == regarding, "the values of the companion")
+        shown_and_still(desktop, picture("dialog"), "-window", dialog)
 
 
 def contact_desk():
     with Desktop() as desktop:
         desk = desktop.start_desk(desktop.sample())
         window = desktop.wait_for_window("Contact Desk", desk)
-        shown_and_still(desktop, window, os.path.join(FOLDER, "desk.png"))
+        shown_and_still(desktop, picture("desk"), "-window", window)
 
 
-for picture in PICTURES:
-    calendar(*picture)
+for window in PICTURES:
+    calendar_window(*window)
+menu_over_the_grid()
+dialog_of_the_desk()
 contact_desk()

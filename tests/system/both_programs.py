@@ -15,6 +15,7 @@ DAY = datetime.timedelta(days=1)
 PLAIN_MENU = ["Reschedule Activity...", "View/Edit Activity Details...", "Send Activity...", "Clear Activity...",
               "Create Lookup (This cell)", "Create Lookup (All cells)"]
 SERIES_MENU = PLAIN_MENU[:4] + ["Edit Recurring Settings..."] + PLAIN_MENU[4:]
+EMPTY_MENU = ["Schedule", "Create Lookup (All cells)"]
 TITLE_MENU = ["Create Lookup (Column)", "Reset Column Width"]
 # The calendar's questions.
 CHANGE_OF_USER = "You are dropping this activity to a cell belonging to another user. Do you want to continue?"
@@ -32,15 +33,17 @@ class BothPrograms(unittest.TestCase):
     with a row each in nine slots from 8:00. The database has the sample's team and no activities."""
 
     settings = "[Settings]\r\nStdRowHeight=390\r\n"
+    scale = 1
+    place_of_calendar = 1230, 0, 1310, 1580  # left, top, width and height in pixels before they are scaled
 
     def setUp(self):
-        self.desktop = self.enterContext(Desktop())
+        self.desktop = self.enterContext(Desktop(self.scale))
         self.store = self.desktop.path("config", "Orvanta", "user-store.ini")
         os.makedirs(os.path.dirname(self.store))
         with open(self.store, "w") as file:
-            file.write("[Software\\Program Settings\\Orvanta\\Settings]\n"
-                       f"Left={1230 * TWIPS_PER_PIXEL}\nTop=0\n"
-                       f"Width={1310 * TWIPS_PER_PIXEL}\nHeight={1580 * TWIPS_PER_PIXEL}\n")
+            file.write("[Software\\Program Settings\\Orvanta\\Settings]\n")
+            for name, pixels in zip(("Left", "Top", "Width", "Height"), self.place_of_calendar):
+                file.write(f"{name}={pixels * TWIPS_PER_PIXEL}\n")
         with open(self.desktop.path("programs", "Orvanta.ini"), "w", newline="") as file:
             file.write(self.settings)
         self.database = TeamDatabase(self.desktop.sample())

@@ -64,6 +64,16 @@ class Desktop:
         self.processes.append(process)
         return process
 
+    def is_running(self, name):
+        """Whether any process runs that program of this desktop."""
+        for process in os.listdir("/proc"):
+            try:
+                if os.readlink(f"/proc/{process}/exe") == self.program(name):
+                    return True
+            except OSError:
+                pass  # no process, or one that has just ended
+        return False
+
     def run(self, *command):
         """Runs a command on this desktop to its end and gives what it printed."""
         return subprocess.run(command, env=self.environment, cwd=self.folder, check=True, text=True,
@@ -111,12 +121,17 @@ class Desktop:
         self.keys("ctrl+a")
         self.hands("type", "--delay", 5, text)
 
+    def on_screen(self, place):
+        """Programs tell their places before they are scaled."""
+        return place[0] * self.scale, place[1] * self.scale
+
     def click(self, place, button=1, times=1):
-        self.hands("mousemove", *place, "click", "--repeat", times, "--delay", 30, button)
+        self.hands("mousemove", *self.on_screen(place), "click", "--repeat", times, "--delay", 30, button)
 
     def drag_with_ctrl(self, start, end):
-        self.hands("mousemove", *start, "keydown", "ctrl", "mousedown", 1, "mousemove", *end,
-                   "mousemove", end[0] + 1, end[1] + 1, "mouseup", 1, "keyup", "ctrl")
+        x, y = self.on_screen(end)
+        self.hands("mousemove", *self.on_screen(start), "keydown", "ctrl", "mousedown", 1, "mousemove", x, y,
+                   "mousemove", x + 1, y + 1, "mouseup", 1, "keyup", "ctrl")
 
 
 # The accessibility tree -----------------------------------------------------------------------------------------------

@@ -7,7 +7,8 @@ import stat
 import unittest
 
 from both_programs import PLAIN_MENU, TITLE_MENU, BothPrograms, PlainCall
-from desktop import Atspi, has_state, is_busy, middle, text_in, texts_in_sight, wait_for, wait_to_see
+from desktop import (Atspi, has_state, is_busy, middle, part_of_its_window, text_in, texts_in_sight, wait_for,
+                     wait_to_see)
 
 CHANGED = "The activity was changed by somebody else in the meantime. Your change wasn't stored."
 MAIL_PROGRAM = """#!/bin/sh
@@ -40,6 +41,13 @@ class Lookups(BothPrograms):
         self.choose(self.title(2), "Create Lookup (Column)", TITLE_MENU)
         everybody, = self.database.look("SELECT count(*) AS number FROM contacts")
         wait_for(lambda: self.count() == f"3 of {everybody['number']} contacts", "the lookup in the desk")
+
+    def test_a_column_without_activities_is_told_and_leaves_the_desks_lookup(self):
+        before = self.count()
+        self.choose(self.title(4), "Create Lookup (Column)", TITLE_MENU)
+        self.answer(self.calendar, "No records were found that match the specified criteria.", "OK")
+        self.assertEqual(self.count(), before)
+        self.assertEqual(len(self.database.activities()), 5)
 
     def count(self):
         return next(text for text in texts_in_sight(self.desk, Atspi.Role.LABEL) if text.endswith(" contacts"))
@@ -113,12 +121,35 @@ class TwoAtATime(PlainCall):
             self.drag((6, 10), (5, 14))
             wait_for(lambda: is_busy(self.grid.table), "the calendar's wait for the file")
             other.execute("COMMIT")
-        text = wait_for(lambda: next((text for text in texts_in_sight(self.calendar, Atspi.Role.LABEL)
-                                      if text.startswith("Error 440")), None), "the box")
-        self.assertIn(CHANGED, text)
-        self.desktop.keys("Return")
-        wait_for(lambda: text not in texts_in_sight(self.calendar, Atspi.Role.LABEL), "the end of the box")
+        self.answer(self.calendar, self.wait_for_box(CHANGED), "OK")
         self.expect(start=self.at(6, 10), regarding="Prices of screws")
+
+    def test_a_command_while_the_desks_user_has_a_dialog_open_is_refused(self):
+        before = self.activity()
+        self.desktop.focus(self.desktop.windows("Contact Desk$", self.desk)[0])
+        self.desktop.keys("ctrl+m")
+        window = self.wait_for_dialog("Schedule Activity")
+        self.double_click(6, 10)
+        text = self.wait_for_box("Another activity is being worked on already. Close its dialog first.")
+        self.answer(self.calendar, text, "OK")
+        self.desktop.focus(window)
+        self.desktop.keys("Escape")
+        wait_for(lambda: not self.desktop.windows("^Schedule Activity$", self.desk), "the end of the dialog")
+        self.assertEqual(self.activity(), before)
+
+    def test_a_desk_that_is_killed_while_the_calendar_waits_for_its_dialog_takes_the_calendar_down(self):
+        before = self.activity()
+        self.double_click(6, 10)
+        self.wait_for_dialog("Edit Activity")
+        self.desk.kill()
+        box = wait_to_see(self.calendar, Atspi.Role.LABEL, self.wait_for_box("Error 440"))
+        self.desktop.click(middle(part_of_its_window(box, Atspi.Role.PUSH_BUTTON, "OK")))
+        self.assertEqual(self.calendar.wait(10), 0)
+        self.assertEqual(self.activity(), before)
+
+    def wait_for_box(self, part):
+        return wait_for(lambda: next((text for text in texts_in_sight(self.calendar, Atspi.Role.LABEL)
+                                      if part in text), None), f"a box with '{part}'")
 
     def test_what_the_calendar_stored_while_the_desks_dialog_was_open_is_not_overwritten(self):
         self.desktop.focus(self.desktop.windows("Contact Desk$", self.desk)[0])

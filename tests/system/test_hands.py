@@ -4,7 +4,7 @@ each test ends by reading the database."""
 import configparser
 import unittest
 
-from both_programs import CHANGE_OF_USER, PLAIN_MENU, BothPrograms, PlainCall, us_date
+from both_programs import CHANGE_OF_USER, EMPTY_MENU, PLAIN_MENU, BothPrograms, PlainCall, us_date
 from desktop import Atspi, text_in, texts_in_sight, wait_for
 
 
@@ -37,7 +37,17 @@ class Scheduling(BothPrograms):
         expected = dict(type=2, priority=0, regarding="Count the stock", start=self.at(2, 10), duration=60,
                         user=self.users[1], contact_name=contact["name"], recurrence=0, cleared=0)
         self.assertEqual({name: activity[name] for name in expected}, expected)
+        wait_for(lambda: not self.desktop.is_running("ActivityWin"), "the companion's end")
 
+    def test_the_menu_schedules_a_call_and_escape_in_the_dialog_leaves_nothing(self):
+        self.choose(self.place(3, 12), "Schedule", EMPTY_MENU)
+        self.desktop.keys("Return")
+        self.wait_for_dialog("Schedule Activity")
+        wait_for(lambda: "Call" in texts_in_sight(self.desk, Atspi.Role.COMBO_BOX), "the companion's values")
+        self.desktop.keys("Escape")
+        wait_for(lambda: not self.desktop.windows("^Schedule Activity$", self.desk), "the end of the dialog")
+        self.assertEqual(self.shown(3, 12), "")
+        self.assertEqual(self.database.activities(), [])
 
 
 class DraggingACall(PlainCall):
@@ -89,6 +99,24 @@ class CommandsOnACall(PlainCall):
         self.confirm("Clear Activity")
         self.wait_to_see("", 2, 10)
         self.expect(cleared=1, result="Completed")
+
+
+class AtTwiceTheSize(PlainCall):
+    """The calendar lies over the desk and shows the first hours alone."""
+
+    scale = 2
+    place_of_calendar = 0, 0, 1270, 790
+
+    def test_the_mouse_meets_the_cells_that_it_points_at(self):
+        self.drag((2, 10), (4, 9))
+        self.wait_to_see(self.contact, 4, 9)
+        self.expect(start=self.at(4, 9))
+        self.choose(self.place(4, 9), "View/Edit Activity Details...", PLAIN_MENU)
+        self.wait_for_dialog("Edit Activity")
+        self.let_a_second_pass()
+        self.desktop.type("Ask for the new list")
+        self.click_on(self.desk, Atspi.Role.PUSH_BUTTON, "OK")
+        self.wait_for_record(details="Ask for the new list", start=self.at(4, 9))
 
 
 if __name__ == "__main__":

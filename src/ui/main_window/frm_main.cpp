@@ -1,5 +1,6 @@
 #include "main_window/frm_main.h"
 
+#include "dialogs/frm_activity_change.h"
 #include "ui_frmMain.h"
 
 #include <QApplication>
@@ -25,10 +26,11 @@ std::unique_ptr<Ui::frmMain> make_controls(QMainWindow& window) {
 // Inside a loop of its own, such as a box's, somebody waits whom the end must not surprise.
 bool a_procedure_waits() { return QThread::currentThread()->loopLevel() > 1; }
 
-// It tells why something failed, such as the end of the contact manager that is the reason to end as well.
-bool only_tells(const QWidget* window) {
+// A box that only tells, such as that the contact manager has gone; and the question what becomes of an occurrence
+// that is changed already, which would be lost by a Cancel that nobody gave.
+bool is_for_the_user(const QWidget* window) {
     const auto* box = qobject_cast<const QMessageBox*>(window);
-    return box && box->buttons().size() == 1;
+    return (box && box->buttons().size() == 1) || dynamic_cast<const frmActivityChange*>(window);
 }
 
 } // namespace
@@ -108,7 +110,7 @@ void frmMain::finish_unload() {
     // The closing of a dialog can ask in a box of its own, which the next try closes.
     QTimer::singleShot(retry_milliseconds, this, [this] { finish_unload(); });
     for (QWidget* waiting : {QApplication::activePopupWidget(), QApplication::activeModalWidget()})
-        if (waiting && (is_in_haste_ || !only_tells(waiting)))
+        if (waiting && (is_in_haste_ || !is_for_the_user(waiting)))
             waiting->close();
 }
 

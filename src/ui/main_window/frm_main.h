@@ -23,8 +23,9 @@ public:
     // Brings the calendar up, and shows the window unless the start was stopped. Called from the event loop, so
     // that it can end it.
     void load();
-    // Raises Form_Unload, the first time; while a procedure waits in a box, once that is over. A box that asks is
-    // closed for it, one that only tells stays until the user has read it.
+    // Raises Form_Unload, the first time; while a procedure waits in a box, once that is over. What asks is closed
+    // for it, but a box that only tells and the question of frmActivityChange stay until the user has dealt with
+    // them.
     void unload();
     // The same for one who can't wait for the user: every box is closed.
     void unload_at_once();

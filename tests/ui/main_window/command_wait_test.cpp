@@ -44,7 +44,7 @@ protected:
         desk->run([this] {
             desk->desk.known_contacts = {chris};
             desk->desk.activities = database.store().activities({});
-            desk->desk.activities.push_back({.id = "A00000000003"}); // the next one to be stored
+            desk->desk.activities.push_back({.id = next_id});
         });
         window.load();
         window.resize(1250, 800);
@@ -114,6 +114,7 @@ protected:
     }
 
     static constexpr int wednesday = 5;
+    const std::string next_id = "A00000000003"; // of the next activity to be stored
     support::TemporaryDatabase database;
     std::string ann, chris, meeting, series;
     support::PrivateBus bus;
@@ -233,6 +234,31 @@ TEST_F(CommandWait, ThatTheDeskDoesNotOutliveLeavesNoTraceOfATemporaryInstance) 
     wait_for_end();
     EXPECT_EQ(database.store().activities({}).size(), 2U);
     EXPECT_TRUE(database.store().activity(series)->exceptions.empty());
+}
+
+TEST_F(CommandWait, ThatWasFollowedByAQuestionLosesNothingWhenTheDeskGoesBeforeTheAnswer) {
+    QTimer user;
+    int looks = 0;
+    QObject::connect(&user, &QTimer::timeout, [&] {
+        QWidget* question = QApplication::activeModalWidget();
+        if (!question)
+            return;
+        if (++looks == 1)
+            desk.reset();
+        if (looks == 20)
+            QTest::mouseClick(question->findChild<QPushButton*>("cmdResponse_0"), Qt::LeftButton);
+    });
+    user.start(20);
+    double_click_and(11, [&] {
+        store::Activity changed = database.store().activity(next_id).value();
+        changed.regarding = "Typed and confirmed";
+        database.store().update(changed);
+        finish();
+    });
+    wait_for_end();
+    EXPECT_EQ(looks, 20);
+    EXPECT_EQ(database.store().activity(next_id)->regarding, "Typed and confirmed");
+    EXPECT_EQ(database.store().activity(series)->exceptions.size(), 1U);
 }
 
 TEST_F(CommandWait, IsAbandonedByARequestToEndAndTheCalendarEndsWithItsStateSaved) {

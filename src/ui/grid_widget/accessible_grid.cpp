@@ -7,6 +7,7 @@
 #include <QAccessibleTableInterface>
 #include <QAccessibleWidget>
 #include <QHash>
+#include <QRegion>
 
 #include <numeric>
 
@@ -128,6 +129,37 @@ private:
     mutable QHash<std::pair<int, int>, QAccessible::Id> cells_;
 };
 
+constexpr int most_cells_told = 20; // one by one; a selection that changes by more is told as a whole
+
+int cell_count(const QRegion& region) {
+    return std::accumulate(region.begin(), region.end(), 0,
+                           [](int count, const QRect& part) { return count + part.width() * part.height(); });
+}
+
+void tell_selection(QAccessibleInterface& table, const QRect& before, const QRect& now,
+                    const std::function<void(QAccessibleEvent*)>& tell) {
+    const auto tell_of = [&](QAccessibleInterface* about, QAccessible::Event what) {
+        QAccessibleEvent event(about, what);
+        tell(&event);
+    };
+    const auto tell_of_cells = [&](const QRegion& cells, QAccessible::Event what) {
+        for (const QRect& part : cells)
+            for (int row = part.top(); row <= part.bottom(); ++row)
+                for (int col = part.left(); col <= part.right(); ++col)
+                    if (QAccessibleInterface* cell = table.tableInterface()->cellAt(row, col))
+                        tell_of(cell, what);
+    };
+    const QRegion added = QRegion(now) - before, removed = QRegion(before) - now;
+    if (now.size() == QSize(1, 1)) {
+        tell_of_cells(now, QAccessible::Selection);
+    } else if (cell_count(added) + cell_count(removed) > most_cells_told) {
+        tell_of(&table, QAccessible::SelectionWithin);
+    } else {
+        tell_of_cells(removed, QAccessible::SelectionRemove);
+        tell_of_cells(added, QAccessible::SelectionAdd);
+    }
+}
+
 QAccessibleInterface* make_accessible(const QString&, QObject* object) {
     auto* widget = qobject_cast<GridWidget*>(object);
     return widget ? new AccessibleGrid(*widget) : nullptr;
@@ -151,12 +183,8 @@ void tell_screen_readers(GridWidget& widget, const GridNews& news,
     }
     QAccessibleInterface* table = QAccessible::queryAccessibleInterface(&widget);
     QAccessibleInterface* cell = table->tableInterface()->cellAt(model.Row(), model.Col());
-    const bool several = table->tableInterface()->selectedCellCount() > 1;
-    if (news.selection) {
-        QAccessibleEvent selection(several ? table : cell,
-                                   several ? QAccessible::SelectionWithin : QAccessible::Selection);
-        tell(&selection);
-    }
+    if (news.selection_before)
+        tell_selection(*table, *news.selection_before, selected_cells(model), tell);
     if (news.focus && widget.hasFocus()) {
         QAccessibleEvent focus(cell, QAccessible::Focus);
         tell(&focus);

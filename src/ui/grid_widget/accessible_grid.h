@@ -1,8 +1,10 @@
 #pragma once
 
 #include <QAccessible>
+#include <QRect>
 
 #include <functional>
+#include <optional>
 
 namespace ui {
 
@@ -11,9 +13,9 @@ class GridWidget;
 // What a turn of the event loop has changed.
 struct GridNews {
     bool cells = false;
-    bool size = false; // the number of rows or columns
-    bool selection = false;
-    bool focus = false; // the current cell is another one, or the grid has got the focus
+    bool size = false;                     // the number of rows or columns
+    bool focus = false;                    // the current cell is another one, or the grid has got the focus
+    std::optional<QRect> selection_before = {}; // its columns and rows, where another is selected now
 };
 
 // Makes screen readers find a grid widget as a table: its cells by row and column, fixed ones included, the fixed

@@ -3,6 +3,7 @@
 #include "grid_widget/accessible_grid.h"
 #include "grid_widget/cursor_keys.h"
 #include "grid_widget/grid_style.h"
+#include "grid_widget/selection_range.h"
 
 #include <QAccessible>
 #include <QContextMenuEvent>
@@ -27,7 +28,7 @@ int scrolled_line(const PixelLines& lines, int position, int present) {
 GridWidget::GridWidget(grid::GridModel& model, QWidget* parent)
     : QAbstractScrollArea(parent), model_(model), painter_(font()), sizer_(model),
       told_size_(model.Cols(), model.Rows()), told_current_(model.Col(), model.Row()),
-      told_far_end_(model.ColSel(), model.RowSel()) {
+      told_selection_(selected_cells(model)) {
     install_grid_accessibility();
     setFocusPolicy(Qt::StrongFocus);
     setFrameShape(QFrame::NoFrame);
@@ -87,15 +88,18 @@ void GridWidget::settle() {
 // A refresh moves the current cell about and back again, of which nobody needs to hear.
 void GridWidget::tell_what_is_new() {
     const QSize size(model_.Cols(), model_.Rows());
-    const QPoint current(model_.Col(), model_.Row()), far_end(model_.ColSel(), model_.RowSel());
+    const QPoint current(model_.Col(), model_.Row());
+    const QRect selection = selected_cells(model_);
     const bool is_reshaped = size != told_size_;
-    tell({.cells = cells_changed_,
-          .size = is_reshaped,
-          .selection = current != told_current_ || far_end != told_far_end_,
-          .focus = current != told_current_ || is_reshaped || focus_came_});
+    GridNews news{.cells = cells_changed_,
+                  .size = is_reshaped,
+                  .focus = current != told_current_ || is_reshaped || focus_came_};
+    if (selection != told_selection_)
+        news.selection_before = told_selection_;
+    tell(news);
     told_size_ = size;
     told_current_ = current;
-    told_far_end_ = far_end;
+    told_selection_ = selection;
 }
 
 void GridWidget::tell(const GridNews& news) {

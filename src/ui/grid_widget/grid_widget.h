@@ -114,9 +114,10 @@ private:
     QPoint bars_at_drag_; // the scroll bars' values when the drag began
     mutable PixelLines rows_, cols_;
     mutable bool lines_are_stale_ = true;
-    // What screen readers know of: columns and rows, current cell, far end of the selection.
+    // What screen readers know of, in columns and rows.
     QSize told_size_;
-    QPoint told_current_, told_far_end_;
+    QPoint told_current_;
+    QRect told_selection_;
     bool is_locked_ = false;
     bool is_selecting_ = false;
     bool is_dragging_ = false;

@@ -2,6 +2,8 @@
 
 #include "grid/grid_model.h"
 
+#include <QRect>
+
 #include <algorithm>
 
 namespace ui {
@@ -17,6 +19,12 @@ struct LineRange {
 
 inline LineRange selected_rows(const grid::GridModel& model) { return {model.Row(), model.RowSel()}; }
 inline LineRange selected_cols(const grid::GridModel& model) { return {model.Col(), model.ColSel()}; }
+
+// The selection's columns and rows.
+inline QRect selected_cells(const grid::GridModel& model) {
+    const LineRange rows = selected_rows(model), cols = selected_cols(model);
+    return {cols.first, rows.first, cols.count(), rows.count()};
+}
 
 inline bool is_selected(const grid::GridModel& model, int row, int col) {
     return selected_rows(model).holds(row) && selected_cols(model).holds(col);

@@ -124,20 +124,41 @@ TEST(AccessibleGrid, HasTheCurrentCellForItsFocus) {
 TEST(AccessibleGrid, TellsOfTheCurrentCell) {
     ReadGrid grid;
     grid.model.Row(4);
-    EXPECT_EQ(grid.tell({.selection = true, .focus = true}),
+    EXPECT_EQ(grid.tell({.focus = true, .selection_before = QRect(2, 1, 1, 1)}),
               (std::vector<Told>{{QAccessible::Selection, 4, 2}, {QAccessible::Focus, 4, 2}}));
 }
 
-TEST(AccessibleGrid, TellsOfSeveralSelectedCellsAsATable) {
+TEST(AccessibleGrid, TellsOfEachCellThatJoinsOrLeavesASelection) {
     ReadGrid grid;
-    grid.model.RowSel(4);
-    EXPECT_EQ(grid.tell({.selection = true}), (std::vector<Told>{{QAccessible::SelectionWithin}}));
+    grid.model.RowSel(2);
+    grid.model.ColSel(3);
+    EXPECT_EQ(grid.tell({.selection_before = QRect(2, 1, 1, 3)}),
+              (std::vector<Told>{{QAccessible::SelectionRemove, 3, 2},
+                                 {QAccessible::SelectionAdd, 1, 3},
+                                 {QAccessible::SelectionAdd, 2, 3}}));
+}
+
+TEST(AccessibleGrid, TellsOfASelectionThatChangesALotAsAWhole) {
+    ReadGrid grid;
+    grid.model.RowSel(21);
+    EXPECT_EQ(grid.tell({.selection_before = QRect(2, 1, 1, 1)}).size(), 20u);
+    grid.model.RowSel(22);
+    EXPECT_EQ(grid.tell({.selection_before = QRect(2, 1, 1, 1)}),
+              (std::vector<Told>{{QAccessible::SelectionWithin}}));
+}
+
+TEST(AccessibleGrid, TellsNothingOfSelectedCellsThatAreGone) {
+    ReadGrid grid;
+    grid.model.Rows(3);
+    grid.model.RowSel(2);
+    EXPECT_EQ(grid.tell({.selection_before = QRect(2, 1, 1, 5)}), (std::vector<Told>{}));
 }
 
 TEST(AccessibleGrid, ClaimsNoFocusThatItHasNot) {
     ReadGrid grid;
     grid.widget->clearFocus();
-    EXPECT_EQ(grid.tell({.selection = true, .focus = true}), (std::vector<Told>{{QAccessible::Selection, 1, 2}}));
+    EXPECT_EQ(grid.tell({.focus = true, .selection_before = QRect(4, 4, 1, 1)}),
+              (std::vector<Told>{{QAccessible::Selection, 1, 2}}));
     EXPECT_EQ(grid.node()->focusChild(), nullptr);
 }
 
@@ -212,7 +233,9 @@ TEST_F(Spoken, AnArrowKeySpeaksTheCellThatItLeadsTo) {
 TEST_F(Spoken, ShiftAndAnArrowKeySpeakTheSelectionAndLeaveTheCurrentCell) {
     grid.press_key(Qt::Key_Down, Qt::ShiftModifier);
     grid.press_key(Qt::Key_Right, Qt::ShiftModifier);
-    EXPECT_EQ(hear(), (std::vector<Told>{{QAccessible::SelectionWithin}}));
+    EXPECT_EQ(hear(), (std::vector<Told>{{QAccessible::SelectionAdd, 1, 3},
+                                         {QAccessible::SelectionAdd, 2, 2},
+                                         {QAccessible::SelectionAdd, 2, 3}}));
     EXPECT_TRUE(grid.table()->cellAt(2, 3)->state().selected);
     EXPECT_FALSE(grid.table()->cellAt(2, 3)->state().focused);
     EXPECT_TRUE(grid.table()->cellAt(1, 2)->state().focused);

@@ -35,8 +35,13 @@ void Rendering::Display_Changes(const std::string& id) {
             select_selected_cell();
         }
         step = 50;
-        if (!SpanList.empty())
+        if (!SpanList.empty()) {
+            // Writing moves the current cell, and the user's is the one that has just been made current.
+            const int row = grid.Row(), col = grid.Col();
             Span_Activities(SpanList);
+            grid.Row(row);
+            grid.Col(col);
+        }
     });
 }
 

@@ -175,6 +175,14 @@ TEST_F(DragDrop, AUserIdThatHasNot12CharactersIsNotWritten) {
     EXPECT_EQ(stored(id).start, at(10, 11));
 }
 
+TEST_F(DragDrop, ARowOfAUserWhoIsNotListedLeavesTheActivityItsUser) {
+    ann_at_nine(meeting(10, 9));
+    users.UserNameToId.erase("Bob");
+    drag(row_of(nine), col_of(10), row_of(eleven, 1), col_of(10));
+    EXPECT_EQ(stored(id).user, ann);
+    EXPECT_EQ(stored(id).start, at(10, 11));
+}
+
 TEST_F(DragDrop, AsksOnTheUserBeforeAnythingOnTheSeries) {
     ann_at_nine(daily(8, 9));
     box.answers = {Answer::yes, Answer::cancel};

@@ -329,6 +329,17 @@ TEST_F(Mouse, AMovedCursorCountsAsAPressOnItsCell) {
     EXPECT_EQ(&selected(), &cell(5, 6));
 }
 
+TEST_F(Mouse, TheSelectedCellStaysTheCurrentOneThroughARefreshThatContinuesActivities) {
+    add(meeting(10, 9, 180));
+    open();
+    press(left, 0, row_of(6), col_of(8));
+    engine.refresh.Refresh_Data();
+    EXPECT_EQ(shown(row_of(2), col_of(10)), "( Continued )");
+    EXPECT_EQ(&selected(), &cell(calendar.msgSched.Row(), calendar.msgSched.Col()));
+    EXPECT_EQ(calendar.msgSched.Row(), row_of(6));
+    EXPECT_EQ(calendar.msgSched.Col(), col_of(8));
+}
+
 TEST_F(Mouse, AFailureNamesTheHandler) {
     open();
     presenter.while_showing_menu = [] {

@@ -4,6 +4,7 @@ The test looks at them from outside: the accessibility tree, D-Bus, files, pictu
 runs inside a virtual display and a private D-Bus session (see CMakeLists.txt).
 """
 
+import contextlib
 import os
 import shutil
 import subprocess
@@ -18,13 +19,15 @@ from gi.repository import Atspi, GLib  # noqa: E402
 PROGRAMS = os.environ["ORVANTA_PROGRAMS"]
 
 
-def wait_for(look, what, seconds=10):
-    """The first true answer of look(), asked every 50 ms; fails with what was waited for."""
+def wait_for(look, what, seconds=30):
+    """The first true answer of look(), asked every 50 ms; fails with what was waited for. Objects that go while they
+    are looked at are no answer."""
     end = time.monotonic() + seconds
     while time.monotonic() < end:
-        answer = look()
-        if answer:
-            return answer
+        with contextlib.suppress(GLib.GError):
+            answer = look()
+            if answer:
+                return answer
         time.sleep(0.05)
     raise AssertionError(f"{what}: not within {seconds} seconds")
 
@@ -141,8 +144,9 @@ def application_of(process):
         tree = Atspi.get_desktop(0)
         for index in range(tree.get_child_count()):
             child = tree.get_child_at_index(index)
-            if child and child.get_process_id() == process.pid:
-                return child
+            with contextlib.suppress(GLib.GError):  # a program that has just ended
+                if child and child.get_process_id() == process.pid:
+                    return child
         return None
     return wait_for(look, "the program in the accessibility tree")
 
@@ -197,8 +201,8 @@ def part_of_its_window(node, role, name):
 
 
 def is_busy(node):
-    """Whether the program of an object is too busy to answer a question about it within a tenth of a second."""
-    Atspi.set_timeout(100, 100)
+    """Whether the program of an object is too busy to answer a question about it within a second."""
+    Atspi.set_timeout(1000, 1000)
     try:
         Atspi.Component.get_extents(node, Atspi.CoordType.SCREEN)
         return False

@@ -177,7 +177,8 @@ class Importing(BothPrograms):
             file.write("\r\n".join(["BEGIN:VCALENDAR", "VERSION:2.0", "PRODID:-//Elsewhere//EN", "BEGIN:VEVENT",
                                     "UID:1@elsewhere", "SUMMARY:Fair in the town hall",
                                     f"DTSTART:{self.at(3, 13):%Y%m%dT%H%M%S}", f"DTEND:{self.at(3, 15):%Y%m%dT%H%M%S}",
-                                    "ATTENDEE;CN=Olga Petersen:mailto:olga@example.com", "END:VEVENT", "END:VCALENDAR", ""]))
+                                    "ATTENDEE;CN=Olga Petersen:mailto:olga@example.com", "END:VEVENT",
+                                    "END:VCALENDAR", ""]))
         self.let_a_second_pass()
         self.desktop.focus(self.desktop.windows("Contact Desk$", self.desk)[0])
         self.desktop.keys("alt+f", "i")

@@ -6,8 +6,8 @@ import unittest
 from both_programs import CHANGE_OF_DATE, CHANGE_OF_USER, DAY, SERIES_MENU, WHICH, BothPrograms, us_date
 from desktop import Atspi, wait_for, wait_to_see
 
-REFUSED = ("In Orvanta, changes made under the RECURRING TAB are not allowed unless you use the Edit recurring settings "
-           "command. See the user's manual for more on Editing recurring activities.\nAll changes are ignored.")
+REFUSED = ("In Orvanta, changes made under the RECURRING TAB are not allowed unless you use the Edit recurring "
+           "settings command. See the user's manual for more on Editing recurring activities.\nAll changes are ignored.")
 
 
 class Series(BothPrograms):

@@ -47,12 +47,11 @@ void Rendering::Display_Changes(const std::string& id) {
 
 // No cell may be selected yet, or one of a grid that was larger.
 void Rendering::select_selected_cell() {
-    try {
+    values::ignoring_failure([&] {
         const clsMsgSchedCell& selected = selection_.selected();
         layout_.msgSched().Row(selected.Row());
         layout_.msgSched().Col(selected.Col());
-    } catch (const values::Failure&) {
-    }
+    });
 }
 
 void Rendering::Span_Activities(std::string_view span_list) {

@@ -9,6 +9,7 @@ namespace interaction {
 
 namespace field = act::activity_field;
 namespace keys = settings::keys;
+using values::ignoring_failure;
 
 namespace {
 
@@ -24,14 +25,6 @@ int mask_of_type(int type) {
         return 232;
     default:
         return 240;
-    }
-}
-
-template <typename Statement>
-void ignoring_failure(Statement&& statement) {
-    try {
-        statement();
-    } catch (const values::Failure&) {
     }
 }
 

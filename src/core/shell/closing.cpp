@@ -7,21 +7,13 @@
 namespace shell {
 
 namespace keys = settings::keys;
+using values::ignoring_failure;
 
 namespace {
 
 constexpr int last_old_row = 150;
 constexpr int second = 1000; // milliseconds
 constexpr int seconds_until_end = 2;
-
-// For statements after which the next one simply runs.
-template <typename Statement>
-void ignoring_failure(Statement&& statement) {
-    try {
-        statement();
-    } catch (const values::Failure&) {
-    }
-}
 
 } // namespace
 

@@ -44,4 +44,13 @@ private:
     std::string description_;
 };
 
+// For statements after which the next one simply runs.
+template <typename Statement>
+void ignoring_failure(Statement&& statement) {
+    try {
+        statement();
+    } catch (const Failure&) {
+    }
+}
+
 } // namespace values

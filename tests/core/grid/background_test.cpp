@@ -80,6 +80,17 @@ TEST_F(BackgroundTest, ShowsAllOfADescriptionBehindItsFirstEqualsSign) {
     EXPECT_EQ(model.TextMatrix(0, 4), "Day=Night");
 }
 
+TEST_F(BackgroundTest, EmptiesTheTitleOfAHolidayWithoutADescription) {
+    background.Holidays = "|1/8/2024||1/9/2024||1/10/2024|";
+    world.files.content["/program/holidays.dat"] = "[Holidays]\r\n1/8/2024\r\n\r\n1/9/2024=\r\n=nothing\r\n";
+    open();
+    for (const int col : {3, 4, 5}) { // without "=", without a text, without a line
+        EXPECT_EQ(model.TextMatrix(0, col), "") << col;
+        EXPECT_EQ(colour(1, col), holiday) << col;
+    }
+    EXPECT_TRUE(world.box.shown.empty());
+}
+
 TEST_F(BackgroundTest, KnowsAHolidayByItsWholeDateOnly) {
     background.Holidays = "|11/9/2024||1/9/20245|";
     open();

@@ -1,6 +1,6 @@
 #include "grid/cell.h"
 
-#include "core/grid/failure_number.h"
+#include "support/failure_number.h"
 #include "support/grid_world.h"
 
 #include <gtest/gtest.h>
@@ -124,8 +124,8 @@ TEST_F(CellTest, ClearLeavesDependsOnActivityInPlace) {
 TEST_F(CellTest, HasNoSlotBeforeItIsInitialised) {
     const grid::clsMsgSchedCell cell(layout);
     EXPECT_FALSE(cell.Initialized());
-    EXPECT_EQ(failure_of([&] { cell.Slot(); }), 6);
-    EXPECT_EQ(failure_of([&] { cell.Time(); }), 6);
+    EXPECT_EQ(support::failure_number([&] { cell.Slot(); }), 6);
+    EXPECT_EQ(support::failure_number([&] { cell.Time(); }), 6);
     EXPECT_EQ(cell.DateDay(), layout.StartDate);
 }
 
@@ -137,10 +137,10 @@ TEST_F(CellTest, NeverGoesBeyondInAnythingThatIsDrawn) {
 }
 
 TEST_F(CellTest, IsFoundInsideTheGridOnly) {
-    EXPECT_EQ(failure_of([&] { layout.Cells(layout.Cells.rows(), 0); }), 9);
-    EXPECT_EQ(failure_of([&] { layout.Cells(0, layout.Cells.cols()); }), 9);
-    EXPECT_EQ(failure_of([&] { layout.Cells(-1, 0); }), 9);
-    EXPECT_EQ(failure_of([&] { layout.Cells.reference(0, -1); }), 9);
+    EXPECT_EQ(support::failure_number([&] { layout.Cells(layout.Cells.rows(), 0); }), 9);
+    EXPECT_EQ(support::failure_number([&] { layout.Cells(0, layout.Cells.cols()); }), 9);
+    EXPECT_EQ(support::failure_number([&] { layout.Cells(-1, 0); }), 9);
+    EXPECT_EQ(support::failure_number([&] { layout.Cells.reference(0, -1); }), 9);
 }
 
 } // namespace

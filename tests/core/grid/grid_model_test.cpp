@@ -1,6 +1,6 @@
 #include "grid/grid_model.h"
 
-#include "core/grid/failure_number.h"
+#include "support/failure_number.h"
 
 #include <gtest/gtest.h>
 
@@ -89,38 +89,38 @@ TEST(GridModel, RefusesACurrentCellOutsideWith380AndStaysWhereItIs) {
     model.Row(2);
     model.Col(3);
     for (const int row : {-1, 3})
-        EXPECT_EQ(failure_of([&] { model.Row(row); }), 380);
+        EXPECT_EQ(support::failure_number([&] { model.Row(row); }), 380);
     for (const int col : {-1, 4})
-        EXPECT_EQ(failure_of([&] { model.Col(col); }), 380);
-    EXPECT_EQ(failure_of([&] { model.RowSel(3); }), 380);
-    EXPECT_EQ(failure_of([&] { model.ColSel(4); }), 380);
+        EXPECT_EQ(support::failure_number([&] { model.Col(col); }), 380);
+    EXPECT_EQ(support::failure_number([&] { model.RowSel(3); }), 380);
+    EXPECT_EQ(support::failure_number([&] { model.ColSel(4); }), 380);
     EXPECT_EQ(model.Row(), 2);
     EXPECT_EQ(model.Col(), 3);
 }
 
 TEST(GridModel, RefusesAnIndexOutsideWith381) {
     GridModel model = model_of(3, 4);
-    EXPECT_EQ(failure_of([&] { model.TextMatrix(3, 0); }), 381);
-    EXPECT_EQ(failure_of([&] { model.TextMatrix(0, -1); }), 381);
-    EXPECT_EQ(failure_of([&] { model.RowHeight(3); }), 381);
-    EXPECT_EQ(failure_of([&] { model.RowHeight(-1, 10); }), 381);
-    EXPECT_EQ(failure_of([&] { model.ColWidth(4); }), 381);
-    EXPECT_EQ(failure_of([&] { model.ColWidth(4, 10); }), 381);
-    EXPECT_EQ(failure_of([&] { model.RowPos(3); }), 381);
-    EXPECT_EQ(failure_of([&] { model.ColPos(4); }), 381);
-    EXPECT_EQ(failure_of([&] { model.clear_contents(1, 3, 1, 2); }), 381);
+    EXPECT_EQ(support::failure_number([&] { model.TextMatrix(3, 0); }), 381);
+    EXPECT_EQ(support::failure_number([&] { model.TextMatrix(0, -1); }), 381);
+    EXPECT_EQ(support::failure_number([&] { model.RowHeight(3); }), 381);
+    EXPECT_EQ(support::failure_number([&] { model.RowHeight(-1, 10); }), 381);
+    EXPECT_EQ(support::failure_number([&] { model.ColWidth(4); }), 381);
+    EXPECT_EQ(support::failure_number([&] { model.ColWidth(4, 10); }), 381);
+    EXPECT_EQ(support::failure_number([&] { model.RowPos(3); }), 381);
+    EXPECT_EQ(support::failure_number([&] { model.ColPos(4); }), 381);
+    EXPECT_EQ(support::failure_number([&] { model.clear_contents(1, 3, 1, 2); }), 381);
 }
 
 TEST(GridModel, RefusesSizesAndShapesThatCannotBe) {
     GridModel model = model_of(3, 4);
-    EXPECT_EQ(failure_of([&] { model.RowHeight(1, -1); }), 380);
-    EXPECT_EQ(failure_of([&] { model.ColWidth(1, -1); }), 380);
-    EXPECT_EQ(failure_of([&] { model.Rows(0); }), 380);
-    EXPECT_EQ(failure_of([&] { model.Cols(0); }), 380);
-    EXPECT_EQ(failure_of([&] { model.FixedCols(5); }), 380);
-    EXPECT_EQ(failure_of([&] { model.TopRow(0); }), 380);
-    EXPECT_EQ(failure_of([&] { model.TopRow(3); }), 380);
-    EXPECT_EQ(failure_of([&] { model.LeftCol(4); }), 380);
+    EXPECT_EQ(support::failure_number([&] { model.RowHeight(1, -1); }), 380);
+    EXPECT_EQ(support::failure_number([&] { model.ColWidth(1, -1); }), 380);
+    EXPECT_EQ(support::failure_number([&] { model.Rows(0); }), 380);
+    EXPECT_EQ(support::failure_number([&] { model.Cols(0); }), 380);
+    EXPECT_EQ(support::failure_number([&] { model.FixedCols(5); }), 380);
+    EXPECT_EQ(support::failure_number([&] { model.TopRow(0); }), 380);
+    EXPECT_EQ(support::failure_number([&] { model.TopRow(3); }), 380);
+    EXPECT_EQ(support::failure_number([&] { model.LeftCol(4); }), 380);
 }
 
 //   0,0 0,1 0,2          0,0 0,1 0,2  +          0,0 0,1

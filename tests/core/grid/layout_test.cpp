@@ -1,6 +1,6 @@
 #include "grid/layout.h"
 
-#include "core/grid/failure_number.h"
+#include "support/failure_number.h"
 #include "support/grid_world.h"
 
 #include <gtest/gtest.h>
@@ -103,7 +103,7 @@ TEST_F(LayoutTest, MapsRowsToSlotsAndBack) {
     EXPECT_EQ(layout.slot_of_row(5), 1);
     EXPECT_EQ(layout.first_row_of(2), 9);
     layout.CellsPerSlot = 0;
-    EXPECT_EQ(failure_of([&] { layout.slot_of_row(1); }), 6);
+    EXPECT_EQ(support::failure_number([&] { layout.slot_of_row(1); }), 6);
 }
 
 } // namespace

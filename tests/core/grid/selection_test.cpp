@@ -1,6 +1,6 @@
 #include "grid/selection.h"
 
-#include "core/grid/failure_number.h"
+#include "support/failure_number.h"
 #include "support/grid_world.h"
 
 #include <gtest/gtest.h>
@@ -9,8 +9,8 @@ namespace {
 
 TEST(Selection, FailsWith91WhileNoCellIsSelected) {
     const grid::Selection selection;
-    EXPECT_EQ(failure_of([&] { selection.selected(); }), 91);
-    EXPECT_EQ(failure_of([&] { selection.drag_source(); }), 91);
+    EXPECT_EQ(support::failure_number([&] { selection.selected(); }), 91);
+    EXPECT_EQ(support::failure_number([&] { selection.drag_source(); }), 91);
 }
 
 TEST(Selection, IsTheGridsOwnRecordNotACopy) {

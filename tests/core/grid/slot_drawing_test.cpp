@@ -37,17 +37,7 @@ TEST(SortTable, PutsCapitalsFirstAndLeavesEqualKeysInOrder) {
     EXPECT_EQ(table[3].record, 2);
 }
 
-class SlotDrawing : public testing::Test {
-protected:
-    void draw(int slot, int col, const std::string& sought = "") {
-        grid::Drawing drawing{world.calendar.msgSched, world.calendar.writer, span_list};
-        layout.Slots(slot, col).Write_To_Grid(drawing, sought, layout.OneRowPerUser, result);
-    }
-
-    SlotWorld world;
-    grid::Layout& layout = world.calendar.layout;
-    std::string span_list, result;
-};
+class SlotDrawing : public SlotDrawingTest {};
 
 TEST_F(SlotDrawing, SplitsTheUsersNameFromTheDetail) {
     EXPECT_EQ(grid::clsMsgSchedSlot::ExtractUserName("Ann||1/5/2024 9:00:00 AMLunch||x"), "Ann");

@@ -7,22 +7,14 @@ namespace {
 
 using Column = std::vector<std::string>;
 
-class SlotOverflow : public testing::Test {
+class SlotOverflow : public SlotDrawingTest {
 protected:
-    void draw(int slot, int col, const std::string& sought = "") {
-        grid::Drawing drawing{world.calendar.msgSched, world.calendar.writer, span_list};
-        layout.Slots(slot, col).Write_To_Grid(drawing, sought, layout.OneRowPerUser, result);
-    }
     void put_many(int slot, int col, const std::string& names) {
         for (const char name : names)
             world.put(
                 slot, col,
                 {.id = std::string(1, name), .user = std::string(1, name), .text = std::string("text ") + name});
     }
-
-    SlotWorld world;
-    grid::Layout& layout = world.calendar.layout;
-    std::string span_list, result;
 };
 
 TEST_F(SlotOverflow, ShowsAsManyActivitiesAsRowsWithoutAPlus) {

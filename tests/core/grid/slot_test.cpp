@@ -1,7 +1,7 @@
 #include "grid/slot.h"
 
-#include "core/grid/failure_number.h"
 #include "core/grid/slot_world.h"
+#include "support/failure_number.h"
 
 #include <gtest/gtest.h>
 
@@ -107,11 +107,11 @@ TEST_F(SlotTest, ForgetsItsRecordsAndItsGrowthButNotThatItChanged) {
 
 TEST_F(SlotTest, IsFoundInsideTheGridOnly) {
     grid::Slots& slots = world.calendar.layout.Slots;
-    EXPECT_EQ(failure_of([&] { slots(9, 1); }), 9);
-    EXPECT_EQ(failure_of([&] { slots(-1, 1); }), 9);
-    EXPECT_EQ(failure_of([&] { slots(0, 0); }), 9);
-    EXPECT_EQ(failure_of([&] { slots(0, 8); }), 9);
-    EXPECT_EQ(failure_of([&] { slot().record(3); }), 9);
+    EXPECT_EQ(support::failure_number([&] { slots(9, 1); }), 9);
+    EXPECT_EQ(support::failure_number([&] { slots(-1, 1); }), 9);
+    EXPECT_EQ(support::failure_number([&] { slots(0, 0); }), 9);
+    EXPECT_EQ(support::failure_number([&] { slots(0, 8); }), 9);
+    EXPECT_EQ(support::failure_number([&] { slot().record(3); }), 9);
 }
 
 } // namespace

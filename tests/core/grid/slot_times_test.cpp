@@ -1,6 +1,6 @@
 #include "grid/slot_times.h"
 
-#include "core/grid/failure_number.h"
+#include "support/failure_number.h"
 #include "support/fake_message_box.h"
 #include "support/memory_files.h"
 
@@ -55,9 +55,9 @@ TEST_F(SlotTimesTest, BeyondMidnightAreOnTheNextDay) {
 TEST_F(SlotTimesTest, FailWith13WhenTheTextIsNone) {
     set("Slot0", "soon");
     set("DurationSlot0", "long");
-    EXPECT_EQ(failure_of([&] { times.start(0); }), 13);
-    EXPECT_EQ(failure_of([&] { times.start(0); }), 13);
-    EXPECT_EQ(failure_of([&] { times.duration(0); }), 13);
+    EXPECT_EQ(support::failure_number([&] { times.start(0); }), 13);
+    EXPECT_EQ(support::failure_number([&] { times.start(0); }), 13);
+    EXPECT_EQ(support::failure_number([&] { times.duration(0); }), 13);
 }
 
 } // namespace

@@ -3,6 +3,8 @@
 #include "support/grid_world.h"
 #include "values/text.h"
 
+#include <gtest/gtest.h>
+
 #include <string>
 #include <vector>
 
@@ -68,4 +70,17 @@ private:
                 layout.Cells(row, col).Clear();
         model.clear_contents(1, model.Rows() - 1, layout.FixedCols, model.Cols() - 1);
     }
+};
+
+// Draws slots of that calendar.
+class SlotDrawingTest : public testing::Test {
+protected:
+    void draw(int slot, int col, const std::string& sought = "") {
+        grid::Drawing drawing{world.calendar.msgSched, world.calendar.writer, span_list};
+        layout.Slots(slot, col).Write_To_Grid(drawing, sought, layout.OneRowPerUser, result);
+    }
+
+    SlotWorld world;
+    grid::Layout& layout = world.calendar.layout;
+    std::string span_list, result;
 };

@@ -1,6 +1,6 @@
 #include "grid/titles.h"
 
-#include "core/grid/failure_number.h"
+#include "support/failure_number.h"
 #include "support/grid_world.h"
 
 #include <gtest/gtest.h>
@@ -55,7 +55,7 @@ TEST_F(TitlesTest, AbbreviateAllMonthsButMayWithAFullStop) {
                                             "Jul.", "Aug.", "Sep.", "Oct.", "Nov.", "Dec."};
     for (int month = 1; month <= 12; ++month)
         EXPECT_EQ(grid::Titles::GetMonth(month), names[static_cast<std::size_t>(month - 1)]);
-    EXPECT_EQ(failure_of([] { grid::Titles::GetMonth(13); }), 9);
+    EXPECT_EQ(support::failure_number([] { grid::Titles::GetMonth(13); }), 9);
 }
 
 //   row 1   08:00 AM   Ann        bold, centred     Color4, to the left

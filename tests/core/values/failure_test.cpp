@@ -27,3 +27,13 @@ TEST(Failure, EachNumberHasADescriptionOfItsOwn) {
         EXPECT_TRUE(descriptions.insert(description_of(static_cast<FailureNumber>(number))).second) << number;
     EXPECT_FALSE(descriptions.contains(description_of(static_cast<FailureNumber>(1))));
 }
+
+TEST(IgnoringFailure, LetsTheNextStatementRunAfterAFailureAndThroughAnythingElse) {
+    bool ran = false;
+    values::ignoring_failure([&] {
+        ran = true;
+        throw Failure(FailureNumber::type_mismatch);
+    });
+    EXPECT_TRUE(ran);
+    EXPECT_THROW(values::ignoring_failure([] { throw std::string("no failure"); }), std::string);
+}

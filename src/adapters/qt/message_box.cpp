@@ -38,6 +38,10 @@ std::vector<Choice> choices_of(host::Buttons buttons) {
         return {{"OK", QMessageBox::AcceptRole, Answer::ok}, {"Cancel", QMessageBox::RejectRole, Answer::cancel}};
     case host::Buttons::yes_no:
         return {{"Yes", QMessageBox::YesRole, Answer::yes}, {"No", QMessageBox::NoRole, Answer::no}};
+    case host::Buttons::cancel_try_continue:
+        return {{"Cancel", QMessageBox::RejectRole, Answer::cancel},
+                {"Try Again", QMessageBox::AcceptRole, Answer::try_again},
+                {"Continue", QMessageBox::AcceptRole, Answer::go_on}};
     case host::Buttons::ok:
         break;
     }

@@ -5,8 +5,8 @@
 namespace host {
 
 enum class Icon { none, critical, question, exclamation, information };
-enum class Buttons { ok, ok_cancel, yes_no };
-enum class Answer { ok, cancel, yes, no };
+enum class Buttons { ok, ok_cancel, yes_no, cancel_try_continue };
+enum class Answer { ok, cancel, yes, no, try_again, go_on };
 
 struct Message {
     std::string text; // a carriage return begins a new line

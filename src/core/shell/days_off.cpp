@@ -36,10 +36,11 @@ void DaysOff::Form_Load() {
 void DaysOff::Form_Unload() {
     need_.guarded("in frmHolidays: Sub Form_Unload - Line # ", [&](host::Step& step) {
         step = 10;
-        if (changed)
+        if (changed) // whatever the answer
             need_.box.show({.text = "You will need to restart the program for the changes to take effect.",
                             .title = need_.application.title,
-                            .icon = host::Icon::information});
+                            .icon = host::Icon::information,
+                            .buttons = host::Buttons::cancel_try_continue});
     });
 }
 

@@ -65,6 +65,10 @@ TEST(MessageBox, GivesTheAnswerOfTheButtonThatWasPressed) {
     const host::Message offer{.text = "Go on?", .title = "Orvanta", .buttons = Buttons::ok_cancel};
     EXPECT_EQ(show(offer, [](QMessageBox& box) { button(box, "OK")->click(); }), Answer::ok);
     EXPECT_EQ(show(offer, [](QMessageBox& box) { button(box, "Cancel")->click(); }), Answer::cancel);
+    const host::Message notice{.text = "Restart", .title = "Orvanta", .buttons = Buttons::cancel_try_continue};
+    EXPECT_EQ(show(notice, [](QMessageBox& box) { button(box, "Cancel")->click(); }), Answer::cancel);
+    EXPECT_EQ(show(notice, [](QMessageBox& box) { button(box, "Try Again")->click(); }), Answer::try_again);
+    EXPECT_EQ(show(notice, [](QMessageBox& box) { button(box, "Continue")->click(); }), Answer::go_on);
 }
 
 TEST(MessageBox, CountsItsClosingAsItsLastButton) {

@@ -74,8 +74,11 @@ void WindowFace::hide() { window_.hide(); }
 int WindowFace::present_width() const { return twips(window_.width()); }
 int WindowFace::present_height() const { return twips(window_.height()); }
 
-// The bar stands above the year and the grid below it, all as wide as the grid and in the middle of the window.
+// The bar stands above the year and the grid below it, all as wide as the grid and in the middle of the window,
+// which keeps room for the bar's controls beside each other.
 void WindowFace::set_grid_size(int width, int height) {
+    const int beside_grid = window_.width() - pixels(width);
+    window_.setMinimumWidth(controls_.picBar->minimumSizeHint().width() + beside_grid);
     const QSize size(std::max(pixels(width), 0), std::max(pixels(height), 0));
     const int left = (controls_.picForm->width() - size.width()) / 2;
     controls_.picBar->setGeometry(left, controls_.picBar->y(), size.width(), controls_.picBar->height());

@@ -234,7 +234,7 @@ TEST_F(FrmMain, HidesAndWaitsTwoSecondsWhenItRestartsACT) {
 TEST_F(FrmMain, KeepsTheGridAsLargeAsItIsTold) {
     load();
     const QWidget* grid = control<QWidget>("msgSched");
-    for (const QSize size : {QSize(1000, 600), QSize(700, 400), QSize(140, 245)}) {
+    for (const QSize size : {QSize(1000, 600), QSize(700, 400), QSize(700, 245)}) {
         window.resize(size);
         settle();
         EXPECT_EQ(grid->width(), qRound((size.width() * 15 - 1000) / 15.0));

@@ -182,6 +182,11 @@ TEST_F(NavigationControls, ShowTheHourglassOverTheGridWhileTheyWork) {
     database.now = clock.time.plus_minutes(1);
     add_meeting(11);
     EXPECT_TRUE(hourglass_stood_while([&] { control<QAction>("mnuRefresh")->trigger(); }));
+    add_meeting(12);
+    EXPECT_TRUE(hourglass_stood_while([&] {
+        for (int minute = 0; minute < 15; ++minute)
+            tmrRefresh.fire();
+    }));
 }
 
 TEST_F(NavigationControls, AreReachedInTheirOrderByTheTabKey) {
@@ -205,8 +210,8 @@ TEST_F(NavigationControls, AnswerTheirKeys) {
     EXPECT_TRUE(QTest::qWaitFor([&] { return is_checked("chkView_1"); }));
 }
 
-TEST_F(NavigationControls, FitBesideEachOtherInANarrowWindow) {
-    for (const int width : {680, 1200}) {
+TEST_F(NavigationControls, FitBesideEachOtherHoweverNarrowTheWindowIsMade) {
+    for (const int width : {1200, 680, 400, 134}) {
         window.resize(width, 500);
         settle();
         int right = 0;

@@ -107,6 +107,13 @@ void GridPainter::paint_contents(const Scene& scene, int row, int col) {
             text = without_leading_blanks(text);
         }
     }
+    if (horizontal(cell.alignment) == 0) {
+        // Without a picture they set all lines in, at the most as far as a picture would.
+        const std::string_view bare = without_leading_blanks(text);
+        const int blanks = static_cast<int>(text.size() - bare.size());
+        room.setLeft(room.left() + std::min(blanks * texts_.blank_width(), style::picture_room));
+        text = bare;
+    }
     if (!text.empty() && room.width() > 0) {
         const TextBlock& block = texts_.block(text, cell.bold, room.width(), room.height() - 2 * padding);
         const bool in_title_row = row < scene.rows.fixed();

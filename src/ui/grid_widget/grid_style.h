@@ -18,7 +18,8 @@ inline constexpr int padding_x = 5; // between a cell's edge and what it shows, 
 inline constexpr int padding_y = 4;
 inline constexpr int picture_gap = 4; // between a picture and the text
 inline constexpr int largest_picture = 32;
-inline constexpr int frame_width = 2; // around the current cell
+inline constexpr int picture_room = 16 + picture_gap; // what a picture as shipped takes
+inline constexpr int frame_width = 2;                 // around the current cell
 
 inline constexpr QColor ground{0xff, 0xff, 0xff};
 inline constexpr QColor beyond{0xf4, 0xf5, 0xf7}; // behind the last row and column

@@ -108,6 +108,7 @@ void TextBlock::draw(QPainter& painter, QPoint top_left, int width, Side side, b
 void TextBlocks::set_font(const QFont& font) {
     regular_ = bold_ = font;
     bold_.setBold(true);
+    blank_width_ = QFontMetrics(font).horizontalAdvance(QLatin1Char(' '));
     blocks_.clear();
 }
 

@@ -51,6 +51,7 @@ public:
     // The block of a text in UTF-8. It stays good until the next call.
     const TextBlock& block(std::string_view text, bool bold, int width, int height);
     qsizetype kept() const { return blocks_.size(); }
+    int blank_width() const { return blank_width_; } // pixels
 
     static constexpr int most_kept = 2048;
 
@@ -66,6 +67,7 @@ private:
     };
 
     QFont regular_, bold_;
+    int blank_width_ = 0;
     QCache<Key, TextBlock> blocks_{most_kept};
 };
 

@@ -181,6 +181,29 @@ TEST(GridPainter, KeepsLeadingBlanksWithoutAPicture) {
     EXPECT_GT(dark_pixels(image, cell), 0);
 }
 
+TEST(GridPainter, SetsAllLinesInByLeadingBlanksAsFarAsAPictureWouldAndNoFarther) {
+    Page page;
+    page.model.RowHeight(1, 900);
+    const QRect beside(200 + ui::style::padding_x + ui::style::picture_room, 20, 69, 59);
+    page.at(1, 2).CellPicture(call);
+    page.model.Text("       Theo Sterling\rWheel Lane");
+    const QImage beside_a_picture = page.drawn().copy(beside);
+    page.model.CellPicture({});
+    for (const int blanks : {7, 14, 200}) {
+        page.model.Text(std::string(static_cast<std::size_t>(blanks), ' ') + "Theo Sterling\rWheel Lane");
+        const QImage image = page.drawn();
+        EXPECT_EQ(image.copy(beside), beside_a_picture) << blanks;
+        EXPECT_EQ(dark_pixels(image, QRect(200, 20, beside.left() - 200, 59)), 0) << blanks;
+    }
+}
+
+TEST(GridPainter, StrikesNoBlanksThrough) {
+    Page page;
+    page.at(1, 2).Text("       lll");
+    page.model.CellFontStrikeThrough(true);
+    EXPECT_EQ(dark_pixels(page.drawn(), QRect(200, 20, 15, 39)), 0);
+}
+
 TEST(GridPainter, DrawsNothingForAMissingPicture) {
     Page page;
     const QImage before = page.drawn();

@@ -45,12 +45,13 @@ protected:
                                                     .contacts = {chris},
                                                     .recurrence = recurrence});
     }
-    void add_broken(const BrokenSeries& broken) {
-        const std::string id =
+    std::string add_broken(const BrokenSeries& broken) {
+        std::string id =
             add(broken_hour,
                 {.kind = broken.kind, .days_of_week = 127, .weeks_of_month = 7, .days_of_month = 0x7FFFFFFF});
         store::Connection(database.path(), store::Connection::Mode::read_write)
             .run("UPDATE activities SET " + broken.change + " WHERE id = ?", id);
+        return id;
     }
     Days shown_at(int hour) const {
         Days days;
@@ -82,6 +83,16 @@ TEST_P(BrokenSeriesTest, LeavesTheOthersInTheGrid) {
     calendar.menu.mnuRefresh_Click();
     EXPECT_EQ(boxes(), expected);
     EXPECT_EQ(shown_at(sound_hour), all_week);
+}
+
+TEST_P(BrokenSeriesTest, IsReadAgainAloneWithoutHarmToTheOthers) {
+    const std::string id = add_broken(GetParam());
+    calendar.start_up.Form_Load();
+    box.shown.clear();
+    calendar.engine.quick_refresh.Refresh_Activity(id, false);
+    EXPECT_LE(box.shown.size(), 1U);
+    EXPECT_EQ(shown_at(sound_hour), all_week);
+    EXPECT_EQ(shown_at(broken_hour), GetParam().shown);
 }
 
 std::vector<BrokenSeries> broken_series() {

@@ -8,6 +8,7 @@ using act::activity_field::regarding;
 using act::activity_field::start;
 using store::RecurrenceKind;
 using support::daily;
+using support::failure_number;
 using support::meeting;
 using support::monday;
 using support::rest_of;

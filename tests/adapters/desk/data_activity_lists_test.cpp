@@ -4,6 +4,7 @@ using act::activity_field::contact_count;
 using act::activity_field::regarding;
 using act::activity_field::start;
 using support::daily;
+using support::failure_number;
 using support::meeting;
 using support::monday;
 using support::text;

@@ -6,6 +6,7 @@ using act::activity_field::id;
 using act::activity_field::regarding;
 using store::RecurrenceKind;
 using support::daily;
+using support::failure_number;
 using support::meeting;
 using support::monday;
 using support::rest_of;

@@ -24,12 +24,7 @@ Value words(const char* value) { return std::string(value); }
 
 int failure_of_setting(int number, const Value& value) {
     Activity activity;
-    try {
-        set_field(activity, number, value, locale);
-    } catch (const values::Failure& failure) {
-        return failure.number();
-    }
-    return 0;
+    return support::failure_number([&] { set_field(activity, number, value, locale); });
 }
 
 Value read(const Activity& activity, int number) { return row_field(row_of(activity), number); }

@@ -1,12 +1,12 @@
 #pragma once
 
 #include "adapters/desk/desk_data.h"
+#include "support/failure_number.h"
 #include "support/temporary_database.h"
 #include "values/failure.h"
 
 #include <gtest/gtest.h>
 
-#include <functional>
 #include <string>
 #include <vector>
 
@@ -50,14 +50,6 @@ protected:
     std::unique_ptr<act::Database> database = desk::make_database([this] { return file.path(); });
 
     void SetUp() override { database->OpenEx(""); }
-    int failure_number(const std::function<void()>& action) {
-        try {
-            action();
-        } catch (const values::Failure& failure) {
-            return failure.number();
-        }
-        return 0;
-    }
 };
 
 } // namespace support

@@ -2,6 +2,7 @@
 #include "store/contact_fields.h"
 
 using support::DeskData;
+using support::failure_number;
 using support::text;
 using support::Value;
 namespace contact_field = store::contact_field;

@@ -3,6 +3,7 @@
 #include "adapters/desk/data_fixture.h"
 
 using support::DeskData;
+using support::failure_number;
 using support::meeting;
 using support::rest_of;
 using support::text;

@@ -5,7 +5,7 @@ import os
 import signal
 import unittest
 
-from desktop import Atspi, Desktop, Grid, names, press, press_to_open_a_box, wait_for
+from desktop import Atspi, Desktop, Grid, find, names, press, press_to_open_a_box, wait_for
 from sample_week import cells_of_week, rows_of_week, users, week_of
 
 PLAIN_ONLY = "[Settings]\r\nCheckRecurring=0\r\n"
@@ -140,15 +140,28 @@ class CalendarBesideTheDesk(unittest.TestCase):
         finally:
             desk.send_signal(signal.SIGCONT)
 
-    def test_a_settings_file_that_has_gone_is_told_and_none_is_made_in_the_programs_folder(self):
+    def test_a_settings_file_that_has_gone_is_told_and_comes_back_at_its_place_with_the_first_write(self):
         self.start_both()
         press(self.calendar, Atspi.Role.MENU_ITEM, "Exit")
         self.calendar.wait(10)
-        self.write_user_value("SettingsFile", self.desktop.path("elsewhere.ini"))
+        stale, in_programs_folder = self.desktop.path("elsewhere.ini"), self.desktop.path("programs", "Orvanta.ini")
+        self.write_user_value("SettingsFile", stale)
         self.calendar = self.desktop.start("orvanta")
         self.dismiss_box(self.calendar, "The program's settings file has been deleted or moved or is unaccessible.")
         self.desktop.wait_for_window("^Orvanta$", self.calendar)
-        self.assertFalse(os.path.exists(self.desktop.path("programs", "Orvanta.ini")))
+        self.assertFalse(os.path.exists(stale))
+        press_to_open_a_box(self.calendar, Atspi.Role.MENU_ITEM, "Days Off...")
+        press(self.calendar, Atspi.Role.PUSH_BUTTON, "OK")
+        wait_for(lambda: os.path.exists(stale), "the settings file")
+        wait_for(lambda: find(self.calendar, Atspi.Role.PUSH_BUTTON, "OK") is None, "the end of the dialog")
+        with open(stale, newline="") as file:
+            self.assertEqual(file.read(), "[DaysOff]\r\n" + "".join(f"{day}=0\r\n" for day in range(1, 8)))
+        self.assertFalse(os.path.exists(in_programs_folder))
+        press(self.calendar, Atspi.Role.MENU_ITEM, "Exit")
+        self.assertEqual(self.calendar.wait(10), 0)
+        self.calendar = self.desktop.start("orvanta")
+        self.desktop.wait_for_window("^Orvanta$", self.calendar)
+        self.assertEqual(names(self.calendar, Atspi.Role.ALERT), [])
 
     def test_broken_settings_files_give_the_usual_calendar(self):
         for name, content in (("noise", os.urandom(100_000)), ("zeros", b"\0" * 50_000),

@@ -6,8 +6,7 @@ namespace shell {
 
 namespace {
 
-constexpr int beside_grid = 1000; // twips of the window's width that aren't the grid's
-constexpr int round_grid = 1800;  // the same of its height
+constexpr int round_grid = 1800; // twips of the window's height that aren't the grid's
 
 } // namespace
 

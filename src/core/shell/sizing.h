@@ -9,6 +9,8 @@ namespace shell {
 // Keeps the grid and the year label as large as the window lets them be.
 class Sizing {
 public:
+    static constexpr int beside_grid = 1000; // twips of the window's width that aren't the grid's
+
     // `bLoading` is true until the window has first been shown.
     Sizing(MainWindow& window, grid::GridModel& msgSched, const bool& bLoading, const host::Guard& guarded)
         : window_(window), msgSched_(msgSched), bLoading_(bLoading), guarded_(guarded) {}

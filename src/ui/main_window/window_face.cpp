@@ -1,6 +1,7 @@
 #include "main_window/window_face.h"
 
 #include "grid_widget/grid_style.h"
+#include "shell/sizing.h"
 #include "ui_frmMain.h"
 
 #include <QGuiApplication>
@@ -20,7 +21,10 @@ constexpr int thickest_border = 8;
 
 WindowFace::WindowFace(QMainWindow& window, Ui::frmMain& controls, std::function<void()> unload)
     : view_boxes{controls.chkView_0, controls.chkView_1}, half_day_boxes{controls.chkAMPM_0, controls.chkAMPM_1},
-      window_(window), controls_(controls), unload_(std::move(unload)) {}
+      window_(window), controls_(controls), unload_(std::move(unload)) {
+    // The bar is as wide as the grid, and its controls have to stand beside each other.
+    window.setMinimumWidth(controls.picBar->minimumSizeHint().width() + pixels(shell::Sizing::beside_grid));
+}
 
 // The frame's corner and the size inside the frame, as move and resize take them.
 QRect WindowFace::normal_place() const {
@@ -74,11 +78,8 @@ void WindowFace::hide() { window_.hide(); }
 int WindowFace::present_width() const { return twips(window_.width()); }
 int WindowFace::present_height() const { return twips(window_.height()); }
 
-// The bar stands above the year and the grid below it, all as wide as the grid and in the middle of the window,
-// which keeps room for the bar's controls beside each other.
+// The bar stands above the year and the grid below it, all as wide as the grid and in the middle of the window.
 void WindowFace::set_grid_size(int width, int height) {
-    const int beside_grid = window_.width() - pixels(width);
-    window_.setMinimumWidth(controls_.picBar->minimumSizeHint().width() + beside_grid);
     const QSize size(std::max(pixels(width), 0), std::max(pixels(height), 0));
     const int left = (controls_.picForm->width() - size.width()) / 2;
     controls_.picBar->setGeometry(left, controls_.picBar->y(), size.width(), controls_.picBar->height());

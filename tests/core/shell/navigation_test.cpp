@@ -79,6 +79,19 @@ TEST_F(Navigation, TakesTheColoursOfHolidaysAlong) {
     EXPECT_EQ(grid.cell(1, 5).back_colour, holiday);
 }
 
+TEST_F(Navigation, GoesOnBehindTheBoxOfABrokenInactiveTime) {
+    add(day(2024, 1, 18));
+    have_settings("[Off]\nMonday=late\n");
+    start();
+    box.shown.clear();
+    navigation.cmdNext_Click();
+    EXPECT_EQ(boxes(), Texts{"Error 9: 'Subscript out of range'"});
+    expect_view(day(2024, 1, 14), day(2024, 1, 20));
+    EXPECT_NE(at_nine(6), "");
+    EXPECT_TRUE(pointer_is_back());
+    EXPECT_EQ(window.calls.back(), "unlock_updates");
+}
+
 TEST_F(Navigation, OfTheButtonsGivesTheGridTheFocusAndEmptiesTheJumpList) {
     start();
     window.jump = "Today";

@@ -258,6 +258,14 @@ TEST_F(FrmMain, TakesUpItsPlaceAndState) {
     EXPECT_EQ(window.size(), QSize(800, 500));
 }
 
+TEST_F(FrmMain, ComesUpWithRoomForItsControlsBesideAStoredWidthThatIsTooSmall) {
+    store("Width", "3000");
+    store("Height", "6000");
+    load();
+    expect_controls_beside_each_other();
+    EXPECT_EQ(control<QWidget>("msgSched")->width(), control<QWidget>("picBar")->width());
+}
+
 TEST_F(FrmMain, KeepsTheSizeOfItsDesignBesideAStoredOneThatIsTooSmall) {
     store("Width", "2000");
     store("Height", "9000");

@@ -32,8 +32,8 @@ TEST_F(WindowFace, TakesItsPlaceOneEdgeAtATime) {
     EXPECT_EQ(window.pos(), QPoint(101, 30)); // to the nearest pixel
     face().set_top(-15);
     EXPECT_EQ(window.pos(), QPoint(101, -1));
-    face().set_size(9000, 6000);
-    EXPECT_EQ(window.size(), QSize(600, 400));
+    face().set_size(12000, 6000);
+    EXPECT_EQ(window.size(), QSize(800, 400));
 }
 
 TEST_F(WindowFace, OfAMaximisedOrMinimisedWindowTellsWhatItGoesBackTo) {

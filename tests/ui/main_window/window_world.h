@@ -5,7 +5,9 @@
 #include "support/platform_world.h"
 #include "support/temporary_database.h"
 
+#include <QComboBox>
 #include <QCoreApplication>
+#include <gtest/gtest.h>
 
 #include <memory>
 #include <string>
@@ -44,6 +46,19 @@ public:
     template <typename Control>
     Control* control(const char* name) {
         return window.findChild<Control*>(name);
+    }
+
+    void expect_controls_beside_each_other() {
+        int right = 0;
+        for (const char* name : {"cmdPrevious", "cmdNext", "lblGoTo", "cboGoTo", "chkView_0", "chkView_1",
+                                 "chkAMPM_0", "chkAMPM_1", "cboUsers"}) {
+            const auto* widget = control<QWidget>(name);
+            EXPECT_GE(widget->x(), right) << name << " at " << window.width();
+            EXPECT_LE(widget->geometry().right(), widget->parentWidget()->width()) << name;
+            right = widget->geometry().right();
+            const bool may_shrink = qobject_cast<const QComboBox*>(widget) != nullptr;
+            EXPECT_TRUE(may_shrink || widget->width() >= widget->minimumSizeHint().width()) << name;
+        }
     }
 
     TemporaryDatabase database;

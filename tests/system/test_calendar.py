@@ -154,8 +154,8 @@ class CalendarBesideTheDesk(unittest.TestCase):
         press(self.calendar, Atspi.Role.PUSH_BUTTON, "OK")
         wait_for(lambda: os.path.exists(stale), "the settings file")
         wait_for(lambda: find(self.calendar, Atspi.Role.PUSH_BUTTON, "OK") is None, "the end of the dialog")
-        with open(stale, newline="") as file:
-            self.assertEqual(file.read(), "[DaysOff]\r\n" + "".join(f"{day}=0\r\n" for day in range(1, 8)))
+        with open(stale) as file:
+            self.assertEqual(file.read(), "[DaysOff]\n" + "".join(f"{day}=0\n" for day in range(1, 8)))
         self.assertFalse(os.path.exists(in_programs_folder))
         press(self.calendar, Atspi.Role.MENU_ITEM, "Exit")
         self.assertEqual(self.calendar.wait(10), 0)

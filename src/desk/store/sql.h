@@ -88,8 +88,9 @@ inline constexpr std::string_view clear_further_contacts = "DELETE FROM further_
 
 inline constexpr std::string_view exceptions = "SELECT date FROM exceptions WHERE activity = ? ORDER BY date";
 inline constexpr std::string_view all_exceptions = "SELECT activity, date FROM exceptions ORDER BY activity, date";
-inline constexpr std::string_view add_exception =
-    "INSERT INTO exceptions (activity, date) VALUES (?, ?) ON CONFLICT DO NOTHING";
+inline constexpr std::string_view add_exception = // to a series alone
+    "INSERT INTO exceptions (activity, date) SELECT id, ?2 FROM activities WHERE id = ?1 AND recurrence <> 0"
+    " ON CONFLICT DO NOTHING";
 inline constexpr std::string_view remove_exception = "DELETE FROM exceptions WHERE activity = ? AND date = ?";
 inline constexpr std::string_view clear_exceptions = "DELETE FROM exceptions WHERE activity = ?";
 

@@ -316,6 +316,21 @@ TEST_F(Activities, AreUnchangedByAnExceptionThatIsThereAndByTheRemovalOfOneThatI
     EXPECT_EQ(store.activity(id)->revision, before);
 }
 
+TEST_F(Activities, HaveNoExceptionsWhileTheyDontRepeat) {
+    Activity plain = at(monday);
+    plain.exceptions = {DateTime::of(2024, 3, 20)};
+    const std::string id = store.add(plain);
+    const std::int64_t before = store.revision();
+    store.add_exception(id, DateTime::of(2024, 3, 21));
+    EXPECT_EQ(store.revision(), before);
+    Activity series = *store.activity(id);
+    series.recurrence.kind = RecurrenceKind::daily;
+    store.update(series);
+    EXPECT_TRUE(store.activity(id)->exceptions.empty());
+    store.add_exception(id, DateTime::of(2024, 3, 22));
+    EXPECT_EQ(store.activity(id)->exceptions, std::vector<DateTime>{DateTime::of(2024, 3, 22)});
+}
+
 TEST_F(Activities, RefuseAnExceptionOfOneThatIsGone) {
     EXPECT_NE(store_failure([&] { store.add_exception("A99999999999", monday); }).find("deleted"),
               std::string::npos);

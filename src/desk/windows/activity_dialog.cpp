@@ -160,6 +160,8 @@ void ActivityDialog::store_typed() {
 }
 
 void ActivityDialog::accept() {
+    if (result() == Accepted)
+        return; // the second click of a double one, which would store a new activity twice
     if (attempt(this, [this] { store_typed(); }))
         QDialog::accept();
 }

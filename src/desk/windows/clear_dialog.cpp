@@ -72,6 +72,8 @@ store::Activity ClearDialog::typed() const {
 }
 
 bool ClearDialog::may_clear() {
+    if (result() == Accepted)
+        return false; // the second click of a double one
     const bool is_series_ended = is_series() && !activity_.cleared && ui_->cleared_box->isChecked();
     return !is_series_ended || confirm(this, tr("Clear Activity"),
                                        tr("Clear the whole series \"%1\"?").arg(shown(activity_.regarding)));
@@ -83,6 +85,8 @@ void ClearDialog::accept() {
 }
 
 void ClearDialog::erase() {
+    if (result() == Accepted)
+        return;
     const QString question = is_series() ? tr("Erase the whole series \"%1\"? It can't be brought back.")
                                          : tr("Erase the activity \"%1\"? It can't be brought back.");
     if (!confirm(this, tr("Erase Activity"), question.arg(shown(activity_.regarding))))

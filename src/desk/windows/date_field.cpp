@@ -8,7 +8,14 @@
 #include <QCalendarWidget>
 #include <QKeyEvent>
 
+#include <algorithm>
+
 namespace windows {
+namespace {
+
+const QDate first_date(100, 1, 1), last_date(9999, 12, 31); // that a record can have
+
+} // namespace
 
 DateField::DateField(QWidget* parent) : QLineEdit(parent), locale_(&values::english_us()) {
     QAction* calendar = addAction(QIcon(QStringLiteral(":/desk/calendar.svg")), TrailingPosition);
@@ -55,7 +62,7 @@ void DateField::keyPressEvent(QKeyEvent* event) {
     const int days = event->key() == Qt::Key_Up ? 1 : event->key() == Qt::Key_Down ? -1 : 0;
     const auto date = read();
     if (days != 0 && date)
-        take(date->plus_days(days));
+        take(joined(std::clamp(date_of(*date).addDays(days), first_date, last_date)));
     else
         QLineEdit::keyPressEvent(event);
 }
@@ -64,6 +71,7 @@ void DateField::show_calendar() {
     auto* calendar = new QCalendarWidget(this);
     calendar->setWindowFlag(Qt::Popup);
     calendar->setAttribute(Qt::WA_DeleteOnClose);
+    calendar->setDateRange(first_date, last_date);
     if (const auto date = read())
         calendar->setSelectedDate(date_of(*date));
     const auto pick = [this, calendar](QDate date) {

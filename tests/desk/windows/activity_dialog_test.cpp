@@ -160,6 +160,14 @@ TEST_F(ActivityDialogTest, ARecordThatSomebodyElseChangedIsntOverwrittenAndTheDi
     EXPECT_EQ(stored(call).regarding, "Theirs");
 }
 
+TEST_F(ActivityDialogTest, ADoubleClickOnOkStoresANewActivityOnce) {
+    edit(sample_activity(store::ActivityType::call, at(3, 6, 10, 30), "Once", anna, {cedar}));
+    const auto before = elsewhere()->activities({}).size();
+    ok();
+    ok();
+    EXPECT_EQ(elsewhere()->activities({}).size(), before + 1);
+}
+
 TEST_F(ActivityDialogTest, ANewActivityNeedsAContact) {
     edit(sample_activity(store::ActivityType::call, at(3, 6, 10, 30), "Alone", anna, {}));
     ok_is_refused("Choose at least one contact for the activity.");

@@ -119,6 +119,15 @@ TEST_F(ClearDialogTest, ErasesAfterAYes) {
     EXPECT_FALSE(stored(call).has_value());
 }
 
+TEST_F(ClearDialogTest, ASecondClickOnAButtonDoesNothingMore) {
+    clear(call);
+    ok();
+    change_elsewhere(call);
+    ok();
+    click(part<QPushButton>("erase_button"));
+    EXPECT_EQ(stored(call)->regarding, "Theirs");
+}
+
 TEST_F(ClearDialogTest, AsksBeforeItClearsAWholeSeries) {
     const QString question = "Clear the whole series \"Weekly round\"?";
     clear(series);

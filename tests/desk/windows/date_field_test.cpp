@@ -90,3 +90,20 @@ TEST_F(DateFieldTest, ADayIsPickedFromTheCalendar) {
     EXPECT_EQ(field.text(), "3/7/2024");
     EXPECT_FALSE(calendar->isVisible());
 }
+
+TEST_F(DateFieldTest, TheKeysStayWithinTheDatesThatThereAre) {
+    field.set_date(DateTime::of(9999, 12, 31));
+    QTest::keyClick(&field, Qt::Key_Up);
+    EXPECT_EQ(field.date(), DateTime::of(9999, 12, 31));
+    field.set_date(DateTime::of(100, 1, 1));
+    QTest::keyClick(&field, Qt::Key_Down);
+    EXPECT_EQ(field.known_date(), DateTime::of(100, 1, 1));
+}
+
+TEST_F(DateFieldTest, TheCalendarOffersNoDateThatThereIsNot) {
+    field.set_date(DateTime::of(9999, 12, 31));
+    field.actions().front()->trigger();
+    const auto* calendar = field.findChild<QCalendarWidget*>();
+    EXPECT_EQ(calendar->minimumDate(), QDate(100, 1, 1));
+    EXPECT_EQ(calendar->maximumDate(), QDate(9999, 12, 31));
+}

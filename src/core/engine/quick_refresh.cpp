@@ -108,7 +108,7 @@ void QuickRefresh::Refresh_Activity(std::string id, bool clear_selected) {
         step = 50;
         activity.Goto(id);
         step = 60;
-        if (text(activity, field::id) == id) {
+        if (!id.empty() && text(activity, field::id) == id) {
             if (activity.isRecurring())
                 place_series(activity);
             else

@@ -208,6 +208,8 @@ void GridWidget::focusOutEvent(QFocusEvent* event) {
 }
 
 void GridWidget::keyPressEvent(QKeyEvent* event) {
+    if (is_dragging_ && event->key() != Qt::Key_Escape)
+        return; // what is drawn mustn't lose the ground it came from
     const bool extends = event->modifiers() & Qt::ShiftModifier;
     if (move_cursor(model_, event->key(), event->modifiers(), rows().lines_in_view())) {
         make_visible(extends ? model_.RowSel() : model_.Row(), extends ? model_.ColSel() : model_.Col());

@@ -192,6 +192,15 @@ TEST_F(AskRefreshTest, ClearsTheSelectedCellUnlessItLiesInTheFirstSlot) {
     EXPECT_EQ(cell(1, 5).ContactID(), "");
 }
 
+TEST_F(AskRefreshTest, ASelectedCellWithoutAnActivityHasNothingToReadAgain) {
+    add("Meet", day(10));
+    fill();
+    select(row_of(3), 5);
+    quick_refresh().Ask_Refresh(true, "", 0, 0);
+    EXPECT_TRUE(world_.box.shown.empty());
+    EXPECT_EQ(world_.placed(), Texts{"1/5 Meet"});
+}
+
 TEST_F(AskRefreshTest, ReadsASecondActivityAndSelectsItsCell) {
     add("Meet", day(10));
     fill();

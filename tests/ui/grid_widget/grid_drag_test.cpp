@@ -47,6 +47,19 @@ TEST(GridDrag, DropsNothingOutsideTheGrid) {
     EXPECT_TRUE(grid.drops.empty());
 }
 
+TEST(GridDrag, HearsNoKeyButEscapeDuringADrag) {
+    WatchedGrid grid;
+    int opened = 0;
+    QObject::connect(&*grid.widget, &ui::GridWidget::double_clicked, [&] { ++opened; });
+    grid.drags = true;
+    QTest::mousePress(grid.view(), Qt::LeftButton, {}, grid.middle_of(2, 3));
+    grid.press_key(Qt::Key_Return);
+    grid.press_key(Qt::Key_Down);
+    EXPECT_EQ(opened, 0);
+    EXPECT_EQ(grid.selection(), "2,3 to 2,3");
+    EXPECT_TRUE(grid.widget->is_dragging());
+}
+
 TEST(GridDrag, AbandonsADragOnEscape) {
     WatchedGrid grid;
     grid.drags = true;

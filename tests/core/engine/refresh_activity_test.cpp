@@ -195,7 +195,8 @@ TEST_F(AskRefreshTest, ClearsTheSelectedCellUnlessItLiesInTheFirstSlot) {
 TEST_F(AskRefreshTest, ASelectedCellWithoutAnActivityHasNothingToReadAgain) {
     add("Meet", day(10));
     fill();
-    select(row_of(3), 5);
+    select(row_of(1), 5);
+    cell(1, 5).ActivityID("");
     quick_refresh().Ask_Refresh(true, "", 0, 0);
     EXPECT_TRUE(world_.box.shown.empty());
     EXPECT_EQ(world_.placed(), Texts{"1/5 Meet"});

@@ -1,7 +1,6 @@
 #include "adapters/desk/data_activity_cache.h"
 
 #include <algorithm>
-#include <iterator>
 #include <unordered_set>
 
 namespace desk {
@@ -16,14 +15,10 @@ namespace {
 // Beyond so many rows, reading afresh what is needed is cheaper than carrying on.
 constexpr std::size_t most_rows = 400000;
 constexpr int rows_at_once = 256;
-constexpr int most_steps = 4;
 
 bool by_key(const ActivityEntry& left, const ActivityEntry& right) { return left.key < right.key; }
 
-bool by_entry_key(const std::shared_ptr<const ActivityRow>& left,
-                  const std::shared_ptr<const ActivityRow>& right) {
-    return left->entry.key < right->entry.key;
-}
+const ActivityKey& key_of(const ActivityCache::Row& row) { return row->entry.key; }
 
 bool holds(const Scope& scope, std::int64_t start) { return scope.from <= start && start < scope.to; }
 
@@ -39,9 +34,9 @@ std::unordered_set<Id> ids_of(const store::ActivityChanges& changes) {
 void ActivityCache::take_in(const store::ActivityChanges& changes) {
     for (const ActivityRow& row : changes.changed) {
         const Id& id = row.entry.key.id;
-        const bool was_kept = by_id_.contains(id);
+        const bool was_kept = rows_.contains(id);
         drop(id);
-        if (was_kept || is_wanted(row))
+        if (was_kept || is_of_series(row) || is_of_loaded_scope(row))
             keep(row);
         if (exceptions_)
             (*exceptions_)[id] = reading_.exceptions(id);
@@ -52,9 +47,12 @@ void ActivityCache::take_in(const store::ActivityChanges& changes) {
         return;
     if (entries_)
         update_entries(changes);
-    update_series(changes);
     edited_since_.reset();
-    has_own_ids_alone_.reset();
+    const auto is_own = [](const ActivityRow& row) {
+        return row.entry.key.id.characters.front() == store::first_of_own_ids;
+    };
+    if (has_own_ids_alone_ != true || !std::ranges::all_of(changes.changed, is_own))
+        has_own_ids_alone_.reset();
 }
 
 void ActivityCache::update_entries(const store::ActivityChanges& changes) {
@@ -67,17 +65,6 @@ void ActivityCache::update_entries(const store::ActivityChanges& changes) {
     std::inplace_merge(entries_->begin(), entries_->begin() + kept, entries_->end(), by_key);
 }
 
-void ActivityCache::update_series(const store::ActivityChanges& changes) {
-    const std::unordered_set<Id> outdated = ids_of(changes);
-    std::erase_if(series_, [&](const auto& row) { return outdated.contains(row->entry.key.id); });
-    for (const ActivityRow& row : changes.changed)
-        if (const auto kept = by_id_.find(row.entry.key.id); kept != by_id_.end() && is_of_series(row)) {
-            const auto place =
-                std::upper_bound(series_.begin(), series_.end(), kept->second->second, by_entry_key);
-            series_.insert(place, kept->second->second);
-        }
-}
-
 bool ActivityCache::is_of_series(const ActivityRow& row) const {
     const std::int64_t start = row.entry.key.start;
     const auto& until = row.recurrence.until;
@@ -85,16 +72,15 @@ bool ActivityCache::is_of_series(const ActivityRow& row) const {
            (!until || until->seconds() >= series_dates_->from);
 }
 
-bool ActivityCache::is_wanted(const ActivityRow& row) const {
-    const auto holds_it = [&](const Scope& scope) { return holds(scope, row.entry.key.start); };
-    return is_of_series(row) || std::any_of(loaded_scopes_.begin(), loaded_scopes_.end(), holds_it);
+bool ActivityCache::is_of_loaded_scope(const ActivityRow& row) const {
+    return std::any_of(loaded_scopes_.begin(), loaded_scopes_.end(),
+                       [&](const Scope& scope) { return holds(scope, row.entry.key.start); });
 }
 
 void ActivityCache::forget_all() {
-    by_id_.clear();
     rows_.clear();
-    last_kept_ = last_given_ = rows_.end();
     loaded_scopes_.clear();
+    scoped_.clear();
     series_dates_.reset();
     series_.clear();
     edited_since_.reset();
@@ -104,33 +90,43 @@ void ActivityCache::forget_all() {
     details_.clear();
 }
 
-const std::shared_ptr<const ActivityRow>& ActivityCache::keep(ActivityRow row) {
-    const auto behind_last = last_kept_ == rows_.end() ? last_kept_ : std::next(last_kept_);
-    const ActivityKey key = row.entry.key;
-    last_kept_ = rows_.insert_or_assign(behind_last, key, std::make_shared<const ActivityRow>(std::move(row)));
-    const auto [known, is_new] = by_id_.try_emplace(key.id, last_kept_);
-    if (!is_new && known->second != last_kept_) { // it has moved since it was read
-        erase(known->second);
-        known->second = last_kept_;
-    }
-    return last_kept_->second;
-}
-
-void ActivityCache::erase(Rows::iterator row) {
-    for (Rows::iterator* last : {&last_kept_, &last_given_})
-        if (*last == row)
-            *last = rows_.end();
-    rows_.erase(row);
+const ActivityCache::Row& ActivityCache::keep(ActivityRow row) {
+    auto fresh = std::make_shared<const ActivityRow>(std::move(row));
+    Row& kept = rows_[key_of(fresh).id];
+    if (kept && (key_of(kept) != key_of(fresh) || !is_of_series(*fresh)))
+        take_out_of_order(*kept);
+    kept = std::move(fresh);
+    put_in_order(kept);
+    return kept;
 }
 
 void ActivityCache::drop(const Id& id) {
-    if (const auto known = by_id_.find(id); known != by_id_.end()) {
-        erase(known->second);
-        by_id_.erase(known);
+    if (const auto known = rows_.find(id); known != rows_.end()) {
+        take_out_of_order(*known->second);
+        rows_.erase(known);
     }
     if (exceptions_)
         exceptions_->erase(id);
     details_.erase(id);
+}
+
+void ActivityCache::put_in_order(const Row& row) {
+    if (is_of_loaded_scope(*row))
+        scoped_.insert_or_assign(key_of(row), row);
+    if (!is_of_series(*row))
+        return;
+    const auto place = std::ranges::lower_bound(series_, key_of(row), {}, key_of);
+    if (place != series_.end() && key_of(*place) == key_of(row))
+        *place = row;
+    else
+        series_.insert(place, row);
+}
+
+void ActivityCache::take_out_of_order(const ActivityRow& row) {
+    scoped_.erase(row.entry.key);
+    const auto place = std::ranges::lower_bound(series_, row.entry.key, {}, key_of);
+    if (place != series_.end() && key_of(*place) == row.entry.key)
+        series_.erase(place);
 }
 
 bool ActivityCache::is_loaded(const Scope& scope) const {
@@ -143,7 +139,10 @@ void ActivityCache::load_scope(const Scope& scope) {
         return;
     make_room();
     reading_.each_in_scope(store::DateTime::from_seconds(scope.from), store::DateTime::from_seconds(scope.to),
-                           [this](ActivityRow&& row) { keep(std::move(row)); });
+                           [this](ActivityRow&& row) {
+                               const Row& kept = keep(std::move(row));
+                               scoped_.insert_or_assign(scoped_.end(), key_of(kept), kept);
+                           });
     Scope whole = scope;
     std::erase_if(loaded_scopes_, [&](const Scope& loaded) {
         if (loaded.to < whole.from || whole.to < loaded.from)
@@ -166,15 +165,17 @@ void ActivityCache::load_entries() {
     reading_.each_entry([this](const ActivityEntry& entry) { entries_->push_back(entry); });
 }
 
-const std::vector<std::shared_ptr<const ActivityRow>>& ActivityCache::series(const SeriesDates& dates) {
+const std::vector<ActivityCache::Row>& ActivityCache::series(const SeriesDates& dates) {
     if (series_dates_ == dates)
         return series_;
     make_room();
     series_dates_.reset();
     series_.clear();
+    std::vector<Row> read;
     reading_.each_series(store::DateTime::from_seconds(dates.from), store::DateTime::from_seconds(dates.to),
-                         [this](ActivityRow&& row) { series_.push_back(keep(std::move(row))); });
-    std::sort(series_.begin(), series_.end(), by_entry_key);
+                         [&](ActivityRow&& row) { read.push_back(keep(std::move(row))); });
+    std::ranges::sort(read, {}, key_of);
+    series_ = std::move(read);
     series_dates_ = dates;
     return series_;
 }
@@ -200,8 +201,8 @@ bool ActivityCache::has_own_ids_alone() {
 const ActivityEntry* ActivityCache::first(const std::optional<Scope>& scope, Hint& hint) {
     if (scope) {
         load_scope(*scope);
-        const auto found = rows_.lower_bound({.start = scope->from, .id = {}});
-        return found != rows_.end() && holds(*scope, found->first.start) ? &found->second->entry : nullptr;
+        const auto found = scoped_.lower_bound({.start = scope->from, .id = {}});
+        return found != scoped_.end() && holds(*scope, found->first.start) ? &found->second->entry : nullptr;
     }
     load_entries();
     hint = 0;
@@ -213,9 +214,9 @@ const ActivityEntry* ActivityCache::next(const ActivityKey& place, const std::op
         load_scope(*scope);
         // From a record before the scope, the next one is the scope's first.
         const auto found = std::max(place, ActivityKey{.start = scope->from, .id = {}}) == place
-                               ? rows_.upper_bound(place)
-                               : rows_.lower_bound({.start = scope->from, .id = {}});
-        return found != rows_.end() && holds(*scope, found->first.start) ? &found->second->entry : nullptr;
+                               ? scoped_.upper_bound(place)
+                               : scoped_.lower_bound({.start = scope->from, .id = {}});
+        return found != scoped_.end() && holds(*scope, found->first.start) ? &found->second->entry : nullptr;
     }
     load_entries();
     if (hint < entries_->size() && (*entries_)[hint].key == place) {
@@ -228,37 +229,17 @@ const ActivityEntry* ActivityCache::next(const ActivityKey& place, const std::op
     return hint < entries_->size() ? &(*entries_)[hint] : nullptr;
 }
 
-std::shared_ptr<const ActivityRow> ActivityCache::row(const ActivityEntry& entry) {
-    if (auto row = known(entry))
-        return row;
-    reading_.each_from(entry.key, rows_at_once, [this](ActivityRow&& row) { keep(std::move(row)); });
+ActivityCache::Row ActivityCache::row(const ActivityEntry& entry) {
+    if (!rows_.contains(entry.key.id))
+        reading_.each_from(entry.key, rows_at_once, [this](ActivityRow&& row) { keep(std::move(row)); });
     return find(entry.key.id);
 }
 
-std::shared_ptr<const ActivityRow> ActivityCache::known(const ActivityEntry& entry) {
-    // A walk asks for them in order, so the wanted one is mostly among the next few.
-    auto near = last_given_;
-    for (int steps = 0; near != rows_.end() && near->first < entry.key && steps < most_steps; ++steps)
-        ++near;
-    if (near == rows_.end() || near->first != entry.key) {
-        const auto found = by_id_.find(entry.key.id);
-        if (found == by_id_.end())
-            return nullptr;
-        near = found->second;
-    }
-    last_given_ = near;
-    return near->second;
-}
-
-std::shared_ptr<const ActivityRow> ActivityCache::find(const Id& id) {
-    const auto known = by_id_.find(id);
-    if (known != by_id_.end())
-        return known->second->second;
-    const auto row = reading_.row(id);
-    if (!row)
-        return nullptr;
-    keep(*row);
-    return by_id_.at(id)->second;
+ActivityCache::Row ActivityCache::find(const Id& id) {
+    if (const auto known = rows_.find(id); known != rows_.end())
+        return known->second;
+    auto row = reading_.row(id);
+    return row ? keep(std::move(*row)) : nullptr;
 }
 
 const std::vector<store::DateTime>& ActivityCache::exceptions(const Id& id) {

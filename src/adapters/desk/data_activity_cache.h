@@ -33,6 +33,8 @@ struct SeriesDates {
 // It grows as it is asked; what the file's other users do it learns by take_in alone.
 class ActivityCache {
 public:
+    using Row = std::shared_ptr<const store::ActivityRow>;
+
     explicit ActivityCache(store::ActivityReading& reading) : reading_(reading) {}
 
     void take_in(const store::ActivityChanges& changes);
@@ -48,43 +50,39 @@ public:
 
     // The series of these dates, and the entries of what was edited later than that, in order. They live until the
     // next call of any member.
-    const std::vector<std::shared_ptr<const store::ActivityRow>>& series(const SeriesDates& dates);
+    const std::vector<Row>& series(const SeriesDates& dates);
     const std::vector<store::ActivityEntry>& edited_since(std::int64_t moment);
     bool has_own_ids_alone();
 
     // The row of an entry, read with many of its neighbours. None when the activity has gone meanwhile.
-    std::shared_ptr<const store::ActivityRow> row(const store::ActivityEntry& entry);
-    std::shared_ptr<const store::ActivityRow> find(const store::Id& id);
+    Row row(const store::ActivityEntry& entry);
+    Row find(const store::Id& id);
 
     const std::vector<store::DateTime>& exceptions(const store::Id& id);
     const std::string& details(const store::Id& id);
 
 private:
-    using Rows = std::map<store::ActivityKey, std::shared_ptr<const store::ActivityRow>>;
-
     void load_scope(const Scope& scope);
     void load_entries();
     void make_room();
-    bool is_of_series(const store::ActivityRow& row) const;
-    void update_series(const store::ActivityChanges& changes);
-    const std::shared_ptr<const store::ActivityRow>& keep(store::ActivityRow row);
-    std::shared_ptr<const store::ActivityRow> known(const store::ActivityEntry& entry);
-    void erase(Rows::iterator row);
+    const Row& keep(store::ActivityRow row); // in place of what is known of the activity
     void drop(const store::Id& id);
+    void put_in_order(const Row& row);
+    void take_out_of_order(const store::ActivityRow& row);
     void update_entries(const store::ActivityChanges& changes);
-    bool is_wanted(const store::ActivityRow& row) const;
+    bool is_of_series(const store::ActivityRow& row) const;
+    bool is_of_loaded_scope(const store::ActivityRow& row) const;
     bool is_loaded(const Scope& scope) const;
 
     store::ActivityReading& reading_;
 
-    Rows rows_;
-    std::unordered_map<store::Id, Rows::iterator> by_id_;
-    std::vector<Scope> loaded_scopes_;        // apart from each other
-    Rows::iterator last_kept_ = rows_.end();  // the next one read mostly comes behind it
-    Rows::iterator last_given_ = rows_.end(); // the next one asked for likewise
+    std::unordered_map<store::Id, Row> rows_;
 
-    std::optional<SeriesDates> series_dates_;                       // for which the series were read
-    std::vector<std::shared_ptr<const store::ActivityRow>> series_; // in order
+    // Of those the rows of the loaded scopes, which lie apart from each other, and the series of some dates.
+    std::vector<Scope> loaded_scopes_;
+    std::map<store::ActivityKey, Row> scoped_;
+    std::optional<SeriesDates> series_dates_;
+    std::vector<Row> series_; // in order
 
     std::optional<std::int64_t> edited_since_; // for which they were read
     std::vector<store::ActivityEntry> edited_;

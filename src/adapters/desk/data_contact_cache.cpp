@@ -17,11 +17,28 @@ const std::string* ContactCache::field(const store::Id& contact, int number) {
     return fields ? &(*fields)[place] : nullptr;
 }
 
-const std::vector<std::string>* ContactCache::fields_of(const store::Id& contact) {
-    if (const auto known = contacts_.find(contact); known != contacts_.end())
-        return &known->second;
-    auto fields = reading_.contact_fields(contact, wanted_);
-    return fields ? &contacts_.emplace(contact, std::move(*fields)).first->second : nullptr;
+void ContactCache::forget(const store::Id& contact) {
+    last_ = nullptr;
+    contacts_.erase(contact);
+}
+
+void ContactCache::forget_all() {
+    last_ = nullptr;
+    contacts_.clear();
+}
+
+const ContactCache::Fields* ContactCache::fields_of(const store::Id& contact) {
+    if (last_ && last_->first == contact)
+        return &last_->second;
+    auto known = contacts_.find(contact);
+    if (known == contacts_.end()) {
+        auto fields = reading_.contact_fields(contact, wanted_);
+        if (!fields)
+            return nullptr;
+        known = contacts_.emplace(contact, std::move(*fields)).first;
+    }
+    last_ = &*known;
+    return &last_->second;
 }
 
 } // namespace desk

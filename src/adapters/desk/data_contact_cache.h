@@ -4,6 +4,7 @@
 
 #include <string>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 namespace desk {
@@ -19,15 +20,18 @@ public:
     // any member.
     const std::string* field(const store::Id& contact, int number);
 
-    void forget(const store::Id& contact) { contacts_.erase(contact); }
-    void forget_all() { contacts_.clear(); }
+    void forget(const store::Id& contact);
+    void forget_all();
 
 private:
-    const std::vector<std::string>* fields_of(const store::Id& contact);
+    using Fields = std::vector<std::string>; // as many of the wanted ones as were wanted when they were read
+
+    const Fields* fields_of(const store::Id& contact);
 
     store::ActivityReading& reading_;
     std::vector<int> wanted_; // the numbers of the fields, in the order in which they were first asked for
-    std::unordered_map<store::Id, std::vector<std::string>> contacts_; // as many of those as were wanted then
+    std::unordered_map<store::Id, Fields> contacts_;
+    const std::pair<const store::Id, Fields>* last_ = nullptr; // mostly the next question is for the same one
 };
 
 } // namespace desk

@@ -103,14 +103,14 @@ void Cursor::to_next_of(const Records& records) {
 
 std::optional<std::string> Cursor::ids_not_listed(const std::string& ids) {
     session_->catch_up();
-    bool stand_apart = ids.size() % values::id_length == 0 && session_->activities().has_own_ids_alone();
-    for (std::size_t at = 0; stand_apart && at < ids.size(); ++at)
-        stand_apart = (ids[at] == store::first_of_own_ids) == (at % values::id_length == 0);
-    if (!stand_apart)
+    const auto beginnings = static_cast<std::size_t>(std::ranges::count(ids, store::first_of_own_ids));
+    if (ids.size() != beginnings * values::id_length || !session_->activities().has_own_ids_alone())
         return std::nullopt;
     std::string missing;
     for (std::size_t at = 0; at < ids.size(); at += values::id_length) {
         const std::string_view id = std::string_view(ids).substr(at, values::id_length);
+        if (id.front() != store::first_of_own_ids)
+            return std::nullopt;
         const auto row = session_->activities().find(store::Id(id));
         if (!row || !lists(row->entry))
             missing += id;

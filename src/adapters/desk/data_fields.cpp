@@ -142,7 +142,6 @@ store::ActivityRow row_of(const store::Activity& activity) {
                       .cleared = activity.cleared,
                       .recurring = activity.recurrence.kind != store::RecurrenceKind::none},
             .end = activity.end.seconds(),
-            .revision = activity.revision,
             .user = store::Id(activity.user),
             .group = store::Id(activity.group),
             .contact = store::Id(contact),

@@ -41,8 +41,8 @@ bool DisplayedIds::may_hold(const char* piece) const {
 bool DisplayedIds::contains(std::string_view id) const {
     if (id.size() == values::id_length && !may_hold(id.data()))
         return false;
-    // The occurrences of a series follow one another, so that the end of the text is the likely place.
-    return text_.rfind(id) != std::string::npos;
+    // The occurrences of a series follow one another, so that it mostly is the last id.
+    return text_.ends_with(id) || text_.find(id) != std::string::npos;
 }
 
 void DisplayedIds::append(std::string_view id) {

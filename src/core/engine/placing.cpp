@@ -11,7 +11,7 @@ namespace {
 
 constexpr std::size_t most_start_texts = 10'000;
 
-std::string flag(bool on) { return on ? "1" : "0"; }
+std::string_view flag(bool on) { return on ? "1" : "0"; }
 
 } // namespace
 

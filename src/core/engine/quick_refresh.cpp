@@ -29,6 +29,7 @@ void QuickRefresh::Add_New(DateTime since) {
         step = 20;
         window_.show_hourglass();
         step = 30;
+        const auto look = session_.ActDatabase->One_Look();
         std::string treated; // marks of the cells that were cleared
         for (const std::string& id : values::ids_in(Find_New(since))) {
             step = 40;
@@ -67,7 +68,6 @@ std::string QuickRefresh::Find_New(DateTime since) {
         std::string changed;
         act::Activity& activity = *session_.ActActivity;
         step = 20;
-        const auto look = session_.ActDatabase->One_Look();
         activity.Rebuild();
         step = 30;
         activity.MoveFirst();

@@ -14,33 +14,34 @@ void clsMsgSchedSlot::Initialize(int slot_number, int col) {
     fixed_cols_ = static_cast<std::int16_t>(layout_->FixedCols);
     cells_per_slot_ = static_cast<std::int16_t>(layout_->CellsPerSlot);
     start_date_ = layout_->StartDate;
-    records_.clear();
-    first_free_ = 0;
+    filled_ = first_free_ = 0;
 }
 
-void clsMsgSchedSlot::SetCell(std::string activity_id, std::string contact_id, std::string recurring,
-                              std::string cleared, std::string back_color, std::string fore_color,
-                              std::string type, std::string text, std::string detail, std::string has_details,
-                              int goes_beyond) {
+void clsMsgSchedSlot::SetCell(std::string_view activity_id, std::string_view contact_id,
+                              std::string_view recurring, std::string_view cleared, std::string_view back_color,
+                              std::string_view fore_color, std::string_view type, std::string_view text,
+                              std::string_view detail, std::string_view has_details, int goes_beyond) {
     (*guarded_)("in clsMsgSchedSlot: Sub SetCell - Line # ", [&](host::Step& step) {
         step = 10;
-        while (first_free_ < records_.size() && records_[first_free_].InUse)
+        while (first_free_ < filled_ && records_[first_free_].InUse)
             ++first_free_;
         if (first_free_ == records_.size())
             records_.emplace_back();
+        filled_ = std::max(filled_, first_free_ + 1);
         step = 20;
-        records_[first_free_] = {.InUse = true,
-                                 .ActivityID = std::move(activity_id),
-                                 .ContactID = std::move(contact_id),
-                                 .Recurring = std::move(recurring),
-                                 .Cleared = std::move(cleared),
-                                 .BackColor = std::move(back_color),
-                                 .ForeColor = std::move(fore_color),
-                                 .Type = std::move(type),
-                                 .Text = std::move(text),
-                                 .Detail = std::move(detail),
-                                 .HasDetails = std::move(has_details),
-                                 .GoesBeyond = goes_beyond};
+        SlotRecord& record = records_[first_free_];
+        record.InUse = true;
+        record.ActivityID = activity_id;
+        record.ContactID = contact_id;
+        record.Recurring = recurring;
+        record.Cleared = cleared;
+        record.BackColor = back_color;
+        record.ForeColor = fore_color;
+        record.Type = type;
+        record.Text = text;
+        record.Detail = detail;
+        record.HasDetails = has_details;
+        record.GoesBeyond = goes_beyond;
         changed_ = true;
     });
 }
@@ -52,7 +53,7 @@ void clsMsgSchedSlot::DeleteCell(std::string_view activity_id) {
             if (record(index).ActivityID != activity_id)
                 continue;
             step = 20;
-            if (const auto place = static_cast<std::size_t>(index); place < records_.size()) {
+            if (const auto place = static_cast<std::size_t>(index); place < filled_) {
                 records_[place].InUse = false;
                 first_free_ = std::min(first_free_, place);
             }
@@ -65,8 +66,7 @@ void clsMsgSchedSlot::DeleteCell(std::string_view activity_id) {
 void clsMsgSchedSlot::ClearCells() {
     (*guarded_)("in clsMsgSchedSlot: Sub ClearCells - Line # ", [&](host::Step& step) {
         step = 10;
-        records_.clear();
-        first_free_ = 0;
+        filled_ = first_free_ = 0;
     });
 }
 
@@ -75,14 +75,14 @@ values::DateTime clsMsgSchedSlot::Time() const { return layout_->slot_times().st
 values::DateTime clsMsgSchedSlot::Day() const { return start_date_.plus_days(col_ - fixed_cols_).date(); }
 
 int clsMsgSchedSlot::record_count() const {
-    return std::max(static_cast<int>(records_.size()), static_cast<int>(cells_per_slot_));
+    return std::max(static_cast<int>(filled_), static_cast<int>(cells_per_slot_));
 }
 
 const SlotRecord& clsMsgSchedSlot::record(int index) const {
     static const SlotRecord never_filled;
     if (index < 0 || index >= record_count())
         throw values::Failure(values::FailureNumber::subscript_out_of_range);
-    return index < static_cast<int>(records_.size()) ? records_[static_cast<std::size_t>(index)] : never_filled;
+    return index < static_cast<int>(filled_) ? records_[static_cast<std::size_t>(index)] : never_filled;
 }
 
 void Slots::rebuild(const Layout& layout, const host::Guard& guarded, int slots, int first_col, int cols) {

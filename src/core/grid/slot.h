@@ -4,6 +4,7 @@
 #include "values/date_time.h"
 
 #include <cstdint>
+#include <deque>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -37,9 +38,10 @@ public:
 
     void Initialize(int slot_number, int col);
     // Fills the first free record, or one more at the end.
-    void SetCell(std::string activity_id, std::string contact_id, std::string recurring, std::string cleared,
-                 std::string back_color, std::string fore_color, std::string type, std::string text,
-                 std::string detail, std::string has_details, int goes_beyond);
+    void SetCell(std::string_view activity_id, std::string_view contact_id, std::string_view recurring,
+                 std::string_view cleared, std::string_view back_color, std::string_view fore_color,
+                 std::string_view type, std::string_view text, std::string_view detail,
+                 std::string_view has_details, int goes_beyond);
     // Frees the first record of that id, if there is one; an empty id is that of a record that was never filled.
     void DeleteCell(std::string_view activity_id);
     // Back to CellsPerSlot free records. Changed stays as it is.
@@ -80,9 +82,11 @@ private:
     std::int16_t slot_number_ = 0, col_ = 0, fixed_cols_ = 0, cells_per_slot_ = 0;
     bool changed_ = false;
     values::DateTime start_date_;
-    // The records up to the last that was ever filled; those behind it, up to cells_per_slot_, are free and
-    // empty and take no room.
-    std::vector<SlotRecord> records_;
+    // The records, of which as many count as were filled since the last ClearCells; the next ones are behind them,
+    // with what they held before, so that their texts have room already. Records beyond, up to cells_per_slot_,
+    // are free and empty and take no room.
+    std::deque<SlotRecord> records_;
+    std::size_t filled_ = 0;
     std::size_t first_free_ = 0; // all records before it are in use
 };
 

@@ -46,7 +46,7 @@ void clsMsgSchedSlot::Write_To_Grid(Drawing& drawing, std::string_view activity_
     (*guarded_)("in clsMsgSchedSlot: Sub Write_To_Grid - Line # ", [&](host::Step& step) {
         step = 10;
         std::vector<SortEntry> table;
-        for (std::size_t index = 0; index < records_.size(); ++index)
+        for (std::size_t index = 0; index < filled_; ++index)
             table.push_back({static_cast<int>(index), records_[index].Detail});
         step = 20;
         Sort_Table(table);

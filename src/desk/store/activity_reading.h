@@ -56,7 +56,6 @@ struct ActivityEntry {
 struct ActivityRow {
     ActivityEntry entry;
     std::int64_t end = 0;
-    std::int64_t revision = 0;
     Id user, group, contact; // the contact is the activity's own
     int contact_count = 0;
     int duration = 0;

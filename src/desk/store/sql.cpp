@@ -21,10 +21,10 @@ constexpr std::string_view activity_columns =
     " has_details, recurrence, frequency, until, days_of_week, weeks_of_month, days_of_month";
 
 constexpr std::string_view row_columns =
-    "starts_at, id, edited_at, type, priority, cleared, recurrence, ends_at, revision, scheduled_for, "
-    "contact_group,"
-    " contact, contact_count, duration, alarm_lead, colour, private, alarm, has_details, frequency, until,"
-    " days_of_week, weeks_of_month, days_of_month, regarding";
+    "starts_at, id, edited_at, type, priority, cleared, recurrence, ends_at, scheduled_for, contact_group, "
+    "contact,"
+    " contact_count, duration, alarm_lead, colour, private, alarm, has_details, frequency, until, days_of_week,"
+    " weeks_of_month, days_of_month, regarding";
 
 std::string join(std::initializer_list<std::string_view> pieces) {
     std::string result;

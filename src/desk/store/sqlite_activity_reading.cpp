@@ -19,19 +19,18 @@ ActivityEntry entry_of(const Rows& rows) {
 ActivityRow row_of(const Rows& rows) {
     return {.entry = entry_of(rows),
             .end = rows.number(7),
-            .revision = rows.number(8),
-            .user = Id(rows.view(9)),
-            .group = Id(rows.view(10)),
-            .contact = Id(rows.view(11)),
-            .contact_count = rows.small_number(12),
-            .duration = rows.small_number(13),
-            .alarm_lead = rows.small_number(14),
-            .colour = colour_of(rows, 15),
-            .is_private = rows.flag(16),
-            .alarm = rows.flag(17),
-            .has_details = rows.flag(18),
-            .recurrence = recurrence_of(rows, recurrence_of(rows.number(6)), 19),
-            .regarding = rows.text(24)};
+            .user = Id(rows.view(8)),
+            .group = Id(rows.view(9)),
+            .contact = Id(rows.view(10)),
+            .contact_count = rows.small_number(11),
+            .duration = rows.small_number(12),
+            .alarm_lead = rows.small_number(13),
+            .colour = colour_of(rows, 14),
+            .is_private = rows.flag(15),
+            .alarm = rows.flag(16),
+            .has_details = rows.flag(17),
+            .recurrence = recurrence_of(rows, recurrence_of(rows.number(6)), 18),
+            .regarding = rows.text(23)};
 }
 
 class SqliteActivityReading final : public ActivityReading {

@@ -176,7 +176,12 @@ TEST_F(Cache, TellsWhatWasEditedSinceAsOfTheLastChangeTakenIn) {
 TEST_F(Cache, KnowsWhetherAllIdsAreTheStoresOwn) {
     store.add(meeting("own"));
     EXPECT_TRUE(cache.has_own_ids_alone());
-    const std::int64_t before = store.revision();
+    std::int64_t before = store.revision();
+    store.add(meeting("own too"));
+    take_in_changes_since(before);
+    EXPECT_TRUE(cache.has_own_ids_alone());
+    EXPECT_EQ(reading.calls, (Calls{{"has_own_ids_alone", 1}}));
+    before = store.revision();
     store::Activity imported = meeting("imported");
     imported.id = "99887766554 ";
     store.add(imported);
@@ -204,6 +209,20 @@ TEST_F(Cache, ReadsExceptionsAtOnceAndDetailsOnce) {
         EXPECT_EQ(cache.details(id), "Long");
     }
     EXPECT_EQ(reading.calls, (Calls{{"each_exception", 1}, {"details", 1}}));
+}
+
+TEST_F(Cache, TakesASeriesOutThatBecamePlainOrWasReadAnew) {
+    store::Activity changed = *store.activity(store.add(daily("series")));
+    const Id other(store.add(daily("other", 1)));
+    EXPECT_EQ(series_of(week_of_series), "series other ");
+    walk(week);
+    EXPECT_EQ(series_of(week_of_series), "series other ");
+    const std::int64_t before = store.revision();
+    changed.recurrence = {};
+    store.update(changed);
+    take_in_changes_since(before);
+    EXPECT_EQ(series_of(week_of_series), "other ");
+    EXPECT_EQ(walk(week), "series other ");
 }
 
 TEST_F(Cache, FindsARecordOnceAndNoneThatThereIsNot) {

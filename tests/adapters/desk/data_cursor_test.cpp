@@ -293,6 +293,7 @@ TEST_F(Cursors, DoNotTellItWhereAnIdMayStandAcrossTwoOthers) {
     const std::string own = store.add(meeting("own"));
     EXPECT_FALSE(cursor.ids_not_listed(own + "AA0000000001"));
     EXPECT_FALSE(cursor.ids_not_listed(own + "A"));
+    EXPECT_FALSE(cursor.ids_not_listed("AA0000000001000000000002"));
     store::Activity imported = meeting("imported");
     imported.id = "00000001A000";
     store.add(imported);

@@ -105,6 +105,22 @@ TEST_F(SlotTest, ForgetsItsRecordsAndItsGrowthButNotThatItChanged) {
     EXPECT_TRUE(slot().Changed());
 }
 
+TEST_F(SlotTest, HoldsNothingOfWhatItWasClearedOf) {
+    for (const char* id : {"A", "B", "C", "D"})
+        world.put(2, 4, {.id = id, .user = id, .text = "x", .goes_beyond = 2, .has_details = "1"});
+    slot().DeleteCell("B");
+    slot().ClearCells();
+    slot().DeleteCell("C"); // nothing has that id any more
+    world.put(2, 4, {.id = "E", .user = "E", .text = "y"});
+    world.put(2, 4, {.id = "F", .user = "F", .text = "y"});
+    EXPECT_EQ(ids(slot()), (std::vector<std::string>{"E", "F", "free"}));
+    EXPECT_EQ(slot().record(0).HasDetails, "0");
+    EXPECT_EQ(slot().record(0).GoesBeyond, 0);
+    EXPECT_EQ(slot().record(2).ActivityID, "");
+    world.calendar.rendering.Display_Changes("");
+    EXPECT_EQ(world.calendar.msgSched.cell(slot().LastRow(), 4).text, "");
+}
+
 TEST_F(SlotTest, IsFoundInsideTheGridOnly) {
     grid::Slots& slots = world.calendar.layout.Slots;
     EXPECT_EQ(support::failure_number([&] { slots(9, 1); }), 9);

@@ -105,7 +105,6 @@ TEST_F(Reading, GivesARowWithWhatTheRecordHolds) {
     const ActivityRow row = *reading.row(id);
     EXPECT_EQ(row.entry.key, (ActivityKey{monday.seconds(), id}));
     EXPECT_EQ(row.end, full.end.seconds());
-    EXPECT_EQ(row.revision, store.revision());
     EXPECT_EQ(row.user.text(), ann);
     EXPECT_EQ(row.group.text(), group);
     EXPECT_EQ(row.contact.text(), full.contacts.front());

@@ -89,7 +89,10 @@ void DragDrop::Reschedule(clsMsgSchedCell& source, clsMsgSchedCell& target) {
         step = 100;
         here_.refresh.Refresh_Data();
         step = 110;
-        follow(moved, target);
+        select_where_shown(moved, target);
+        step = 120;
+        // Given the id, it would take away the continuations that the refresh has just drawn.
+        here_.grid.rendering.Display_Changes({});
     });
 }
 
@@ -103,17 +106,16 @@ void DragDrop::make_current(const clsMsgSchedCell& cell) {
 }
 
 // In shared rows it stands where its slot sorts it, which needn't be the row on which it was let go.
-void DragDrop::follow(const std::string& id, const clsMsgSchedCell& target) {
+void DragDrop::select_where_shown(const std::string& id, const clsMsgSchedCell& target) {
+    grid::CellReference& SelectedCell = here_.grid.selection.SelectedCell;
     const grid::Layout& layout = here_.grid.layout;
+    SelectedCell = layout.Cells.reference(target.Row(), target.Col());
     const int first = layout.first_row_of(target.Slot());
-    make_current(target);
-    for (int row = first; row < first + layout.CellsPerSlot && !id.empty(); ++row) {
-        if (layout.Cells(row, target.Col()).ActivityID() != id)
-            continue;
-        here_.grid.selection.SelectedCell = layout.Cells.reference(row, target.Col());
-        make_current(*here_.grid.selection.SelectedCell);
-        return;
-    }
+    for (int row = first; row < first + layout.CellsPerSlot && !id.empty(); ++row)
+        if (layout.Cells(row, target.Col()).ActivityID() == id) {
+            SelectedCell = layout.Cells.reference(row, target.Col());
+            return;
+        }
 }
 
 std::optional<std::string> DragDrop::ask_for_user(const clsMsgSchedCell& source, const clsMsgSchedCell& target) {

@@ -48,8 +48,8 @@ public:
 private:
     bool changes_user(const grid::clsMsgSchedCell& source, const grid::clsMsgSchedCell& target) const;
     void make_current(const grid::clsMsgSchedCell& cell);
-    // Makes the cell current that now shows the activity in the target's slot; the target where none does.
-    void follow(const std::string& id, const grid::clsMsgSchedCell& target);
+    // Selects the cell that now shows the activity in the target's slot; the target where none does.
+    void select_where_shown(const std::string& id, const grid::clsMsgSchedCell& target);
     // The id of the new user, empty when the user stays; absent when the answer was No.
     std::optional<std::string> ask_for_user(const grid::clsMsgSchedCell& source,
                                             const grid::clsMsgSchedCell& target);

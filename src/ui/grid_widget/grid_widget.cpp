@@ -224,7 +224,6 @@ void GridWidget::keyPressEvent(QKeyEvent* event) {
         break;
     case Qt::Key_Escape:
         abandon_mouse_work();
-        emit escape_pressed();
         break;
     case Qt::Key_F10:
         if (extends)

@@ -57,7 +57,6 @@ signals:
     void double_clicked();
     // The Menu key, or Shift with F10; the place is the middle of the current cell.
     void menu_requested(int x, int y);
-    void escape_pressed();
     // A key has moved the current cell or the far end of the selection.
     void cursor_moved();
     void drag_moved(int x, int y);

@@ -224,14 +224,6 @@ TEST(GridWidget, TakesNoKeyForACellOfAHiddenColumn) {
     EXPECT_EQ(told, 1);
 }
 
-TEST(GridWidget, TellsOfEscape) {
-    ShownGrid grid;
-    int escapes = 0;
-    QObject::connect(grid.widget.get(), &ui::GridWidget::escape_pressed, [&escapes] { ++escapes; });
-    grid.press_key(Qt::Key_Escape);
-    EXPECT_EQ(escapes, 1);
-}
-
 // The places at which a menu was asked for.
 std::vector<QPoint> asked_menus(ShownGrid& grid, const std::function<void()>& act) {
     std::vector<QPoint> places;

@@ -13,7 +13,7 @@ public:
     host::Answer show(const host::Message& message) override {
         shown.push_back(message);
         if (answers.empty())
-            return message.buttons == host::Buttons::yes_no ? host::Answer::yes : host::Answer::ok;
+            return first_button(message.buttons);
         const host::Answer answer = answers.front();
         answers.pop_front();
         return answer;
@@ -21,6 +21,18 @@ public:
 
     std::vector<host::Message> shown;
     std::deque<host::Answer> answers;
+
+private:
+    static host::Answer first_button(host::Buttons buttons) {
+        switch (buttons) {
+        case host::Buttons::yes_no:
+            return host::Answer::yes;
+        case host::Buttons::cancel_try_continue:
+            return host::Answer::cancel;
+        default:
+            return host::Answer::ok;
+        }
+    }
 };
 
 } // namespace support

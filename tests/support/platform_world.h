@@ -33,7 +33,9 @@ public:
         return lines;
     }
 
-    shell::Platform platform(act::Server& server) {
+    shell::Platform platform(act::Server& server) { return platform(server, box, events); }
+    // With a box and events that are real ones.
+    shell::Platform platform(act::Server& server, host::MessageBox& box, act::EventControl& events) {
         return {.application = application,
                 .locale = values::english_us(),
                 .box = box,

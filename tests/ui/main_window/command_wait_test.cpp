@@ -97,22 +97,6 @@ protected:
         return QString::fromStdString(window.calendar().grid.msgSched.TextMatrix(hour - 8 + 1, wednesday))
             .trimmed();
     }
-    shell::Platform platform_on_the_bus() {
-        return {.application = application,
-                .locale = values::english_us(),
-                .box = *real_box,
-                .clock = clock,
-                .tmrRefresh = tmrRefresh,
-                .tmr2 = tmr2,
-                .shell = shell,
-                .user_store = user_store,
-                .files = files,
-                .folders = folders,
-                .program = program,
-                .server = server,
-                .ActEvent1 = *real_events};
-    }
-
     static constexpr int wednesday = 5;
     const std::string next_id = "A00000000003"; // of the next activity to be stored
     support::TemporaryDatabase database;
@@ -123,7 +107,7 @@ protected:
     apps::DeskServer server{link, values::english_us()};
     std::unique_ptr<act::EventControl> real_events = desk::make_event_control(link);
     std::unique_ptr<host::MessageBox> real_box = qt::make_message_box();
-    ui::frmMain window{platform_on_the_bus()};
+    ui::frmMain window{platform(server, *real_box, *real_events)};
     ui::GridWidget* grid = window.findChild<ui::GridWidget*>("msgSched");
 };
 

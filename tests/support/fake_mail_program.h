@@ -17,12 +17,12 @@ public:
     FakeMailProgram(const FakeMailProgram&) = delete;
     FakeMailProgram& operator=(const FakeMailProgram&) = delete;
 
-    // Waits before it answers.
+    // Answers at once with a status, or sleeps and answers with success.
     void install(int status, int seconds = 0) {
         QFile script(folder_.filePath("xdg-email"));
         script.open(QIODevice::WriteOnly);
         script.write(QString("#!/bin/sh\nfor word in \"$@\"; do printf '%%s\\0' \"$word\"; done > '%1/given'\n"
-                             "/bin/sleep %2\nexit %3\n")
+                             "[ %2 = 0 ] || exec /bin/sleep %2\nexit %3\n")
                          .replace("%%", "%")
                          .arg(folder_.path())
                          .arg(seconds)

@@ -72,6 +72,7 @@ void DateField::show_calendar() {
     calendar->setWindowFlag(Qt::Popup);
     calendar->setAttribute(Qt::WA_DeleteOnClose);
     calendar->setDateRange(first_date, last_date);
+    calendar->setDateEditEnabled(false); // dates are typed into the field
     if (const auto date = read())
         calendar->setSelectedDate(date_of(*date));
     const auto pick = [this, calendar](QDate date) {

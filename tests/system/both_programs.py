@@ -103,6 +103,10 @@ class BothPrograms(unittest.TestCase):
 
     # The database
 
+    def settle(self):
+        """Waits until the calendar has finished what it is at: it answers no question before."""
+        self.grid.text(0, 0)
+
     def wait_for_record(self, **expected):
         """Waits until one record, and one alone, has these values."""
         def look():

@@ -24,6 +24,7 @@ class Series(BothPrograms):
 
     def expect_series(self, exceptions=(), **expected):
         """What the series holds, and the days that are no occurrences."""
+        self.settle()
         series, = [activity for activity in self.database.activities() if activity["recurrence"]]
         self.assertEqual(series["id"], self.series)
         expected = dict(start=self.at(0, 10), regarding="Prices", duration=60, cleared=0) | expected
@@ -32,11 +33,13 @@ class Series(BothPrograms):
 
     def expect_instance(self, **expected):
         """What the one record beside the series holds."""
+        self.settle()
         instance, = [activity for activity in self.database.activities() if not activity["recurrence"]]
         expected = dict(regarding="Prices", duration=60, user=self.users[0], cleared=0) | expected
         self.assertEqual({name: instance[name] for name in expected}, expected)
 
     def expect_no_instance(self):
+        self.settle()
         self.assertEqual(len(self.database.activities()), 1)
 
 

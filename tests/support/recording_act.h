@@ -59,7 +59,9 @@ public:
     bool isEOF() const override { return real_->isEOF(); }
     void SkipToRecurring(values::DateTime from, values::DateTime to) override { real_->SkipToRecurring(from, to); }
     void SkipToEdited(values::DateTime since) override { real_->SkipToEdited(since); }
-    std::optional<std::string> IdsNotListed(const std::string& ids) override { return real_->IdsNotListed(ids); }
+    std::optional<std::string> IdsNoLongerListed(const std::string& ids, std::int64_t moment) override {
+        return real_->IdsNoLongerListed(ids, moment);
+    }
     bool Goto(const std::string& id) override { return record_.note("Goto " + id), real_->Goto(id); }
     void SetDateScope(values::DateTime from, values::DateTime to) override { real_->SetDateScope(from, to); }
     void ClearDateScope() override { real_->ClearDateScope(); }
@@ -133,6 +135,7 @@ public:
     act::Users& Users() override { return real_->Users(); }
     act::Group& Group() override { return real_->Group(); }
     std::shared_ptr<void> One_Look() override { return real_->One_Look(); }
+    std::int64_t Moment() override { return real_->Moment(); }
 
 private:
     std::unique_ptr<act::Database> real_;

@@ -24,8 +24,8 @@ public:
     void MoveNext() override;
     void SkipToRecurring(act::DateTime from, act::DateTime to) override;
     void SkipToEdited(act::DateTime since) override;
-    std::optional<std::string> IdsNotListed(const std::string& ids) override {
-        return cursor_.ids_not_listed(ids);
+    std::optional<std::string> IdsNoLongerListed(const std::string& ids, std::int64_t moment) override {
+        return cursor_.ids_no_longer_listed(ids, moment);
     }
     bool isEOF() const override { return cursor_.is_at_end(); }
     bool Goto(const std::string& id) override;

@@ -13,7 +13,7 @@ using store::Id;
 namespace {
 
 // Beyond so many rows, reading afresh what is needed is cheaper than carrying on.
-constexpr std::size_t most_rows = 400000;
+constexpr qsizetype most_rows = 400000;
 constexpr int rows_at_once = 256;
 
 bool by_key(const ActivityEntry& left, const ActivityEntry& right) { return left.key < right.key; }
@@ -21,6 +21,22 @@ bool by_key(const ActivityEntry& left, const ActivityEntry& right) { return left
 const ActivityKey& key_of(const ActivityCache::Row& row) { return row->entry.key; }
 
 bool holds(const Scope& scope, std::int64_t start) { return scope.from <= start && start < scope.to; }
+
+// The rows in order, and in memory one behind the other, since they are walked again and again.
+std::vector<ActivityCache::Row> side_by_side(std::vector<ActivityRow> rows) {
+    std::vector<ActivityRow*> order;
+    order.reserve(rows.size());
+    for (ActivityRow& row : rows)
+        order.push_back(&row);
+    std::ranges::sort(order, {}, [](const ActivityRow* row) -> const ActivityKey& { return row->entry.key; });
+    const auto block = std::make_shared<std::vector<ActivityRow>>();
+    block->reserve(rows.size());
+    std::vector<ActivityCache::Row> result;
+    result.reserve(rows.size());
+    for (ActivityRow* row : order)
+        result.emplace_back(block, &block->emplace_back(std::move(*row)));
+    return result;
+}
 
 std::unordered_set<Id> ids_of(const store::ActivityChanges& changes) {
     std::unordered_set<Id> ids(changes.removed.begin(), changes.removed.end());
@@ -32,6 +48,7 @@ std::unordered_set<Id> ids_of(const store::ActivityChanges& changes) {
 } // namespace
 
 void ActivityCache::take_in(const store::ActivityChanges& changes) {
+    last_exceptions_.reset();
     for (const ActivityRow& row : changes.changed) {
         const Id& id = row.entry.key.id;
         const bool was_kept = rows_.contains(id);
@@ -87,11 +104,15 @@ void ActivityCache::forget_all() {
     has_own_ids_alone_.reset();
     entries_.reset();
     exceptions_.reset();
+    last_exceptions_.reset();
     details_.clear();
 }
 
 const ActivityCache::Row& ActivityCache::keep(ActivityRow row) {
-    auto fresh = std::make_shared<const ActivityRow>(std::move(row));
+    return keep(std::make_shared<const ActivityRow>(std::move(row)));
+}
+
+const ActivityCache::Row& ActivityCache::keep(Row fresh) {
     Row& kept = rows_[key_of(fresh).id];
     if (kept && (key_of(kept) != key_of(fresh) || !is_of_series(*fresh)))
         take_out_of_order(*kept);
@@ -102,11 +123,11 @@ const ActivityCache::Row& ActivityCache::keep(ActivityRow row) {
 
 void ActivityCache::drop(const Id& id) {
     if (const auto known = rows_.find(id); known != rows_.end()) {
-        take_out_of_order(*known->second);
+        take_out_of_order(**known);
         rows_.erase(known);
     }
     if (exceptions_)
-        exceptions_->erase(id);
+        exceptions_->remove(id);
     details_.erase(id);
 }
 
@@ -171,11 +192,14 @@ const std::vector<ActivityCache::Row>& ActivityCache::series(const SeriesDates& 
     make_room();
     series_dates_.reset();
     series_.clear();
-    std::vector<Row> read;
+    std::vector<ActivityRow> read;
     reading_.each_series(store::DateTime::from_seconds(dates.from), store::DateTime::from_seconds(dates.to),
-                         [&](ActivityRow&& row) { read.push_back(keep(std::move(row))); });
-    std::ranges::sort(read, {}, key_of);
-    series_ = std::move(read);
+                         [&](ActivityRow&& row) { read.push_back(std::move(row)); });
+    std::vector<Row> series;
+    series.reserve(read.size());
+    for (Row& row : side_by_side(std::move(read)))
+        series.push_back(keep(std::move(row)));
+    series_ = std::move(series);
     series_dates_ = dates;
     return series_;
 }
@@ -236,8 +260,8 @@ ActivityCache::Row ActivityCache::row(const ActivityEntry& entry) {
 }
 
 ActivityCache::Row ActivityCache::find(const Id& id) {
-    if (const auto known = rows_.find(id); known != rows_.end())
-        return known->second;
+    if (const auto known = rows_.constFind(id); known != rows_.cend())
+        return *known;
     auto row = reading_.row(id);
     return row ? keep(std::move(*row)) : nullptr;
 }
@@ -249,8 +273,11 @@ const std::vector<store::DateTime>& ActivityCache::exceptions(const Id& id) {
             [this](const Id& series, store::DateTime date) { (*exceptions_)[series].push_back(date); });
     }
     static const std::vector<store::DateTime> none;
-    const auto known = exceptions_->find(id);
-    return known == exceptions_->end() ? none : known->second;
+    if (!last_exceptions_ || last_exceptions_->first != id) {
+        const auto known = exceptions_->constFind(id);
+        last_exceptions_.emplace(id, known == exceptions_->cend() ? &none : &*known);
+    }
+    return *last_exceptions_->second;
 }
 
 const std::string& ActivityCache::details(const Id& id) {

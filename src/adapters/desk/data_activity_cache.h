@@ -2,6 +2,8 @@
 
 #include "store/activity_reading.h"
 
+#include <QHash>
+
 #include <cstddef>
 #include <cstdint>
 #include <map>
@@ -66,6 +68,7 @@ private:
     void load_entries();
     void make_room();
     const Row& keep(store::ActivityRow row); // in place of what is known of the activity
+    const Row& keep(Row fresh);
     void drop(const store::Id& id);
     void put_in_order(const Row& row);
     void take_out_of_order(const store::ActivityRow& row);
@@ -76,7 +79,7 @@ private:
 
     store::ActivityReading& reading_;
 
-    std::unordered_map<store::Id, Row> rows_;
+    QHash<store::Id, Row> rows_;
 
     // Of those the rows of the loaded scopes, which lie apart from each other, and the series of some dates.
     std::vector<Scope> loaded_scopes_;
@@ -90,7 +93,9 @@ private:
 
     std::optional<std::vector<store::ActivityEntry>> entries_; // in order
 
-    std::optional<std::unordered_map<store::Id, std::vector<store::DateTime>>> exceptions_;
+    std::optional<QHash<store::Id, std::vector<store::DateTime>>> exceptions_;
+    // Of the series that was asked for last: mostly the next question is for the same one.
+    std::optional<std::pair<store::Id, const std::vector<store::DateTime>*>> last_exceptions_;
     std::unordered_map<store::Id, std::string> details_;
 };
 

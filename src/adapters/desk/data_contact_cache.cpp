@@ -18,27 +18,27 @@ const std::string* ContactCache::field(const store::Id& contact, int number) {
 }
 
 void ContactCache::forget(const store::Id& contact) {
-    last_ = nullptr;
-    contacts_.erase(contact);
+    last_.reset();
+    contacts_.remove(contact);
 }
 
 void ContactCache::forget_all() {
-    last_ = nullptr;
+    last_.reset();
     contacts_.clear();
 }
 
 const ContactCache::Fields* ContactCache::fields_of(const store::Id& contact) {
     if (last_ && last_->first == contact)
-        return &last_->second;
-    auto known = contacts_.find(contact);
-    if (known == contacts_.end()) {
+        return last_->second;
+    auto known = contacts_.constFind(contact);
+    if (known == contacts_.cend()) {
         auto fields = reading_.contact_fields(contact, wanted_);
         if (!fields)
             return nullptr;
-        known = contacts_.emplace(contact, std::move(*fields)).first;
+        known = contacts_.insert(contact, std::move(*fields));
     }
-    last_ = &*known;
-    return &last_->second;
+    last_.emplace(contact, &*known);
+    return last_->second;
 }
 
 } // namespace desk

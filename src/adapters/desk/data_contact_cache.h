@@ -2,8 +2,10 @@
 
 #include "store/activity_reading.h"
 
+#include <QHash>
+
+#include <optional>
 #include <string>
-#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -30,8 +32,8 @@ private:
 
     store::ActivityReading& reading_;
     std::vector<int> wanted_; // the numbers of the fields, in the order in which they were first asked for
-    std::unordered_map<store::Id, Fields> contacts_;
-    const std::pair<const store::Id, Fields>* last_ = nullptr; // mostly the next question is for the same one
+    QHash<store::Id, Fields> contacts_;
+    std::optional<std::pair<store::Id, const Fields*>> last_; // mostly the next question is for the same one
 };
 
 } // namespace desk

@@ -101,21 +101,28 @@ void Cursor::to_next_of(const Records& records) {
     }
 }
 
-std::optional<std::string> Cursor::ids_not_listed(const std::string& ids) {
+std::optional<std::string> Cursor::ids_no_longer_listed(const std::string& ids, std::int64_t moment) {
     session_->catch_up();
     const auto beginnings = static_cast<std::size_t>(std::ranges::count(ids, store::first_of_own_ids));
     if (ids.size() != beginnings * values::id_length || !session_->activities().has_own_ids_alone())
+        return std::nullopt;
+    const auto changed = session_->changed_behind(moment);
+    if (!changed)
         return std::nullopt;
     std::string missing;
     for (std::size_t at = 0; at < ids.size(); at += values::id_length) {
         const std::string_view id = std::string_view(ids).substr(at, values::id_length);
         if (id.front() != store::first_of_own_ids)
             return std::nullopt;
-        const auto row = session_->activities().find(store::Id(id));
-        if (!row || !lists(row->entry))
+        if (changed->contains(store::Id(id)) && !lists(store::Id(id)))
             missing += id;
     }
     return missing;
+}
+
+bool Cursor::lists(const store::Id& id) {
+    const auto row = session_->activities().find(id);
+    return row && lists(row->entry);
 }
 
 void Cursor::skip_to_passing(const ActivityEntry* entry) {

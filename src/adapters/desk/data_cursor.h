@@ -50,9 +50,10 @@ public:
     const store::ActivityEntry* entry();
     const store::ActivityRow* row();
 
-    // Of ids joined to one text those that no record of the list has, in their order. None where an id of the
-    // database may also be found across the border of two of them.
-    std::optional<std::string> ids_not_listed(const std::string& ids);
+    // Of ids joined to one text, which all were in the list at that moment or later, those that no record of the
+    // list has now, in their order. None where an id of the database may also be found across the border of two of
+    // them, or where the session can't tell what has changed behind the moment.
+    std::optional<std::string> ids_no_longer_listed(const std::string& ids, std::int64_t moment);
 
 private:
     enum class Place { before_first, on_record, behind_record, behind_deleted, at_end, nowhere };
@@ -60,6 +61,7 @@ private:
     void look_up();
     void skip_to_passing(const store::ActivityEntry* entry);
     bool lists(const store::ActivityEntry& entry) const;
+    bool lists(const store::Id& id);
     template <typename Records>
     void to_next_of(const Records& records); // all in the list's order
 

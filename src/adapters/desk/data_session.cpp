@@ -9,6 +9,7 @@ namespace {
 
 // Beyond so many changes, reading afresh what is needed is cheaper than taking them in.
 constexpr std::int64_t most_changes = 20000;
+constexpr std::size_t most_noted_changes = 20000;
 
 } // namespace
 
@@ -57,14 +58,39 @@ void Session::catch_up() {
     if (revision - seen_ > most_changes) {
         activities_->forget_all();
         contacts_->forget_all();
+        forget_changes(revision);
     } else {
         const store::ActivityChanges changes = store_->reading().changes_since(seen_);
         activities_->take_in(changes);
         for (const std::string& contact : changes.contacts)
             contacts_->forget(store::Id(contact));
+        note(changes, revision);
     }
     group_names_.clear();
     seen_ = revision;
+}
+
+void Session::note(const store::ActivityChanges& changes, std::int64_t revision) {
+    for (const store::ActivityRow& row : changes.changed)
+        changed_.emplace_back(revision, row.entry.key.id);
+    for (const store::Id& id : changes.removed)
+        changed_.emplace_back(revision, id);
+    if (changed_.size() > most_noted_changes)
+        forget_changes(revision);
+}
+
+void Session::forget_changes(std::int64_t revision) {
+    changed_.clear();
+    changes_known_from_ = revision;
+}
+
+std::optional<std::unordered_set<store::Id>> Session::changed_behind(std::int64_t moment) const {
+    if (moment < changes_known_from_)
+        return std::nullopt;
+    std::unordered_set<store::Id> ids;
+    for (auto change = changed_.rbegin(); change != changed_.rend() && change->first > moment; ++change)
+        ids.insert(change->second);
+    return ids;
 }
 
 void Session::begin_look() {

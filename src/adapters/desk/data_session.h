@@ -5,9 +5,14 @@
 #include "store/store.h"
 #include "values/locale.h"
 
+#include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <unordered_map>
+#include <unordered_set>
+#include <utility>
+#include <vector>
 
 namespace desk {
 
@@ -32,6 +37,12 @@ public:
     void begin_look();
     void end_look();
 
+    // The file's revision that everything in memory is at least as new as.
+    std::int64_t moment() const { return seen_; }
+    // The activities that were added, changed or removed behind a moment, as far as has been taken in, and perhaps
+    // some more. None where that isn't known any more.
+    std::optional<std::unordered_set<store::Id>> changed_behind(std::int64_t moment) const;
+
     // What has been read, as new as the last catch_up.
     ActivityCache& activities();
     ContactCache& contacts();
@@ -40,12 +51,16 @@ public:
 
 private:
     void require_open() const;
+    void note(const store::ActivityChanges& changes, std::int64_t revision);
+    void forget_changes(std::int64_t revision);
 
     const values::Locale& locale_;
     std::unique_ptr<store::Store> store_; // none once closed
     std::unique_ptr<ActivityCache> activities_;
     std::unique_ptr<ContactCache> contacts_;
-    std::int64_t seen_; // the revision that everything in memory is at least as new as
+    std::int64_t seen_;
+    std::vector<std::pair<std::int64_t, store::Id>> changed_; // with the revisions at which they were taken in
+    std::int64_t changes_known_from_ = seen_;
     int looks_ = 0;
     std::unordered_map<std::string, std::string> group_names_;
 };

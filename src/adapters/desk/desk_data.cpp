@@ -50,6 +50,8 @@ public:
         return {nullptr, [session](void*) { session->end_look(); }};
     }
 
+    std::int64_t Moment() override { return open().session->moment(); }
+
 private:
     struct Open {
         Open(const std::shared_ptr<Session>& shared, std::vector<store::User> all_users)

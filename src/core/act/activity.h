@@ -3,6 +3,7 @@
 #include "values/date_time.h"
 #include "values/value.h"
 
+#include <cstdint>
 #include <optional>
 #include <string>
 
@@ -63,9 +64,11 @@ public:
     virtual void SkipToRecurring([[maybe_unused]] DateTime from, [[maybe_unused]] DateTime to) {}
     // The same over records that weren't edited later than that.
     virtual void SkipToEdited([[maybe_unused]] DateTime since) {}
-    // Of ids joined to one text, those that no record of the list has: what a walk over the list that takes every
-    // occurrence of each record's id out of the text would leave. None where that needs the walk.
-    virtual std::optional<std::string> IdsNotListed([[maybe_unused]] const std::string& ids) {
+    // Of ids joined to one text, each of which was in the list at that moment of its database or came into it
+    // later, those that no record of the list has now: what a walk over the list that takes every occurrence of
+    // each record's id out of the text would leave. None where that needs the walk.
+    virtual std::optional<std::string> IdsNoLongerListed([[maybe_unused]] const std::string& ids,
+                                                         [[maybe_unused]] std::int64_t moment) {
         return std::nullopt;
     }
     // Stands on the record of that id, inside the filters or not, and MoveNext goes on behind it. False when it

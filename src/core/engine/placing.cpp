@@ -9,7 +9,7 @@ namespace engine {
 
 namespace {
 
-constexpr std::size_t most_start_texts = 10'000;
+constexpr std::size_t most_date_texts = 10'000;
 
 std::string_view flag(bool on) { return on ? "1" : "0"; }
 
@@ -20,8 +20,8 @@ void Placing::read_settings() {
     cell_text_.read_settings();
     user_colours_.clear();
     last_ = {};
-    if (start_texts_.size() > most_start_texts)
-        start_texts_.clear();
+    if (date_texts_.size() > most_date_texts)
+        date_texts_.clear();
 }
 
 void Placing::Treat_Activity(DateTime date, int duration, bool recurring) {
@@ -107,9 +107,16 @@ std::string Placing::start_text(const values::Value& start) {
     const auto* date = std::get_if<DateTime>(&start);
     if (!date)
         return values::text_of(start, locale_);
-    const auto [place, is_new] = start_texts_.try_emplace(date->seconds());
+    const DateTime day = date->date(), time = date->time();
+    if (day == DateTime() || time == DateTime())
+        return date_text(*date);
+    return date_text(day) + " " + date_text(time);
+}
+
+const std::string& Placing::date_text(DateTime date) {
+    const auto [place, is_new] = date_texts_.try_emplace(date.seconds());
     if (is_new)
-        place->second = values::default_text(*date, locale_);
+        place->second = values::default_text(date, locale_);
     return place->second;
 }
 

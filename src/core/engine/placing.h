@@ -35,6 +35,7 @@ public:
     std::string FixedActyColor = "&H0";
     // The activities placed since then.
     DisplayedIds DisplayedIDs;
+    std::int64_t displayed_from = 0; // the database's moment from which on they were
 
     // Takes from the settings what placing needs: slots, extra fields, users' colours. Each refresh begins so.
     void read_settings();
@@ -58,6 +59,7 @@ private:
     std::string colour_of(const std::string& own_colour, const std::string& user_id);
     const std::string& user_name(const std::string& user_id) const;
     std::string start_text(const values::Value& start);
+    const std::string& date_text(DateTime date);
 
     act::Session& session_;
     const act::UserList& users_;
@@ -69,8 +71,8 @@ private:
     SlotTable slots_;
     Shared last_; // of the last activity, since the occurrences of a series follow one another
     std::unordered_map<std::string, std::string> user_colours_; // by name, as far as they were needed
-    // Starts as text, by their seconds. A refresh meets the same ones again and again.
-    std::unordered_map<std::int64_t, std::string> start_texts_;
+    // Days by themselves and times by themselves as text, by their seconds: of these there are few.
+    std::unordered_map<std::int64_t, std::string> date_texts_;
 };
 
 } // namespace engine

@@ -72,7 +72,7 @@ std::string QuickRefresh::Find_New(DateTime since) {
         step = 30;
         activity.MoveFirst();
         step = 40;
-        const auto not_listed = activity.IdsNotListed(placing_.DisplayedIDs.text());
+        const auto not_listed = activity.IdsNoLongerListed(placing_.DisplayedIDs.text(), placing_.displayed_from);
         std::optional<DisplayedIds> missing;
         if (!not_listed)
             missing = placing_.DisplayedIDs;

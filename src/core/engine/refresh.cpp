@@ -37,6 +37,7 @@ void Refresh::Refresh_Data() {
         step = 70;
         act::Activity& activity = *session_.ActActivity;
         const auto look = session_.ActDatabase->One_Look();
+        placing_.displayed_from = session_.ActDatabase->Moment();
         activity.Rebuild();
         step = 80;
         if (!bLoading_)

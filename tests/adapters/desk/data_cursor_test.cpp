@@ -275,27 +275,46 @@ TEST_F(Cursors, SkipToWhatWasEditedSince) {
     EXPECT_EQ(names, "earlier later ");
 }
 
-TEST_F(Cursors, TellWhichIdsTheListDoesNotHold) {
+TEST_F(Cursors, TellWhichIdsTheListHoldsNoLonger) {
     const std::string plain = store.add(meeting("plain")), gone = store.add(meeting("gone"));
-    store::Activity call = daily("call", 2);
-    call.type = store::ActivityType::call;
-    const std::string of_call = store.add(call);
+    const std::string series = store.add(daily("series", 2));
+    session->catch_up();
+    const std::int64_t moment = session->moment();
+    EXPECT_EQ(cursor.ids_no_longer_listed("", moment), "");
+    EXPECT_EQ(cursor.ids_no_longer_listed(gone + plain + series, moment), "");
     store.remove_activity(gone);
-    EXPECT_EQ(cursor.ids_not_listed(""), "");
-    EXPECT_EQ(cursor.ids_not_listed(gone + plain + of_call), gone);
+    EXPECT_EQ(cursor.ids_no_longer_listed(gone + plain + series, moment), gone);
+    EXPECT_EQ(cursor.ids_no_longer_listed(plain + series, moment), "");
+    EXPECT_EQ(cursor.ids_no_longer_listed(gone + plain, session->moment()), "");
+}
+
+TEST_F(Cursors, TellWhichIdsTheFiltersKeepOutSinceAChange) {
+    const std::string plain = store.add(meeting("plain")), other = store.add(meeting("other"));
+    session->catch_up();
+    const std::int64_t moment = session->moment();
+    store::Activity changed = *store.activity(plain);
+    changed.type = store::ActivityType::call;
+    changed.start = monday.plus_days(2).plus_minutes(600);
+    store.update(changed);
+    EXPECT_EQ(cursor.ids_no_longer_listed(other + plain, moment), "");
     cursor.set_filters({.without_types = {0}});
-    EXPECT_EQ(cursor.ids_not_listed(of_call + plain + gone), of_call + gone);
-    cursor.set_filters({.scope = days(1, 3)});
-    EXPECT_EQ(cursor.ids_not_listed(of_call + plain), plain);
+    EXPECT_EQ(cursor.ids_no_longer_listed(other + plain, moment), plain);
+    cursor.set_filters({.scope = days(0, 2)});
+    EXPECT_EQ(cursor.ids_no_longer_listed(other + plain, moment), plain);
+    cursor.set_filters({.scope = days(0, 3)});
+    EXPECT_EQ(cursor.ids_no_longer_listed(other + plain, moment), "");
 }
 
 TEST_F(Cursors, DoNotTellItWhereAnIdMayStandAcrossTwoOthers) {
     const std::string own = store.add(meeting("own"));
-    EXPECT_FALSE(cursor.ids_not_listed(own + "AA0000000001"));
-    EXPECT_FALSE(cursor.ids_not_listed(own + "A"));
-    EXPECT_FALSE(cursor.ids_not_listed("AA0000000001000000000002"));
+    session->catch_up();
+    const std::int64_t moment = session->moment();
+    EXPECT_EQ(cursor.ids_no_longer_listed(own, moment), "");
+    EXPECT_FALSE(cursor.ids_no_longer_listed(own + "AA0000000001", moment));
+    EXPECT_FALSE(cursor.ids_no_longer_listed(own + "A", moment));
+    EXPECT_FALSE(cursor.ids_no_longer_listed("AA0000000001000000000002", moment));
     store::Activity imported = meeting("imported");
     imported.id = "00000001A000";
     store.add(imported);
-    EXPECT_FALSE(cursor.ids_not_listed(own));
+    EXPECT_FALSE(cursor.ids_no_longer_listed(own, moment));
 }

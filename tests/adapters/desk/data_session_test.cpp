@@ -53,6 +53,40 @@ TEST_F(Sessions, CatchUpWithMoreChangesThanTheyTakeIn) {
     EXPECT_EQ(session.activities().first({}, hint), nullptr);
 }
 
+TEST_F(Sessions, TellWhatHasChangedBehindAMoment) {
+    using Ids = std::unordered_set<store::Id>;
+    const std::string first = store.add(meeting("first"));
+    session.catch_up();
+    const std::int64_t moment = session.moment();
+    EXPECT_EQ(session.changed_behind(moment), Ids{});
+    store.remove_activity(first);
+    EXPECT_EQ(session.changed_behind(moment), Ids{}) << "before it is taken in";
+    session.catch_up();
+    const std::int64_t later = session.moment();
+    const std::string second = store.add(meeting("second"));
+    session.catch_up();
+    EXPECT_EQ(session.changed_behind(moment), (Ids{store::Id(first), store::Id(second)}));
+    EXPECT_EQ(session.changed_behind(later), Ids{store::Id(second)});
+    EXPECT_EQ(session.changed_behind(session.moment()), Ids{});
+}
+
+TEST_F(Sessions, DoNotKnowWhatHasChangedBehindAMomentBeforeTheyWereOpened) {
+    EXPECT_FALSE(session.changed_behind(session.moment() - 1));
+}
+
+TEST_F(Sessions, ForgetWhatHasChangedWhereItWasTooMuch) {
+    const std::int64_t moment = session.moment();
+    for (int portion = 0; portion < 2; ++portion) {
+        store.together([&] {
+            for (int i = 0; i < 10100; ++i)
+                store.add(meeting("many"));
+        });
+        session.catch_up();
+        EXPECT_EQ(session.changed_behind(moment).has_value(), portion == 0);
+    }
+    EXPECT_TRUE(session.changed_behind(session.moment()));
+}
+
 TEST_F(Sessions, FailOnceTheyAreClosed) {
     session.close();
     for (const auto& action : std::vector<std::function<void()>>{

@@ -17,6 +17,8 @@ PLAIN_MENU = ["Reschedule Activity...", "View/Edit Activity Details...", "Send A
 SERIES_MENU = PLAIN_MENU[:4] + ["Edit Recurring Settings..."] + PLAIN_MENU[4:]
 EMPTY_MENU = ["Schedule", "Create Lookup (All cells)"]
 TITLE_MENU = ["Create Lookup (Column)", "Reset Column Width"]
+ROW_MENU = ["Create Lookup (Row)", "Reset Row Height"]
+SELECTION_MENU = ["Create Lookup (Selection)"]
 # The calendar's questions.
 CHANGE_OF_USER = "You are dropping this activity to a cell belonging to another user. Do you want to continue?"
 CHANGE_OF_DATE = ("You are changing the date of a recurring activity. This change will remove the recurring settings "

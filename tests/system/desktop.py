@@ -131,10 +131,15 @@ class Desktop:
     def click(self, place, button=1, times=1):
         self.hands("mousemove", *self.on_screen(place), "click", "--repeat", times, "--delay", 30, button)
 
-    def drag_with_ctrl(self, start, end):
+    def drag(self, start, end):
         x, y = self.on_screen(end)
-        self.hands("mousemove", *self.on_screen(start), "keydown", "ctrl", "mousedown", 1, "mousemove", x, y,
-                   "mousemove", x + 1, y + 1, "mouseup", 1, "keyup", "ctrl")
+        self.hands("mousemove", *self.on_screen(start), "mousedown", 1, "mousemove", x, y, "mousemove", x + 1, y + 1,
+                   "mouseup", 1)
+
+    def drag_with_ctrl(self, start, end):
+        self.hands("keydown", "ctrl")
+        self.drag(start, end)
+        self.hands("keyup", "ctrl")
 
 
 # The accessibility tree -----------------------------------------------------------------------------------------------

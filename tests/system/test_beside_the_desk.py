@@ -6,7 +6,7 @@ import sqlite3
 import stat
 import unittest
 
-from both_programs import PLAIN_MENU, TITLE_MENU, BothPrograms, PlainCall
+from both_programs import EMPTY_MENU, PLAIN_MENU, ROW_MENU, SELECTION_MENU, TITLE_MENU, BothPrograms, PlainCall
 from desktop import (Atspi, has_state, is_busy, middle, part_of_its_window, text_in, texts_in_sight, wait_for,
                      wait_to_see)
 
@@ -28,19 +28,35 @@ mv "$folder/sent.txt" "$folder/mail.txt"
 
 
 class Lookups(BothPrograms):
-    """Calls with three contacts on Tuesday, one of them twice, and with a fourth on Wednesday."""
+    """Calls with three contacts on Tuesday, one of them twice, and with a fourth on Wednesday in the first one's row."""
 
     def fill(self):
         self.contacts = [row["id"] for row in self.database.look("SELECT id FROM contacts ORDER BY id LIMIT 4")]
-        places = [(2, 9, 0, 0), (2, 10, 1, 1), (2, 15, 2, 2), (2, 16, 0, 1), (3, 10, 0, 3)]
+        places = [(2, 9, 0, 0), (2, 10, 1, 1), (2, 15, 2, 2), (2, 16, 0, 1), (3, 9, 0, 3)]
         for number, (day, hour, user, contact) in enumerate(places):
             self.database.add(f"A{number:011}", self.database.user(user), self.at(day, hour),
                               contact=self.contacts[contact])
 
+    def test_a_cell_makes_its_contact_the_desks_lookup(self):
+        self.choose(self.place(3, 9), "Create Lookup (This cell)", PLAIN_MENU)
+        self.wait_for_lookup(1)
+
+    def test_a_row_makes_its_contacts_the_desks_lookup(self):
+        self.choose(self.grid.middle(7, 1), "Create Lookup (Row)", ROW_MENU)
+        self.wait_for_lookup(2)
+
     def test_a_column_makes_its_contacts_the_desks_lookup(self):
         self.choose(self.title(2), "Create Lookup (Column)", TITLE_MENU)
-        everybody, = self.database.look("SELECT count(*) AS number FROM contacts")
-        wait_for(lambda: self.count() == f"3 of {everybody['number']} contacts", "the lookup in the desk")
+        self.wait_for_lookup(3)
+
+    def test_a_selection_makes_its_contacts_the_desks_lookup(self):
+        self.desktop.drag(self.place(2, 16), self.place(2, 10))
+        self.choose(self.place(2, 12), "Create Lookup (Selection)", SELECTION_MENU)
+        self.wait_for_lookup(2)
+
+    def test_an_empty_cell_makes_the_whole_calendars_contacts_the_desks_lookup(self):
+        self.choose(self.place(5, 9), "Create Lookup (All cells)", EMPTY_MENU)
+        self.wait_for_lookup(4)
 
     def test_a_column_without_activities_is_told_and_leaves_the_desks_lookup(self):
         before = self.count()
@@ -48,6 +64,10 @@ class Lookups(BothPrograms):
         self.answer(self.calendar, "No records were found that match the specified criteria.", "OK")
         self.assertEqual(self.count(), before)
         self.assertEqual(len(self.database.activities()), 5)
+
+    def wait_for_lookup(self, contacts):
+        everybody, = self.database.look("SELECT count(*) AS number FROM contacts")
+        wait_for(lambda: self.count() == f"{contacts} of {everybody['number']} contacts", "the lookup in the desk")
 
     def count(self):
         return next(text for text in texts_in_sight(self.desk, Atspi.Role.LABEL) if text.endswith(" contacts"))

@@ -3,6 +3,7 @@
 #include "values/text.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace windows {
 namespace {
@@ -82,12 +83,13 @@ void Lookup::fill() {
             contacts_.push_back(contact.id);
 }
 
-void Lookup::make_current(const std::string& contact) {
+// The id is a copy: leaving may store what was typed, and the lookup is then filled anew.
+void Lookup::make_current(std::string contact) {
     if (before_leaving)
         before_leaving();
     if (contact == current_)
         return;
-    current_ = contact;
+    current_ = std::move(contact);
     emit current_changed();
 }
 

@@ -45,7 +45,7 @@ signals:
 private:
     void reread();
     void fill();
-    void make_current(const std::string& contact);
+    void make_current(std::string contact);
     void replace(bool is_everybody, std::set<std::string> members);
 
     Session& session_;

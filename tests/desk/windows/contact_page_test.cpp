@@ -76,6 +76,14 @@ TEST_F(ContactPageTest, GoingToTheNextContactStoresWhatWasTyped) {
     EXPECT_FALSE(child<QToolButton>(*page, "previous_button")->isEnabled());
 }
 
+TEST_F(ContactPageTest, TheNextContactIsTheOneThatStoodBehindEvenWhenTheOrderChanges) {
+    retype(child<QLineEdit>(*page, "field_25"), "Zinnia Works");
+    click(child<QToolButton>(*page, "next_button"));
+    EXPECT_EQ(lookup.contacts().back(), amber);
+    EXPECT_EQ(lookup.current(), birch);
+    EXPECT_EQ(name_line()->text(), "Yann Reed");
+}
+
 TEST_F(ContactPageTest, WhatCantBeStoredIsToldAndStaysOnThePage) {
     retype(name_line(), "Mine");
     auto other = elsewhere();

@@ -6,7 +6,10 @@
 #include "windows/conversions.h"
 #include "windows/rows.h"
 
+#include <QMenu>
+
 #include <algorithm>
+#include <optional>
 #include <tuple>
 #include <utility>
 

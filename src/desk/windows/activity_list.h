@@ -3,13 +3,13 @@
 #include "windows/activity_filter.h"
 #include "windows/session.h"
 
-#include <QMenu>
 #include <QWidget>
 
 #include <memory>
-#include <optional>
 #include <string>
 #include <vector>
+
+class QAction;
 
 namespace Ui {
 class ActivityList;

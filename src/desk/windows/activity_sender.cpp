@@ -9,7 +9,6 @@
 
 #include <QFileDialog>
 #include <QMessageBox>
-#include <QPushButton>
 #include <QSaveFile>
 
 #include <utility>

@@ -48,6 +48,7 @@ void ContactChooser::show_contacts(const std::vector<std::string>& contacts, con
 
 std::vector<std::string> ContactChooser::contacts() const {
     std::vector<std::string> ids;
+    ids.reserve(static_cast<std::size_t>(list_->count()));
     for (int row = 0; row < list_->count(); ++row)
         ids.push_back(stored(list_->item(row)->data(Qt::UserRole).toString()));
     return ids;

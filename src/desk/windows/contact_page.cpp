@@ -9,6 +9,8 @@
 #include "windows/notes_tab.h"
 #include "windows/refusal.h"
 
+#include <utility>
+
 namespace windows {
 namespace {
 

@@ -4,7 +4,9 @@
 #include "windows/conversions.h"
 #include "windows/sample_file.h"
 
+#include <QCoreApplication>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QInputDialog>
 #include <QMessageBox>
 

@@ -34,7 +34,7 @@ std::string Directory::contact_name(const std::string& id) const {
     if (!record)
         return {};
     for (const int field : {store::contact_field::name, store::contact_field::company})
-        if (const std::string text = field_of(*record, field); !text.empty())
+        if (std::string text = field_of(*record, field); !text.empty())
             return text;
     return "(unnamed)";
 }

@@ -14,6 +14,9 @@
 #include <QFileInfo>
 #include <QMessageBox>
 
+#include <algorithm>
+#include <utility>
+
 namespace windows {
 namespace {
 

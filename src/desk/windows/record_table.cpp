@@ -13,10 +13,10 @@ namespace {
 
 // Pale, so that the icons in a selected row can be made out.
 QPalette with_pale_selection(QPalette palette) {
-    constexpr qreal strength = 0.25;
+    constexpr float strength = 0.25F;
     const QColor ground = palette.color(QPalette::Base);
     const QColor full = palette.color(QPalette::Active, QPalette::Highlight);
-    const auto mixed = [](qreal from, qreal to) { return from + (to - from) * strength; };
+    const auto mixed = [](float from, float to) { return from + (to - from) * strength; };
     palette.setColor(QPalette::Highlight,
                      QColor::fromRgbF(mixed(ground.redF(), full.redF()), mixed(ground.greenF(), full.greenF()),
                                       mixed(ground.blueF(), full.blueF())));

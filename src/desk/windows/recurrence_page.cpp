@@ -25,6 +25,23 @@ void tick(const std::vector<QCheckBox*>& ticks, std::uint32_t bits) {
         ticks[place]->setChecked((bits >> place & 1u) != 0);
 }
 
+// The boxes go below those that the page has already.
+std::vector<QCheckBox*> add_ticks(QWidget* page, const QStringList& names, int columns) {
+    auto* grid = page->layout() ? static_cast<QGridLayout*>(page->layout()) : new QGridLayout(page);
+    grid->setContentsMargins(0, 0, 0, 0);
+    const int first_row = grid->count() == 0 ? 0 : grid->rowCount();
+    std::vector<QCheckBox*> ticks;
+    for (const QString& name : names) {
+        auto* box = new QCheckBox(name, page);
+        box->setObjectName(page->objectName() + "_" + QString(name).replace(' ', '_'));
+        box->setAccessibleName(name);
+        const int place = static_cast<int>(ticks.size());
+        grid->addWidget(box, first_row + place / columns, place % columns);
+        ticks.push_back(box);
+    }
+    return ticks;
+}
+
 } // namespace
 
 RecurrencePage::RecurrencePage(QWidget* parent) : QWidget(parent), ui_(std::make_unique<Ui::RecurrencePage>()) {
@@ -56,22 +73,6 @@ void RecurrencePage::show_rule(const store::Recurrence& rule, const std::vector<
     connect_parts();
     show_exceptions();
     show_kind();
-}
-
-std::vector<QCheckBox*> RecurrencePage::add_ticks(QWidget* page, const QStringList& names, int columns) {
-    auto* grid = page->layout() ? static_cast<QGridLayout*>(page->layout()) : new QGridLayout(page);
-    grid->setContentsMargins(0, 0, 0, 0);
-    const int first_row = grid->count() == 0 ? 0 : grid->rowCount();
-    std::vector<QCheckBox*> ticks;
-    for (const QString& name : names) {
-        auto* box = new QCheckBox(name, page);
-        box->setObjectName(page->objectName() + "_" + QString(name).replace(' ', '_'));
-        box->setAccessibleName(name);
-        const int place = static_cast<int>(ticks.size());
-        grid->addWidget(box, first_row + place / columns, place % columns);
-        ticks.push_back(box);
-    }
-    return ticks;
 }
 
 void RecurrencePage::build_ticks(const values::Locale& locale) {
@@ -115,9 +116,9 @@ RecurrenceKind RecurrencePage::kind() const { return static_cast<RecurrenceKind>
 void RecurrencePage::show_kind() {
     const bool repeats = kind() != RecurrenceKind::none;
     const int frequency = ui_->frequency_box->value();
-    QString unit = kind() == RecurrenceKind::daily    ? tr("day")
-                   : kind() == RecurrenceKind::weekly ? tr("week")
-                                                      : tr("month");
+    const QString unit = kind() == RecurrenceKind::daily    ? tr("day")
+                         : kind() == RecurrenceKind::weekly ? tr("week")
+                                                            : tr("month");
     ui_->unit_label->setText(frequency == 1 ? unit : unit + "s");
     ui_->rules->setCurrentIndex(ui_->kind_box->currentIndex());
     for (QWidget* part : {static_cast<QWidget*>(ui_->frequency_label), static_cast<QWidget*>(ui_->frequency_box),

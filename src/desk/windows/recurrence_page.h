@@ -36,7 +36,6 @@ public:
     std::vector<store::DateTime> exceptions() const; // rising; none when the activity doesn't repeat
 
 private:
-    std::vector<QCheckBox*> add_ticks(QWidget* page, const QStringList& names, int columns);
     void build_ticks(const values::Locale& locale);
     void connect_parts();
     void show_kind();

@@ -92,6 +92,7 @@ std::vector<Column> note_columns() { return {{"Date"}, {"Time"}, {"Note"}}; }
 
 std::vector<Row> note_rows(const std::vector<store::Note>& notes, const values::Locale& locale) {
     std::vector<Row> rows;
+    rows.reserve(notes.size());
     for (const store::Note& note : notes)
         rows.push_back({note.id,
                         {{date_text(note.written, locale), qlonglong{note.written.seconds()}},

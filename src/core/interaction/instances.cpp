@@ -52,7 +52,7 @@ std::string Instances::Change_Instance(const grid::clsMsgSchedCell& source, cons
         step = 60;
         write_fields(activity(), fields);
         step = 70;
-        const std::string id = activity().Update();
+        std::string id = activity().Update();
         step = 80;
         activity().Goto(id);
         step = 90;

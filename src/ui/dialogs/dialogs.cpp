@@ -16,13 +16,13 @@ void Dialogs::show_frmHolidays() {
                  .box = platform_.box,
                  .shell = platform_.shell,
                  .application = platform_.application,
-                 .guarded = guarded_},
+                 .guarded = calendar_.guarded()},
                 &window_)
         .exec();
 }
 
 void Dialogs::show_frmMiniCalendar(shell::JumpDates& dates) {
-    frmMiniCalendar(dates, calendar_.user_store, guarded_, &window_).exec();
+    frmMiniCalendar(dates, calendar_.user_store, calendar_.guarded(), &window_).exec();
 }
 
 } // namespace ui

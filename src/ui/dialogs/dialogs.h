@@ -1,6 +1,5 @@
 #pragma once
 
-#include "host/guard.h"
 #include "shell/calendar.h"
 #include "shell/dialogs.h"
 
@@ -13,8 +12,7 @@ class Dialogs : public shell::Dialogs {
 public:
     // The calendar may still be under construction; it is complete when the first dialog is shown.
     Dialogs(QWidget& window, const shell::Platform& platform, shell::Calendar& calendar)
-        : window_(window), platform_(platform), calendar_(calendar), guarded_(platform.box, platform.application) {
-    }
+        : window_(window), platform_(platform), calendar_(calendar) {}
 
     void show_frmHolidays() override;
     void show_frmMiniCalendar(shell::JumpDates& dates) override;
@@ -23,7 +21,6 @@ private:
     QWidget& window_;
     shell::Platform platform_;
     shell::Calendar& calendar_;
-    host::Guard guarded_;
 };
 
 } // namespace ui

@@ -2,8 +2,6 @@
 
 #include "grid_widget/selection_range.h"
 
-#include <QWidget>
-
 namespace ui {
 
 QString spoken_text(const grid::GridModel& model, int row, int col) {

@@ -10,6 +10,7 @@
 #include <QRegion>
 
 #include <numeric>
+#include <utility>
 
 namespace ui {
 
@@ -59,7 +60,7 @@ public:
     int columnCount() const override { return model().Cols(); }
 
     QAccessibleInterface* cellAt(int row, int col) const override {
-        if (row < 0 || row >= rowCount() || col < 0 || col >= columnCount())
+        if (!holds(row, col))
             return nullptr;
         const auto known = cells_.constFind({row, col});
         if (known != cells_.constEnd())
@@ -70,11 +71,11 @@ public:
     }
 
     QString columnDescription(int col) const override {
-        return cellAt(0, col) && model().FixedRows() > 0 ? spoken_text(model(), 0, col) : QString();
+        return holds(0, col) && model().FixedRows() > 0 ? spoken_text(model(), 0, col) : QString();
     }
     QString rowDescription(int row) const override {
         QStringList titles;
-        for (int col = 0; cellAt(row, col) && row >= model().FixedRows() && col < model().FixedCols(); ++col)
+        for (int col = 0; holds(row, col) && row >= model().FixedRows() && col < model().FixedCols(); ++col)
             titles.append(spoken_text(model(), titled_row(model(), row, col), col));
         titles.removeAll(QString());
         return titles.join(QLatin1Char(' '));
@@ -119,6 +120,7 @@ public:
 
 private:
     const grid::GridModel& model() const { return widget_.model(); }
+    bool holds(int row, int col) const { return model().rows().holds(row) && model().columns().holds(col); }
     void forget_cells() {
         for (const QAccessible::Id id : std::as_const(cells_))
             QAccessible::deleteAccessibleInterface(id);
@@ -182,11 +184,10 @@ void tell_screen_readers(GridWidget& widget, const GridNews& news,
         tell(&event);
     }
     QAccessibleInterface* table = QAccessible::queryAccessibleInterface(&widget);
-    QAccessibleInterface* cell = table->tableInterface()->cellAt(model.Row(), model.Col());
     if (news.selection_before)
         tell_selection(*table, *news.selection_before, selected_cells(model), tell);
     if (news.focus && widget.hasFocus()) {
-        QAccessibleEvent focus(cell, QAccessible::Focus);
+        QAccessibleEvent focus(table->tableInterface()->cellAt(model.Row(), model.Col()), QAccessible::Focus);
         tell(&focus);
     }
 }

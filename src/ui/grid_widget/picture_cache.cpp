@@ -31,7 +31,7 @@ QPixmap read(const QString& path, qreal ratio) {
     const QByteArray drawing = contents(file.path() + '/' + file.completeBaseName() + ".svg");
     const QByteArray digest = QCryptographicHash::hash(picture, QCryptographicHash::Sha1).toHex();
     if (drawing.contains("gif " + digest))
-        if (const QPixmap drawn = drawn_pixmap(drawing, ratio); !drawn.isNull())
+        if (QPixmap drawn = drawn_pixmap(drawing, ratio); !drawn.isNull())
             return drawn;
     QPixmap pixmap;
     if (!pixmap.loadFromData(picture))

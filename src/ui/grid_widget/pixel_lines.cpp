@@ -3,6 +3,7 @@
 #include "grid_widget/grid_style.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <limits>
 
 namespace ui {
@@ -49,7 +50,7 @@ int PixelLines::to_twips(int place, const grid::Axis& axis) const {
     const int line = at(place);
     if (line >= 0) {
         const int inside = (place - begin(line)) * twips_per_pixel + twips_per_pixel / 2;
-        return axis.position(line) + std::clamp(inside, 1, axis.size(line) - 1);
+        return axis.position(line) + std::clamp(inside, std::min(1, axis.size(line) - 1), axis.size(line) - 1);
     }
     const int end_of_all = axis.total() - axis.offset(first_) + axis.offset(fixed_);
     return place < 0 ? place * twips_per_pixel : std::max(place * twips_per_pixel, end_of_all + 1);

@@ -116,9 +116,9 @@ const TextBlock& TextBlocks::block(std::string_view text, bool bold, int width, 
     const auto raw = QByteArray::fromRawData(text.data(), static_cast<qsizetype>(text.size()));
     if (const TextBlock* found = blocks_.object({raw, width, height, bold}))
         return *found;
-    auto* made = new TextBlock(QString::fromUtf8(raw), bold ? bold_ : regular_, width, height);
-    blocks_.insert({QByteArray(text.data(), static_cast<qsizetype>(text.size())), width, height, bold}, made);
-    return *made;
+    const Key key{QByteArray(raw.data(), raw.size()), width, height, bold};
+    blocks_.insert(key, new TextBlock(QString::fromUtf8(raw), bold ? bold_ : regular_, width, height));
+    return *blocks_.object(key);
 }
 
 } // namespace ui

@@ -4,6 +4,8 @@
 
 #include <QCursor>
 
+#include <utility>
+
 namespace ui {
 
 using interaction::PopupMenu;
@@ -53,12 +55,12 @@ void GridHands::connect_grid() {
 
 void GridHands::fill_menu() {
     interaction::ActivityCommands& commands = hands_.commands;
-    mnupopSchedule_ = mnuPopup_.addMenu("Schedule");
-    mnupopSchedule_->setObjectName("mnupopSchedule");
-    lines_.push_back({mnupopSchedule_->menuAction(), &PopupMenu::mnupopSchedule});
-    add_entry(*mnupopSchedule_, "mnupopCall", "Call", [&] { commands.mnupopCall_Click(); });
-    add_entry(*mnupopSchedule_, "mnupopMeeting", "Meeting", [&] { commands.mnupopMeeting_Click(); });
-    add_entry(*mnupopSchedule_, "mnupopTodo", "To-do", [&] { commands.mnupopTodo_Click(); });
+    QMenu* mnupopSchedule = mnuPopup_.addMenu("Schedule");
+    mnupopSchedule->setObjectName("mnupopSchedule");
+    lines_.push_back({mnupopSchedule->menuAction(), &PopupMenu::mnupopSchedule});
+    add_entry(*mnupopSchedule, "mnupopCall", "Call", [&] { commands.mnupopCall_Click(); });
+    add_entry(*mnupopSchedule, "mnupopMeeting", "Meeting", [&] { commands.mnupopMeeting_Click(); });
+    add_entry(*mnupopSchedule, "mnupopTodo", "To-do", [&] { commands.mnupopTodo_Click(); });
     add_entry(
         mnuPopup_, "mnupopReschedule", "Reschedule Activity...", [&] { commands.mnupopReschedule_Click(); },
         &PopupMenu::mnupopReschedule);
@@ -91,7 +93,7 @@ void GridHands::fill_menu() {
         [this] { calendar_.menu.mnuResetColumnWidth_Click(); }, &PopupMenu::mnuResetColumnWidth);
 }
 
-void GridHands::add_entry(QMenu& menu, const char* name, const char* caption, std::function<void()> command,
+void GridHands::add_entry(QMenu& menu, const char* name, const char* caption, const std::function<void()>& command,
                           PopupMenu::Entry PopupMenu::*entry) {
     QAction* action = menu.addAction(caption);
     action->setObjectName(name);

@@ -7,6 +7,7 @@
 #include <QMainWindow>
 #include <QMenu>
 
+#include <functional>
 #include <vector>
 
 namespace ui {
@@ -27,7 +28,7 @@ private:
 
     void connect_grid();
     void fill_menu();
-    void add_entry(QMenu& menu, const char* name, const char* caption, std::function<void()> command,
+    void add_entry(QMenu& menu, const char* name, const char* caption, const std::function<void()>& command,
                    interaction::PopupMenu::Entry interaction::PopupMenu::*entry = nullptr);
     void add_separator(const char* name, interaction::PopupMenu::Entry interaction::PopupMenu::*entry);
 
@@ -44,7 +45,6 @@ private:
     const host::ApplicationInfo& application_;
     interaction::Interaction hands_;
     QMenu mnuPopup_;
-    QMenu* mnupopSchedule_ = nullptr;
     QAction* mnupopLookup_ = nullptr;
     std::vector<Line> lines_;
     std::function<void()> chosen_; // the command of the entry that was chosen

@@ -123,4 +123,13 @@ TEST(PixelLines, HoldAllLinesWhenWhole) {
     EXPECT_EQ(lines.begin(10), 380);
 }
 
+TEST(PixelLines, FindALineThatIsNoLargerThanATwip) {
+    grid::Axis axis = sample_axis();
+    axis.set_size(1, 607);
+    axis.set_size(2, 1);
+    const PixelLines lines(axis, 200);
+    ASSERT_EQ(lines.at(60), 2);
+    EXPECT_EQ(axis.at(lines.to_twips(60, axis)), 2);
+}
+
 } // namespace

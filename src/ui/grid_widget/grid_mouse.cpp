@@ -194,12 +194,15 @@ void GridWidget::begin_drag() {
 }
 
 void GridWidget::show_drop_permitted(bool permitted) {
-    if (is_dragging_)
-        viewport()->setCursor(drop_cursor(permitted, devicePixelRatioF()));
+    if (!is_dragging_ || shown_permission_ == permitted)
+        return;
+    shown_permission_ = permitted;
+    viewport()->setCursor(drop_cursor(permitted, devicePixelRatioF()));
 }
 
 void GridWidget::end_drag() {
     is_dragging_ = false;
+    shown_permission_.reset();
     update_pointer(pointer_);
 }
 

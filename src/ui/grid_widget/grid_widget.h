@@ -8,6 +8,7 @@
 #include <QAbstractScrollArea>
 #include <QTimer>
 
+#include <optional>
 #include <utility>
 
 namespace ui {
@@ -110,7 +111,8 @@ private:
     QTimer scroll_timer_; // while a selection is drawn beyond the view or something is dragged to its edge
     QPoint pointer_;      // where the pointer was last, in the viewport
     QRect dragged_cell_;  // where the cell lies that is dragged, until the pointer has left it
-    QPoint bars_at_drag_; // the scroll bars' values when the drag began
+    std::optional<bool> shown_permission_; // what the pointer says while something is dragged
+    QPoint bars_at_drag_;                  // the scroll bars' values when the drag began
     mutable PixelLines rows_, cols_;
     mutable bool lines_are_stale_ = true;
     // What screen readers know of, in columns and rows.

@@ -84,6 +84,20 @@ TEST(GridDrag, ShowsByThePointerWhetherADropIsPermitted) {
     EXPECT_EQ(grid.view()->cursor().shape(), Qt::ArrowCursor);
 }
 
+TEST(GridDrag, DrawsThePointerAnewOnlyWhenThePermissionChanges) {
+    WatchedGrid grid;
+    grid.widget->begin_drag();
+    const QPixmap permitted = grid.view()->cursor().pixmap();
+    grid.widget->show_drop_permitted(true);
+    EXPECT_EQ(grid.view()->cursor().pixmap().cacheKey(), permitted.cacheKey());
+    grid.widget->show_drop_permitted(false);
+    grid.widget->show_drop_permitted(true);
+    EXPECT_EQ(grid.view()->cursor().pixmap().toImage(), permitted.toImage());
+    grid.press_key(Qt::Key_Escape);
+    grid.widget->begin_drag();
+    EXPECT_EQ(grid.view()->cursor().pixmap().toImage(), permitted.toImage()) << "in the next drag too";
+}
+
 TEST(GridDrag, ScrollsDownAndUpNearTheLowerAndTheUpperEdgeOfTheCells) {
     DraggedGrid grid(2, 3);
     grid.draw_to(QPoint(grid.x(3), grid.bottom()));

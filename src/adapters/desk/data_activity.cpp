@@ -215,7 +215,7 @@ std::string ActivityList::Update() {
     if (!draft_)
         throw Failure(FailureNumber::automation, "No activity is being edited.");
     settle_times(*draft_, written_);
-    const std::string id = store_draft();
+    std::string id = store_draft();
     give_up_change();
     cursor_.go_to_written(id);
     return id;

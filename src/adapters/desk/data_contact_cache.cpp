@@ -35,7 +35,7 @@ const ContactCache::Fields* ContactCache::fields_of(const store::Id& contact) {
         auto fields = reading_.contact_fields(contact, wanted_);
         if (!fields)
             return nullptr;
-        known = contacts_.insert(contact, std::move(*fields));
+        known = contacts_.emplace(contact, std::move(*fields));
     }
     last_.emplace(contact, &*known);
     return last_->second;

@@ -42,7 +42,7 @@ QString core_pattern(const QString& pattern) {
 
 // What reads "14 h 05 min 07 s" in a locale's long form is written with colons.
 QString time_pattern(const QString& pattern) {
-    const QString core = core_pattern(pattern);
+    QString core = core_pattern(pattern);
     if (core.contains("ss") && core.contains("mm") && !core.contains("mm "))
         return core;
     const QString hour = core.contains("HH") ? "HH" : core.contains(u'H') ? "H" : core.contains("hh") ? "hh" : "h";

@@ -59,6 +59,7 @@ public:
 
         const std::vector<Choice> choices = choices_of(message.buttons);
         std::vector<QPushButton*> buttons;
+        buttons.reserve(choices.size());
         for (const Choice& choice : choices)
             buttons.push_back(box.addButton(QString::fromLatin1(choice.caption), choice.role));
         box.setDefaultButton(message.second_is_default && buttons.size() > 1 ? buttons[1] : buttons[0]);

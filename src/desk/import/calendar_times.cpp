@@ -97,7 +97,7 @@ Zones::Zones(const Component& calendar) {
         const char* text = icalproperty_get_tzid(name);
         std::unique_ptr<icaltimezone, FreeZone> zone(icaltimezone_new());
         if (text && icaltimezone_set_component(zone.get(), definition.get())) {
-            definition.release(); // the zone's own now
+            static_cast<void>(definition.release()); // the zone's own now
             own_.insert_or_assign(text, std::move(zone));
         }
     }

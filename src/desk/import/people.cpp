@@ -24,7 +24,7 @@ std::string card_key(const store::Contact& contact) {
 
 } // namespace
 
-People::People(store::Store& store, std::string user) : store_(store), user_(values::lower(user)) {
+People::People(store::Store& store, const std::string& user) : store_(store), user_(values::lower(user)) {
     for (const store::Contact& contact : store.contacts())
         know(contact.id, contact);
 }
@@ -38,7 +38,7 @@ void People::know(const std::string& id, const store::Contact& contact) {
 }
 
 std::string People::add(const store::Contact& contact) {
-    const std::string id = store_.add(contact);
+    std::string id = store_.add(contact);
     know(id, contact);
     ++added_;
     return id;

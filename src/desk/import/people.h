@@ -17,7 +17,7 @@ struct Person {
 class People {
 public:
     // `user` is the name of whom the import is for: nobody makes a contact of himself.
-    People(store::Store& store, std::string user);
+    People(store::Store& store, const std::string& user);
 
     // The contacts of these persons, each once: the one with the same mail address or else with the same name,
     // else a new one.

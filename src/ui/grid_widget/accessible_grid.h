@@ -13,8 +13,8 @@ class GridWidget;
 // What a turn of the event loop has changed.
 struct GridNews {
     bool cells = false;
-    bool size = false;                     // the number of rows or columns
-    bool focus = false;                    // the current cell is another one, or the grid has got the focus
+    bool size = false;                          // the number of rows or columns
+    bool focus = false;                         // the current cell is another one, or the grid has got the focus
     std::optional<QRect> selection_before = {}; // its columns and rows, where another is selected now
 };
 

@@ -138,17 +138,15 @@ void GridWidget::sync_scroll_bars() {
 // A scroll bar has got a new value: from the user, or because the model no longer reaches as far as it was
 // scrolled.
 void GridWidget::scrollContentsBy(int, int) {
-    const int top = scrolled_line(rows(), verticalScrollBar()->value(), model_.TopRow());
-    const int left = scrolled_line(cols(), horizontalScrollBar()->value(), model_.LeftCol());
-    if (top != model_.TopRow())
-        model_.TopRow(top);
-    if (left != model_.LeftCol())
-        model_.LeftCol(left);
+    scroll_to(scrolled_line(rows(), verticalScrollBar()->value(), model_.TopRow()),
+              scrolled_line(cols(), horizontalScrollBar()->value(), model_.LeftCol()));
 }
 
 void GridWidget::make_visible(int row, int col) {
-    const int top = rows().first_to_show(row);
-    const int left = cols().first_to_show(col);
+    scroll_to(rows().first_to_show(row), cols().first_to_show(col));
+}
+
+void GridWidget::scroll_to(int top, int left) {
     if (top != model_.TopRow())
         model_.TopRow(top);
     if (left != model_.LeftCol())

@@ -87,6 +87,7 @@ private:
     void settle();
     void tell_what_is_new();
     void sync_scroll_bars();
+    void scroll_to(int top, int left); // the first row and column behind the titles
     const PixelLines& rows() const;
     const PixelLines& cols() const;
     void refresh_lines() const;

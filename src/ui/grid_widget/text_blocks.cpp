@@ -21,6 +21,13 @@ QStringList paragraphs(QString text) {
     return text.split(QLatin1Char('\n'));
 }
 
+// Lines are put to their side when they are drawn.
+QTextOption from_the_left(QTextOption::WrapMode wrap) {
+    QTextOption option(Qt::AlignLeft | Qt::AlignAbsolute);
+    option.setWrapMode(wrap);
+    return option;
+}
+
 } // namespace
 
 TextBlock::TextBlock(const QString& text, const QFont& font, int width, int height) : font_(font) {
@@ -42,10 +49,7 @@ TextBlock::TextBlock(const QString& text, const QFont& font, int width, int heig
 // False when a part of the paragraph is left over.
 bool TextBlock::add_lines(const QString& paragraph, int width, int most) {
     QTextLayout layout(paragraph, font_);
-    QTextOption option;
-    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
-    option.setAlignment(Qt::AlignLeft | Qt::AlignAbsolute);
-    layout.setTextOption(option);
+    layout.setTextOption(from_the_left(QTextOption::WrapAtWordBoundaryOrAnywhere));
 
     bool complete = true;
     std::vector<QTextLine> added;
@@ -70,10 +74,7 @@ void TextBlock::end_with_ellipsis(int width) {
     const QString cut = QFontMetricsF(font_).elidedText(lines_.back().text + ellipsis, Qt::ElideRight, width);
     lines_.pop_back();
     QTextLayout layout(cut, font_);
-    QTextOption option;
-    option.setWrapMode(QTextOption::NoWrap);
-    option.setAlignment(Qt::AlignLeft | Qt::AlignAbsolute);
-    layout.setTextOption(option);
+    layout.setTextOption(from_the_left(QTextOption::NoWrap));
     layout.beginLayout();
     QTextLine line = layout.createLine();
     line.setLineWidth(width);

@@ -102,8 +102,6 @@ void ContactPage::save() {
         lookup_.include(contact.id);
 }
 
-bool ContactPage::has_changes() const { return form_->is_changed() || notes_->has_draft(); }
-
 void ContactPage::undo() {
     is_new_ = false;
     show_current();

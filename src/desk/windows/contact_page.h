@@ -39,7 +39,6 @@ public:
 
     // Stores what has been typed. Failures are the store's; what was typed then stays.
     void save();
-    bool has_changes() const;
     void undo();
 
 private:

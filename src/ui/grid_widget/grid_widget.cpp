@@ -169,16 +169,9 @@ void GridWidget::paintEvent(QPaintEvent*) {
                    hasFocus() ? Marks::with_focus : Marks::without_focus);
 }
 
-void GridWidget::paint_whole(QPainter& painter) {
-    painter_.paint(painter, QRect(QPoint(), whole_size()), model_, PixelLines::whole(model_.rows()),
-                   PixelLines::whole(model_.columns()), Marks::none);
-}
-
-QSize GridWidget::whole_size() const {
+QSize GridWidget::viewportSizeHint() const {
     return {PixelLines::whole(model_.columns()).total_end(), PixelLines::whole(model_.rows()).total_end()};
 }
-
-QSize GridWidget::viewportSizeHint() const { return whole_size(); }
 
 void GridWidget::resizeEvent(QResizeEvent*) {
     lines_are_stale_ = true;

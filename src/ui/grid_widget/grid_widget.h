@@ -38,10 +38,6 @@ public:
     QRect cell_rect(int row, int col) const;
     // Row and column at a place in the viewport; -1 where there is none.
     std::pair<int, int> cell_at(QPoint place) const { return {rows().at(place.y()), cols().at(place.x())}; }
-    // The whole grid, nothing scrolled away, without marks of the current cell and the selection: into any device,
-    // in pixels from its origin.
-    void paint_whole(QPainter& painter);
-    QSize whole_size() const; // pixels
 
     // The user draws the current cell from the press on until the button is let go. At an edge of the view the
     // grid scrolls. Escape, or somebody else's getting the focus, gives the drag up and scrolls back.

@@ -262,23 +262,4 @@ TEST(GridWidget, LeavesTheMouseItsOwnMenu) {
     EXPECT_TRUE(places.empty());
 }
 
-TEST(GridWidget, DrawsTheWholeGridWhateverIsScrolledAway) {
-    ShownGrid grid;
-    write(grid.model, 1, 2, "First");
-    write(grid.model, 39, 7, "Last");
-    EXPECT_EQ(grid.widget->whole_size(), QSize(800, 20 + 39 * 40));
-    const auto whole = [&grid] {
-        QImage image(grid.widget->whole_size(), QImage::Format_RGB32);
-        QPainter painter(&image);
-        grid.widget->paint_whole(painter);
-        return image;
-    };
-    const QImage before = whole();
-    grid.widget->verticalScrollBar()->setValue(20);
-    grid.model.RowSel(30);
-    EXPECT_EQ(whole(), before);
-    write(grid.model, 39, 7, "Other");
-    EXPECT_NE(whole(), before);
-}
-
 } // namespace

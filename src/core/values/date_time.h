@@ -12,9 +12,11 @@ namespace values {
 class DateTime {
 public:
     constexpr DateTime() = default;
+    // Takes what is no date too, as a database can hold it, but nothing further away than days can be reckoned.
     static constexpr DateTime from_seconds(std::int64_t seconds) {
+        constexpr std::int64_t furthest = 86400 * (std::int64_t{1} << 40); // whole days
         DateTime result;
-        result.seconds_ = seconds;
+        result.seconds_ = seconds < -furthest ? -furthest : seconds > furthest ? furthest : seconds;
         return result;
     }
     // Months, days, hours, minutes and seconds outside their range roll over: the 31st of a month of 30 days

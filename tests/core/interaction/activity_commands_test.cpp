@@ -2,6 +2,8 @@
 
 #include "activity_commands_world.h"
 
+#include <functional>
+
 namespace {
 
 using act::CommandNumber;
@@ -214,7 +216,7 @@ TEST_F(ActivityCommands, TheUsersOwnFilterAndTabAreTheSameAfterAnyCommandAsBefor
                 select(row_of(slot), col_of(10));
                 if (fails)
                     fail_before("Command");
-                (this->commands.*command)();
+                std::invoke(command, commands);
                 EXPECT_EQ(record.before, nullptr) << "the command wasn't run";
                 EXPECT_EQ(running_desk.tab, "Groups");
                 EXPECT_EQ(running_desk.filter.mask, 36);
@@ -233,7 +235,7 @@ TEST_F(ActivityCommands, WithoutASelectedCellShowTheBoxOfTheirOwnProcedure) {
     calendar.selection.SelectedCell.reset();
     for (const auto& [command, name] : procedures) {
         forget();
-        (commands.*command)();
+        std::invoke(command, commands);
         EXPECT_TRUE(only_box().starts_with("Error 91: ")) << name;
         EXPECT_TRUE(place().starts_with("in frmMain: Sub " + name + " - Line # ")) << only_box();
         EXPECT_EQ(running_desk.commands, Numbers{}) << name;

@@ -62,7 +62,7 @@ TEST_F(Holidays, ThatCantBeReadAreAFailure) {
 
 TEST_F(Holidays, AreReadFromNoiseAndNULs) {
     std::string noise = "[Holidays]\n";
-    for (int byte = 0; byte < 100000; ++byte)
+    for (unsigned byte = 0; byte < 100000; ++byte)
         noise += static_cast<char>((byte * byte / 7 + byte) % 251 + 3);
     files.content["/program/holidays.dat"] = noise;
     EXPECT_GT(holidays.lines("/program/holidays.dat").size(), 10U);

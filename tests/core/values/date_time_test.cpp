@@ -103,6 +103,16 @@ TEST(DateTime, FailsWith5BeyondTheCalendarsEnds) {
     EXPECT_EQ(failure_number([&] { last.plus_days(-1); }), 0);
 }
 
+TEST(DateTime, TellsDayAndTimeOfWhatIsNoDateToo) {
+    for (const std::int64_t seconds : {INT64_MIN, INT64_MIN + 1, INT64_MAX}) {
+        const DateTime far = DateTime::from_seconds(seconds);
+        EXPECT_EQ(far.date().seconds() + far.time().seconds(), far.seconds());
+        EXPECT_EQ(far < DateTime(), seconds < 0);
+        EXPECT_EQ(days_between(far, far.date()), 0);
+        EXPECT_EQ(failure_number([&] { far.plus_days(1); }), 5);
+    }
+}
+
 TEST(DaysBetween, CountsDatesAndIgnoresTimes) {
     EXPECT_EQ(days_between(DateTime::of(2024, 1, 1, 23, 59), DateTime::of(2024, 1, 2, 0, 1)), 1);
     EXPECT_EQ(days_between(DateTime::of(2024, 1, 1, 0, 0), DateTime::of(2024, 1, 1, 23, 59)), 0);

@@ -28,8 +28,7 @@ struct ReadGrid : ShownGrid {
             if (const auto* cell = about->tableCellInterface()) {
                 told.row = cell->rowIndex();
                 told.col = cell->columnIndex();
-            } else {
-                auto* change = static_cast<QAccessibleTableModelChangeEvent*>(event);
+            } else if (auto* change = dynamic_cast<QAccessibleTableModelChangeEvent*>(event)) {
                 told.reset = change->modelChangeType() == QAccessibleTableModelChangeEvent::ModelReset;
                 about->tableInterface()->modelChange(change);
             }

@@ -34,10 +34,12 @@ public:
         window.load();
         settle();
     }
-    // Lets everything happen that is due.
+    // Lets everything happen that is due, and what that makes due.
     static void settle() {
-        QCoreApplication::sendPostedEvents();
-        QCoreApplication::processEvents();
+        for (int round = 0; round < 3; ++round) {
+            QCoreApplication::sendPostedEvents();
+            QCoreApplication::processEvents();
+        }
     }
     // What the grid shows at that hour on the Wednesday.
     QString at(int hour) {

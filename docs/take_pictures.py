@@ -98,8 +98,9 @@ def contact_desk():
         shown_and_still(desktop, picture("desk"), "-window", window)
 
 
-for window in PICTURES:
-    calendar_window(*window)
-menu_over_the_grid()
-dialog_of_the_desk()
-contact_desk()
+if __name__ == "__main__":
+    for window in PICTURES:
+        calendar_window(*window)
+    menu_over_the_grid()
+    dialog_of_the_desk()
+    contact_desk()

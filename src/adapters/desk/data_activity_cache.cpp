@@ -195,10 +195,9 @@ const std::vector<ActivityCache::Row>& ActivityCache::series(const SeriesDates& 
     std::vector<ActivityRow> read;
     reading_.each_series(store::DateTime::from_seconds(dates.from), store::DateTime::from_seconds(dates.to),
                          [&](ActivityRow&& row) { read.push_back(std::move(row)); });
-    std::vector<Row> series;
-    series.reserve(read.size());
-    for (Row& row : side_by_side(std::move(read)))
-        series.push_back(keep(std::move(row)));
+    std::vector<Row> series = side_by_side(std::move(read));
+    for (const Row& row : series)
+        keep(row);
     series_ = std::move(series);
     series_dates_ = dates;
     return series_;

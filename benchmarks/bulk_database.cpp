@@ -1,6 +1,6 @@
 #include "benchmarks/bulk_database.h"
 
-#include "store/contact_fields.h"
+#include "desk/store/contact_fields.h"
 
 #include <algorithm>
 #include <random>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "store/store.h"
+#include "desk/store/store.h"
 
 namespace bench {
 

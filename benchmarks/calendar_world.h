@@ -1,8 +1,8 @@
 #pragma once
 
-#include "adapters/desk/desk_data.h"
-#include "adapters/qt/files.h"
-#include "engine/calendar_engine.h"
+#include "adapters/qt/qt_files.h"
+#include "adapters/records/records.h"
+#include "core/engine/calendar_engine.h"
 #include "support/fake_act_server.h"
 #include "support/fake_timer.h"
 #include "support/grid_world.h"
@@ -39,7 +39,7 @@ public:
 private:
     std::unique_ptr<act::Application> create_application() override { return desk_.create_application(); }
     std::unique_ptr<act::Database> create_database() override {
-        return desk::make_database([this] { return database_; });
+        return records::make_database([this] { return database_; });
     }
     std::unique_ptr<act::AuxCommands> create_aux_commands() override { return desk_.create_aux_commands(); }
 

@@ -8,10 +8,10 @@
 
 #include "benchmarks/bulk_database.h"
 #include "benchmarks/times.h"
-#include "main_window/frm_main.h"
 #include "support/half_real_server.h"
 #include "support/platform_world.h"
 #include "support/temporary_folder.h"
+#include "ui/main_window/frm_main.h"
 
 #include <QApplication>
 #include <QMouseEvent>

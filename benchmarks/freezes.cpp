@@ -1,10 +1,10 @@
 // How long the calendar's window hears nothing while it does what the user asked for, over a large database: the
 // longest single event, and the longest part of one without the hourglass.
 #include "benchmarks/bulk_database.h"
-#include "main_window/frm_main.h"
 #include "support/half_real_server.h"
 #include "support/platform_world.h"
 #include "support/temporary_database.h"
+#include "ui/main_window/frm_main.h"
 
 #include <QAbstractButton>
 #include <QAction>

@@ -1,8 +1,8 @@
 // How long a page of the calendar's grid takes to paint, beside a QTableView that shows the same texts and
 // colours.
 #include "benchmarks/times.h"
-#include "grid_widget/grid_style.h"
-#include "grid_widget/grid_widget.h"
+#include "ui/grid_widget/grid_widget.h"
+#include "ui/picture/style.h"
 
 #include <QAbstractTableModel>
 #include <QApplication>
@@ -21,12 +21,12 @@ constexpr int columns = 9;
 constexpr int title_height = 390, row_height = 820, column_width = 2200; // twips
 constexpr QSize page(1400, 900);
 
-void fill(grid::GridModel& model, int row_count) {
+void fill(table::GridModel& model, int row_count) {
     static const std::array<const char*, 5> texts{
         "Jane Chan\rPhone: (212) 555-2485\rConfirm the meeting", "Ernst Anderson, Lunch",
         "Liz Dempsey, Discuss the annual maintenance contract and its renewal before the end of the quarter",
         "Sean Weathers\rFollow up on the proposal", "( Continued )"};
-    static const std::array<grid::Colour, 4> colours{0x000000, 0x00008b, 0x8b0000, 0x006400};
+    static const std::array<table::Colour, 4> colours{0x000000, 0x00008b, 0x8b0000, 0x006400};
     model.Rows(row_count);
     model.Cols(columns);
     model.FixedCols(2);
@@ -52,14 +52,14 @@ void fill(grid::GridModel& model, int row_count) {
 // The same cells for a QTableView, converted beforehand: its time is that of painting alone.
 class TableModel : public QAbstractTableModel {
 public:
-    explicit TableModel(const grid::GridModel& model) : rows_(model.Rows()) {
+    explicit TableModel(const table::GridModel& model) : rows_(model.Rows()) {
         for (int row = 0; row < model.Rows(); ++row)
             for (int col = 0; col < model.Cols(); ++col) {
-                const grid::GridCell& cell = model.cell(row, col);
+                const table::GridCell& cell = model.cell(row, col);
                 QString text = QString::fromStdString(cell.text);
                 text.replace('\r', '\n');
-                cells_.push_back({text, ui::screen_colour(cell.back_colour, Qt::white),
-                                  ui::screen_colour(cell.fore_colour, Qt::black)});
+                cells_.push_back({text, picture::screen_colour(cell.back_colour, Qt::white),
+                                  picture::screen_colour(cell.fore_colour, Qt::black)});
             }
     }
     int rowCount(const QModelIndex& = {}) const override { return rows_; }
@@ -96,8 +96,8 @@ struct Pages {
         grid.emplace(model);
         table_model.emplace(model);
         table.setModel(&*table_model);
-        table.verticalHeader()->setDefaultSectionSize(row_height / ui::twips_per_pixel);
-        table.horizontalHeader()->setDefaultSectionSize(column_width / ui::twips_per_pixel);
+        table.verticalHeader()->setDefaultSectionSize(row_height / picture::twips_per_pixel);
+        table.horizontalHeader()->setDefaultSectionSize(column_width / picture::twips_per_pixel);
         table.verticalHeader()->hide();
         table.horizontalHeader()->hide();
         for (QWidget* widget : {static_cast<QWidget*>(&*grid), static_cast<QWidget*>(&table)}) {
@@ -107,7 +107,7 @@ struct Pages {
     }
 
     int rows;
-    grid::GridModel model;
+    table::GridModel model;
     std::optional<ui::GridWidget> grid;
     std::optional<TableModel> table_model;
     QTableView table;

@@ -1,1 +1,1 @@
-#include "grid/layout.h"
+#include "core/grid/layout.h"

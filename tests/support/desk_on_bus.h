@@ -1,6 +1,6 @@
 #pragma once
 
-#include "service/service.h"
+#include "desk/service/service.h"
 #include "support/fake_desk.h"
 #include "support/private_bus.h"
 

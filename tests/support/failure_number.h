@@ -1,6 +1,6 @@
 #pragma once
 
-#include "values/failure.h"
+#include "core/values/failure.h"
 
 #include <utility>
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "act/objects.h"
-#include "values/failure.h"
-#include "values/ids.h"
+#include "core/act/objects.h"
+#include "core/values/failure.h"
+#include "core/values/ids.h"
 
 #include <algorithm>
 #include <deque>

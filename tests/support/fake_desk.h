@@ -1,8 +1,8 @@
 #pragma once
 
-#include "service/desk.h"
-#include "store/toolbar_commands.h"
-#include "values/failure.h"
+#include "core/values/failure.h"
+#include "desk/model/desk.h"
+#include "desk/store/toolbar_commands.h"
 
 #include <algorithm>
 #include <map>
@@ -14,12 +14,12 @@
 namespace support {
 
 // A desk without windows, with what it was told and what it answers in the open.
-class FakeDesk : public service::Desk, public service::ContactView, public service::ActivityDialog {
+class FakeDesk : public model::Desk, public model::ContactView, public model::ActivityDialog {
 public:
     std::string path; // of the open database
 
     std::string database_path() const override { return path; }
-    service::ContactView& contact_view() override { return *this; }
+    model::ContactView& contact_view() override { return *this; }
     void run_command(act::CommandNumber number, std::function<void()> finished) override {
         commands.push_back(number);
         refuse_if_told();
@@ -29,11 +29,11 @@ public:
     }
     bool has_dialog = false;
     bool is_dialog_new = true;
-    std::vector<service::ActivityValues> filled;
+    std::vector<model::ActivityValues> filled;
     std::vector<std::string> shown_tabs;
-    service::ActivityDialog* activity_dialog() override { return has_dialog ? this : nullptr; }
+    model::ActivityDialog* activity_dialog() override { return has_dialog ? this : nullptr; }
     bool is_new() const override { return is_dialog_new; }
-    void fill(const service::ActivityValues& values) override { filled.push_back(values); }
+    void fill(const model::ActivityValues& values) override { filled.push_back(values); }
     void show_tab(const std::string& name) override {
         refuse_if_told();
         shown_tabs.push_back(name);

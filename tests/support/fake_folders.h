@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/folders.h"
+#include "core/host/folders.h"
 
 #include <set>
 #include <string>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/message_box.h"
+#include "core/host/message_box.h"
 
 #include <deque>
 #include <vector>

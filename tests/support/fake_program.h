@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/program.h"
+#include "core/shell/program.h"
 
 namespace support {
 

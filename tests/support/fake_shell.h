@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/shell.h"
+#include "core/host/shell.h"
 
 #include <string>
 #include <vector>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/clock.h"
+#include "core/host/clock.h"
 
 #include <functional>
 #include <utility>

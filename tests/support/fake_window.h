@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/window.h"
+#include "core/host/window.h"
 
 #include <string>
 #include <vector>

@@ -1,12 +1,13 @@
 #pragma once
 
-#include "act/session.h"
-#include "act/user_list.h"
-#include "grid/calendar_grid.h"
-#include "host/application_info.h"
-#include "host/guard.h"
-#include "settings/ini_lib.h"
-#include "settings/per_user_store.h"
+#include "core/act/session.h"
+#include "core/act/user_list.h"
+#include "core/grid/calendar_grid.h"
+#include "core/host/application_info.h"
+#include "core/host/guard.h"
+#include "core/settings/ini_lib.h"
+#include "core/settings/per_user_store.h"
+#include "core/values/locale.h"
 #include "support/fake_act_server.h"
 #include "support/fake_clock.h"
 #include "support/fake_folders.h"
@@ -14,7 +15,6 @@
 #include "support/fake_user_store.h"
 #include "support/fake_window.h"
 #include "support/memory_files.h"
-#include "values/locale.h"
 
 #include <string>
 #include <vector>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "adapters/desk/desk_data.h"
+#include "adapters/records/records.h"
 #include "support/fake_act_server.h"
 
 #include <memory>
@@ -14,7 +14,7 @@ public:
     explicit HalfRealServer(std::string database) : database_(std::move(database)) {}
     std::unique_ptr<act::Application> create_application() override { return fakes_.create_application(); }
     std::unique_ptr<act::Database> create_database() override {
-        return desk::make_database([this] { return database_; });
+        return records::make_database([this] { return database_; });
     }
     std::unique_ptr<act::AuxCommands> create_aux_commands() override { return fakes_.create_aux_commands(); }
 

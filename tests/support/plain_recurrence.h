@@ -1,6 +1,6 @@
 #pragma once
 
-#include "engine/recurrence.h"
+#include "core/recurrence/starts.h"
 
 #include <chrono>
 #include <vector>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/calendar.h"
+#include "core/calendar/calendar.h"
 #include "support/fake_act_server.h"
 #include "support/fake_clock.h"
 #include "support/fake_folders.h"
@@ -33,9 +33,9 @@ public:
         return lines;
     }
 
-    shell::Platform platform(act::Server& server) { return platform(server, box, events); }
+    calendar::Platform platform(act::Server& server) { return platform(server, box, events); }
     // With a box and events that are real ones.
-    shell::Platform platform(act::Server& server, host::MessageBox& box, act::EventControl& events) {
+    calendar::Platform platform(act::Server& server, host::MessageBox& box, act::EventControl& events) {
         return {.application = application,
                 .locale = values::english_us(),
                 .box = box,

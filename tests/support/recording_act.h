@@ -1,8 +1,8 @@
 #pragma once
 
-#include "act/database.h"
-#include "values/text_forms.h"
-#include "values/value.h"
+#include "core/act/database.h"
+#include "core/values/text_forms.h"
+#include "core/values/value.h"
 
 #include <functional>
 #include <memory>

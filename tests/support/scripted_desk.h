@@ -1,7 +1,7 @@
 #pragma once
 
-#include "act/application.h"
-#include "store/store.h"
+#include "core/act/application.h"
+#include "desk/store/store.h"
 #include "support/recording_act.h"
 
 #include <algorithm>

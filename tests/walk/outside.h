@@ -1,9 +1,9 @@
 #pragma once
 
-#include "activitywin/dialog_filler.h"
-#include "host/shell.h"
-#include "settings/per_user_store.h"
-#include "shell/program.h"
+#include "companions/activitywin/dialog_filler.h"
+#include "core/host/shell.h"
+#include "core/settings/per_user_store.h"
+#include "core/shell/program.h"
 
 namespace walk {
 

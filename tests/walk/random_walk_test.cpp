@@ -1,4 +1,4 @@
-#include "store/sample.h"
+#include "desk/store/sample.h"
 #include "support/private_bus.h"
 #include "support/temporary_folder.h"
 #include "walk/walker.h"
@@ -42,7 +42,7 @@ TEST(RandomWalk, LeavesTheDatabaseWholeWhateverIsClickedAndTyped) {
         for (const auto& [text, count] : walker.failure_boxes)
             std::printf("%6d times %s\n", count, text.c_str());
     }
-    desk::make_application(desk::make_link(bus.connection()))->Command(act::CommandNumber::close_application);
+    bus::make_application(bus::make_link(bus.connection()))->Command(act::CommandNumber::close_application);
     EXPECT_EQ(desk.exit_code(), 0);
 }
 

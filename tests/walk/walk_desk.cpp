@@ -1,10 +1,10 @@
-#include "service/service.h"
+#include "desk/service/service.h"
+#include "desk/windows/desk_window.h"
+#include "desk/windows/open_toolbar_commands.h"
 #include "support/fake_mail_program.h"
 #include "walk/random_hand.h"
 #include "walk/ticking.h"
 #include "walk/watchdog.h"
-#include "windows/main_window.h"
-#include "windows/open_toolbar_commands.h"
 
 #include <QApplication>
 
@@ -28,8 +28,8 @@ int main(int argc, char** argv) {
         return 2;
     support::FakeMailProgram mail;
     const auto bus = QDBusConnection::connectToBus(QString::fromLocal8Bit(argv[1]), "walk_desk");
-    windows::Session session(values::english_us());
-    windows::MainWindow window(session, import_nothing);
+    windows::OpenDatabase session(values::english_us());
+    windows::DeskWindow window(session, import_nothing);
     windows::OpenToolbarCommands toolbar_commands(session);
     service::Service service(window.desk(), toolbar_commands, values::english_us());
     window.show();

@@ -1,6 +1,6 @@
 #include "walk/walker.h"
 
-#include "host/deployment.h"
+#include "core/host/deployment.h"
 
 #include <QApplication>
 #include <QFile>
@@ -18,7 +18,7 @@ constexpr int tick_milliseconds = 1;
 constexpr int longest_wait = 120'000; // milliseconds for one dialog of the desk
 constexpr unsigned knocking_seed = 7;
 
-shell::Platform with(const shell::Platform& platform) { return platform; }
+calendar::Platform with(const calendar::Platform& platform) { return platform; }
 
 std::function<void(const std::string&)> teller(const RandomHand& hand) {
     const char* log = std::getenv("ORVANTA_WALK_LOG");
@@ -33,21 +33,21 @@ std::function<void(const std::string&)> teller(const RandomHand& hand) {
 } // namespace
 
 OpenCalendar::OpenCalendar(const QDBusConnection& bus, const std::string& folder)
-    : link_(desk::make_link(bus)), user_store_(*files_, folder + "/user-store.ini"), shell_(bus, user_values_),
+    : link_(bus::make_link(bus)), user_store_(*files_, folder + "/user-store.ini"), shell_(bus, user_values_),
       folders_(qt::make_folders(folder, folder)), server_(link_, locale_),
-      ActEvent1_(desk::make_event_control(link_)), window_(with({.application = host::application_info(),
-                                                                 .locale = locale_,
-                                                                 .box = *box_,
-                                                                 .clock = *clock_,
-                                                                 .tmrRefresh = *tmrRefresh_,
-                                                                 .tmr2 = *tmr2_,
-                                                                 .shell = shell_,
-                                                                 .user_store = user_store_,
-                                                                 .files = *files_,
-                                                                 .folders = *folders_,
-                                                                 .program = process_,
-                                                                 .server = server_,
-                                                                 .ActEvent1 = *ActEvent1_})) {}
+      ActEvent1_(bus::make_event_control(link_)), window_(with({.application = host::application_info(),
+                                                                .locale = locale_,
+                                                                .box = *box_,
+                                                                .clock = *clock_,
+                                                                .tmrRefresh = *tmrRefresh_,
+                                                                .tmr2 = *tmr2_,
+                                                                .shell = shell_,
+                                                                .user_store = user_store_,
+                                                                .files = *files_,
+                                                                .folders = *folders_,
+                                                                .program = process_,
+                                                                .server = server_,
+                                                                .ActEvent1 = *ActEvent1_})) {}
 
 Walker::Walker(const QDBusConnection& bus, DeskProcess& desk, const std::string& database,
                const std::string& folder, unsigned seed, long events)
@@ -191,7 +191,7 @@ QPoint Walker::place_in_grid() {
 // In one of the cells in sight that show something, if there is one.
 QPoint Walker::place_of_activity() {
     const auto* grid = calendar_->window().findChild<ui::GridWidget*>("msgSched");
-    const grid::GridModel& model = grid->model();
+    const table::GridModel& model = grid->model();
     const QRect seen = grid->viewport()->rect();
     QList<QRect> filled;
     for (int row = model.FixedRows(); row < model.Rows(); ++row)

@@ -1,13 +1,13 @@
 #pragma once
 
-#include "adapters/desk/application_bridge.h"
-#include "adapters/qt/clock.h"
-#include "adapters/qt/files.h"
-#include "adapters/qt/folders.h"
-#include "adapters/qt/message_box.h"
-#include "main_window/frm_main.h"
-#include "orvanta/desk_server.h"
-#include "settings/file_user_store.h"
+#include "adapters/bus/application_bridge.h"
+#include "adapters/qt/qt_clock.h"
+#include "adapters/qt/qt_files.h"
+#include "adapters/qt/qt_folders.h"
+#include "adapters/qt/qt_message_box.h"
+#include "apps/orvanta/desk_server.h"
+#include "core/settings/file_user_store.h"
+#include "ui/main_window/frm_main.h"
 #include "walk/desk_process.h"
 #include "walk/outside.h"
 #include "walk/random_hand.h"
@@ -31,11 +31,11 @@ public:
     OpenCalendar(const QDBusConnection& bus, const std::string& folder);
 
     ui::frmMain& window() { return window_; }
-    bool waits_for_desk() const { return desk::command_waits(*link_); }
+    bool waits_for_desk() const { return bus::command_waits(*link_); }
     bool has_ended() const { return process_.has_ended; }
 
 private:
-    std::shared_ptr<desk::Link> link_;
+    std::shared_ptr<bus::Link> link_;
     const values::Locale& locale_ = values::english_us();
     std::unique_ptr<host::MessageBox> box_ = qt::make_message_box();
     std::unique_ptr<host::Clock> clock_ = qt::make_clock();

@@ -1,6 +1,6 @@
-#include "activitywin/dialog_filler.h"
-#include "adapters/qt/files.h"
-#include "adapters/qt/user_store.h"
+#include "adapters/qt/qt_files.h"
+#include "adapters/qt/qt_user_store.h"
+#include "companions/activitywin/dialog_filler.h"
 
 #include <QCoreApplication>
 

@@ -1,13 +1,13 @@
 #include "adapters/qt/appearance.h"
-#include "adapters/qt/locale.h"
-#include "contact_desk/options.h"
-#include "import/import_file.h"
-#include "service/service.h"
-#include "store/store.h"
-#include "values/failure.h"
-#include "windows/main_window.h"
-#include "windows/open_toolbar_commands.h"
-#include "windows/sample_file.h"
+#include "adapters/qt/qt_locale.h"
+#include "apps/contact_desk/options.h"
+#include "core/values/failure.h"
+#include "desk/import/import_file.h"
+#include "desk/service/service.h"
+#include "desk/store/store.h"
+#include "desk/windows/desk_window.h"
+#include "desk/windows/open_toolbar_commands.h"
+#include "desk/windows/sample_file.h"
 
 #include <QApplication>
 #include <QMessageBox>
@@ -50,8 +50,8 @@ int run(const apps::ShowWindow& task, int argc, char** argv) {
     QApplication::setApplicationVersion(CONTACT_DESK_VERSION);
     qt::dress(application);
     const values::Locale locale = qt::system_locale();
-    windows::Session session(locale);
-    windows::MainWindow window(session, import_for_window);
+    windows::OpenDatabase session(locale);
+    windows::DeskWindow window(session, import_for_window);
     windows::OpenToolbarCommands toolbar_commands(session);
     service::Service service(window.desk(), toolbar_commands, locale);
     window.show();

@@ -1,16 +1,16 @@
 #include "adapters/qt/appearance.h"
-#include "adapters/qt/clock.h"
 #include "adapters/qt/end_requests.h"
-#include "adapters/qt/files.h"
-#include "adapters/qt/folders.h"
-#include "adapters/qt/locale.h"
-#include "adapters/qt/message_box.h"
-#include "adapters/qt/shell.h"
-#include "adapters/qt/user_store.h"
-#include "host/deployment.h"
-#include "main_window/frm_main.h"
-#include "orvanta/desk_server.h"
-#include "orvanta/process.h"
+#include "adapters/qt/qt_clock.h"
+#include "adapters/qt/qt_files.h"
+#include "adapters/qt/qt_folders.h"
+#include "adapters/qt/qt_locale.h"
+#include "adapters/qt/qt_message_box.h"
+#include "adapters/qt/qt_shell.h"
+#include "adapters/qt/qt_user_store.h"
+#include "apps/orvanta/desk_server.h"
+#include "apps/orvanta/process.h"
+#include "core/host/deployment.h"
+#include "ui/main_window/frm_main.h"
 
 #include <QApplication>
 #include <QDBusConnection>
@@ -37,9 +37,9 @@ int main(int argc, char** argv) {
     const auto user_store = qt::make_user_store(*files);
     const auto folders = qt::make_folders();
     apps::Process process;
-    const auto link = desk::make_link(QDBusConnection::sessionBus());
+    const auto link = bus::make_link(QDBusConnection::sessionBus());
     apps::DeskServer server(link, locale);
-    const auto ActEvent1 = desk::make_event_control(link);
+    const auto ActEvent1 = bus::make_event_control(link);
 
     ui::frmMain window({.application = info,
                         .locale = locale,
@@ -60,7 +60,7 @@ int main(int argc, char** argv) {
         // Not before, as what isn't loaded yet would be stored over the state of the last time.
         end_requests = qt::make_end_requests([&] {
             window.unload_at_once();
-            desk::abandon_command(*link);
+            bus::abandon_command(*link);
         });
     };
     QMetaObject::invokeMethod(&window, load, Qt::QueuedConnection);

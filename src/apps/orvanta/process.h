@@ -1,7 +1,7 @@
 #pragma once
 
 #include "adapters/qt/single_instance.h"
-#include "shell/program.h"
+#include "core/shell/program.h"
 
 #include <QCoreApplication>
 

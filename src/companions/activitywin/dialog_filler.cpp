@@ -1,7 +1,7 @@
-#include "activitywin/dialog_filler.h"
+#include "companions/activitywin/dialog_filler.h"
 
 #include "contract/names.h"
-#include "settings/catalogue.h"
+#include "core/settings/catalogue.h"
 
 #include <QDBusPendingCallWatcher>
 

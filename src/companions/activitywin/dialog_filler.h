@@ -1,7 +1,7 @@
 #pragma once
 
-#include "activity_dialog_proxy.h"
-#include "settings/per_user_store.h"
+#include "contract/activity_dialog_proxy.h"
+#include "core/settings/per_user_store.h"
 
 #include <QDBusConnection>
 #include <QDBusServiceWatcher>

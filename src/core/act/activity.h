@@ -1,7 +1,7 @@
 #pragma once
 
-#include "values/date_time.h"
-#include "values/value.h"
+#include "core/values/date_time.h"
+#include "core/values/value.h"
 
 #include <cstdint>
 #include <optional>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "act/activity.h"
+#include "core/act/activity.h"
 
 #include <cstdint>
 #include <memory>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "act/application.h"
-#include "act/database.h"
+#include "core/act/application.h"
+#include "core/act/database.h"
 
 #include <memory>
 

@@ -1,8 +1,8 @@
-#include "act/populate_lists.h"
+#include "core/act/populate_lists.h"
 
-#include "values/ids.h"
-#include "values/numbers.h"
-#include "values/text.h"
+#include "core/values/ids.h"
+#include "core/values/numbers.h"
+#include "core/values/text.h"
 
 namespace act {
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "act/item_list.h"
-#include "act/session.h"
-#include "host/guard.h"
+#include "core/act/item_list.h"
+#include "core/act/session.h"
+#include "core/host/guard.h"
 
 #include <array>
 #include <string>

@@ -1,4 +1,4 @@
-#include "act/session.h"
+#include "core/act/session.h"
 
 namespace act {
 

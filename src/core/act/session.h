@@ -1,8 +1,8 @@
 #pragma once
 
-#include "act/objects.h"
-#include "act/reference.h"
-#include "host/guard.h"
+#include "core/act/objects.h"
+#include "core/act/reference.h"
+#include "core/host/guard.h"
 
 namespace act {
 

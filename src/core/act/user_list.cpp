@@ -1,8 +1,8 @@
-#include "act/user_list.h"
+#include "core/act/user_list.h"
 
-#include "settings/catalogue.h"
-#include "values/ids.h"
-#include "values/numbers.h"
+#include "core/settings/catalogue.h"
+#include "core/values/ids.h"
+#include "core/values/numbers.h"
 
 namespace act {
 

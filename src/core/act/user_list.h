@@ -1,10 +1,10 @@
 #pragma once
 
-#include "act/item_list.h"
-#include "act/populate_lists.h"
-#include "act/session.h"
-#include "host/guard.h"
-#include "settings/ini_lib.h"
+#include "core/act/item_list.h"
+#include "core/act/populate_lists.h"
+#include "core/act/session.h"
+#include "core/host/guard.h"
+#include "core/settings/ini_lib.h"
 
 #include <string>
 #include <unordered_map>

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "engine/cell_text.h"
-#include "engine/placing.h"
-#include "engine/quick_refresh.h"
-#include "engine/recurring.h"
-#include "engine/refresh.h"
-#include "engine/refresh_timer.h"
+#include "core/engine/cell_text.h"
+#include "core/engine/placing.h"
+#include "core/engine/quick_refresh.h"
+#include "core/engine/recurring.h"
+#include "core/engine/refresh.h"
+#include "core/engine/refresh_timer.h"
 
 namespace engine {
 

@@ -1,10 +1,10 @@
-#include "engine/cell_text.h"
+#include "core/engine/cell_text.h"
 
-#include "engine/phone.h"
-#include "settings/catalogue.h"
-#include "values/numbers.h"
-#include "values/text_forms.h"
-#include "values/value.h"
+#include "core/engine/phone.h"
+#include "core/settings/catalogue.h"
+#include "core/values/numbers.h"
+#include "core/values/text_forms.h"
+#include "core/values/value.h"
 
 namespace engine {
 

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "act/populate_lists.h"
-#include "act/session.h"
-#include "grid/layout.h"
-#include "host/guard.h"
-#include "settings/ini_lib.h"
-#include "values/locale.h"
+#include "core/act/populate_lists.h"
+#include "core/act/session.h"
+#include "core/grid/layout.h"
+#include "core/host/guard.h"
+#include "core/settings/ini_lib.h"
+#include "core/values/locale.h"
 
 #include <array>
 #include <string>

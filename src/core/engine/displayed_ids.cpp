@@ -1,6 +1,6 @@
-#include "engine/displayed_ids.h"
+#include "core/engine/displayed_ids.h"
 
-#include "values/ids.h"
+#include "core/values/ids.h"
 
 #include <algorithm>
 #include <cstring>

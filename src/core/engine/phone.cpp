@@ -1,6 +1,6 @@
-#include "engine/phone.h"
+#include "core/engine/phone.h"
 
-#include "values/text.h"
+#include "core/values/text.h"
 
 #include <algorithm>
 

@@ -1,9 +1,9 @@
-#include "engine/placing.h"
+#include "core/engine/placing.h"
 
-#include "settings/catalogue.h"
-#include "values/numbers.h"
-#include "values/text_forms.h"
-#include "values/value.h"
+#include "core/settings/catalogue.h"
+#include "core/values/numbers.h"
+#include "core/values/text_forms.h"
+#include "core/values/value.h"
 
 namespace engine {
 

@@ -1,15 +1,15 @@
 #pragma once
 
-#include "act/session.h"
-#include "act/user_list.h"
-#include "engine/cell_text.h"
-#include "engine/displayed_ids.h"
-#include "engine/slot_table.h"
-#include "grid/layout.h"
-#include "host/guard.h"
-#include "settings/ini_lib.h"
-#include "values/locale.h"
-#include "values/value.h"
+#include "core/act/session.h"
+#include "core/act/user_list.h"
+#include "core/engine/cell_text.h"
+#include "core/engine/displayed_ids.h"
+#include "core/engine/slot_table.h"
+#include "core/grid/layout.h"
+#include "core/host/guard.h"
+#include "core/settings/ini_lib.h"
+#include "core/values/locale.h"
+#include "core/values/value.h"
 
 #include <cstdint>
 #include <string>

@@ -1,11 +1,11 @@
-#include "engine/quick_refresh.h"
+#include "core/engine/quick_refresh.h"
 
-#include "settings/catalogue.h"
-#include "values/ids.h"
-#include "values/numbers.h"
-#include "values/text.h"
-#include "values/text_forms.h"
-#include "values/value.h"
+#include "core/settings/catalogue.h"
+#include "core/values/ids.h"
+#include "core/values/numbers.h"
+#include "core/values/text.h"
+#include "core/values/text_forms.h"
+#include "core/values/value.h"
 
 namespace engine {
 
@@ -121,7 +121,7 @@ void QuickRefresh::Refresh_Activity(std::string id, bool clear_selected) {
 
 void QuickRefresh::place_single(act::Activity& activity) {
     const auto date = values::date_of(activity.Data(field::date), locale_);
-    if (!date || !InRange(*date, {grid_.layout.StartDate, grid_.layout.EndDate}))
+    if (!date || !recurrence::InRange(*date, {grid_.layout.StartDate, grid_.layout.EndDate}))
         return;
     if (!passes_filters(activity) || !users_.passes_filter(text(activity, field::scheduled_for)))
         return;
@@ -149,7 +149,7 @@ void QuickRefresh::place_series(act::Activity& activity) {
     if (!users_.passes_filter(text(activity, field::scheduled_for)))
         return;
     const auto start = values::date_of(activity.Data(field::start), locale_);
-    if (!start || Form_Dat(*start) > grid_.layout.EndDate)
+    if (!start || recurrence::Form_Dat(*start) > grid_.layout.EndDate)
         return;
     if (activity.GetRecurringUntilDate() < grid_.layout.StartDate)
         return;

@@ -1,7 +1,7 @@
-#include "engine/recurring.h"
+#include "core/engine/recurring.h"
 
-#include "values/text_forms.h"
-#include "values/value.h"
+#include "core/values/text_forms.h"
+#include "core/values/value.h"
 
 namespace engine {
 
@@ -51,31 +51,31 @@ void Recurring::treat_series(DateTime start, int duration) {
 }
 
 void Recurring::Treat_Daily(DateTime start, int duration) {
-    treat("in modRefresh: Sub Treat_Daily - Line # ", daily_starts, start, duration);
+    treat("in modRefresh: Sub Treat_Daily - Line # ", recurrence::daily_starts, start, duration);
 }
 
 void Recurring::Treat_Weekly(DateTime start, int duration) {
-    treat("in modRefresh: Sub Treat_Weekly - Line # ", weekly_starts, start, duration);
+    treat("in modRefresh: Sub Treat_Weekly - Line # ", recurrence::weekly_starts, start, duration);
 }
 
 void Recurring::Treat_Custom(DateTime start, int duration) {
-    treat("in modRefresh: Sub Treat_Custom - Line # ", custom_starts, start, duration);
+    treat("in modRefresh: Sub Treat_Custom - Line # ", recurrence::custom_starts, start, duration);
 }
 
 void Recurring::Treat_Monthly(DateTime start, int duration) {
-    treat("in modRefresh: Sub Treat_Monthly - Line # ", monthly_starts, start, duration);
+    treat("in modRefresh: Sub Treat_Monthly - Line # ", recurrence::monthly_starts, start, duration);
 }
 
 void Recurring::treat(std::string_view place, Walk walk, DateTime start, int duration) {
     guarded_(place, [&](host::Step& step) {
         act::Activity& activity = *session_.ActActivity;
         step = 10;
-        const RecurrenceRule rule{.start = start,
-                                  .frequency = activity.GetRecurringFrequency(),
-                                  .until = activity.GetRecurringUntilDate(),
-                                  .days_of_week = activity.GetDaysOfWeekBits(),
-                                  .weeks_of_month = activity.GetWeeksOfMonthBits(),
-                                  .days_of_month = activity.GetDaysOfMonthBits()};
+        const recurrence::Rule rule{.start = start,
+                                    .frequency = activity.GetRecurringFrequency(),
+                                    .until = activity.GetRecurringUntilDate(),
+                                    .days_of_week = activity.GetDaysOfWeekBits(),
+                                    .weeks_of_month = activity.GetWeeksOfMonthBits(),
+                                    .days_of_month = activity.GetDaysOfMonthBits()};
         step = 20;
         walk(rule, {layout_.StartDate, layout_.EndDate},
              {.Exception = [this](DateTime date) { return Exception(date); },
@@ -93,7 +93,7 @@ bool Recurring::Exception(DateTime date) {
             const auto exception = values::date_of(value, locale_);
             if (!exception)
                 throw values::Failure(values::FailureNumber::type_mismatch);
-            if (Form_Dat(*exception) == Form_Dat(date))
+            if (recurrence::Form_Dat(*exception) == recurrence::Form_Dat(date))
                 return true;
         }
         return false;

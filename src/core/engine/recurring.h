@@ -1,12 +1,12 @@
 #pragma once
 
-#include "act/session.h"
-#include "act/user_list.h"
-#include "engine/placing.h"
-#include "engine/recurrence.h"
-#include "grid/layout.h"
-#include "host/guard.h"
-#include "values/locale.h"
+#include "core/act/session.h"
+#include "core/act/user_list.h"
+#include "core/engine/placing.h"
+#include "core/grid/layout.h"
+#include "core/host/guard.h"
+#include "core/recurrence/starts.h"
+#include "core/values/locale.h"
 
 #include <string_view>
 
@@ -34,7 +34,7 @@ public:
     bool Exception(DateTime date);
 
 private:
-    using Walk = void (*)(const RecurrenceRule&, const ShownDates&, const RecurrenceVisitor&);
+    using Walk = void (*)(const recurrence::Rule&, const recurrence::ShownDates&, const recurrence::Visitor&);
     void treat(std::string_view place, Walk walk, DateTime start, int duration);
 
     act::Session& session_;

@@ -1,8 +1,8 @@
-#include "engine/refresh.h"
+#include "core/engine/refresh.h"
 
-#include "settings/catalogue.h"
-#include "values/numbers.h"
-#include "values/value.h"
+#include "core/settings/catalogue.h"
+#include "core/values/numbers.h"
+#include "core/values/value.h"
 
 namespace engine {
 
@@ -17,7 +17,7 @@ bool is_zero(const settings::IniLib& settings, const Key& key) {
 
 void Refresh::Refresh_Data() {
     guarded_("in modRefresh: Sub Refresh_Data - Line # ", [&](host::Step& step) {
-        const grid::GridModel& msgSched = grid_.msgSched;
+        const table::GridModel& msgSched = grid_.msgSched;
         const grid::Layout& layout = grid_.layout;
         step = 10;
         LastRefresh = clock_.now();

@@ -1,15 +1,15 @@
 #pragma once
 
-#include "act/session.h"
-#include "act/user_list.h"
-#include "engine/placing.h"
-#include "engine/recurring.h"
-#include "grid/calendar_grid.h"
-#include "host/clock.h"
-#include "host/guard.h"
-#include "host/window.h"
-#include "settings/ini_lib.h"
-#include "values/locale.h"
+#include "core/act/session.h"
+#include "core/act/user_list.h"
+#include "core/engine/placing.h"
+#include "core/engine/recurring.h"
+#include "core/grid/calendar_grid.h"
+#include "core/host/clock.h"
+#include "core/host/guard.h"
+#include "core/host/window.h"
+#include "core/settings/ini_lib.h"
+#include "core/values/locale.h"
 
 namespace engine {
 

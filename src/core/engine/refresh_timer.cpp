@@ -1,7 +1,7 @@
-#include "engine/refresh_timer.h"
+#include "core/engine/refresh_timer.h"
 
-#include "settings/catalogue.h"
-#include "values/numbers.h"
+#include "core/settings/catalogue.h"
+#include "core/values/numbers.h"
 
 namespace engine {
 

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "engine/quick_refresh.h"
-#include "engine/refresh.h"
-#include "host/clock.h"
-#include "host/guard.h"
-#include "host/message_box.h"
-#include "settings/ini_lib.h"
+#include "core/engine/quick_refresh.h"
+#include "core/engine/refresh.h"
+#include "core/host/clock.h"
+#include "core/host/guard.h"
+#include "core/host/message_box.h"
+#include "core/settings/ini_lib.h"
 
 #include <cstdint>
 

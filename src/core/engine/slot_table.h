@@ -1,8 +1,8 @@
 #pragma once
 
-#include "grid/slot_times.h"
-#include "values/date_time.h"
-#include "values/failure.h"
+#include "core/grid/slot_times.h"
+#include "core/values/date_time.h"
+#include "core/values/failure.h"
 
 #include <optional>
 #include <variant>

@@ -1,11 +1,11 @@
-#include "grid/background.h"
+#include "core/grid/background.h"
 
-#include "act/user_list.h"
-#include "settings/catalogue.h"
-#include "values/failure.h"
-#include "values/numbers.h"
-#include "values/text.h"
-#include "values/text_forms.h"
+#include "core/act/user_list.h"
+#include "core/settings/catalogue.h"
+#include "core/values/failure.h"
+#include "core/values/numbers.h"
+#include "core/values/text.h"
+#include "core/values/text_forms.h"
 
 namespace grid {
 
@@ -36,7 +36,7 @@ void Background::Color_BackGround() {
         step = 10;
         layout_.Color0 = read(here_.ini, keys::color_0);
         layout_.Color1 = read(here_.ini, keys::color_1);
-        GridModel& grid = layout_.msgSched();
+        table::GridModel& grid = layout_.msgSched();
         for (int row = 1; row < grid.Rows(); ++row) {
             step = 20;
             grid.Row(row);
@@ -68,7 +68,7 @@ void Background::Insert_Holidays() {
     here_.guarded("in modColorOffSlot: Sub Insert_Holidays - Line # ", [&](host::Step& step) {
         step = 10;
         layout_.Color3 = read(here_.ini, keys::color_3);
-        GridModel& grid = layout_.msgSched();
+        table::GridModel& grid = layout_.msgSched();
         const std::string today = values::yyyymmdd(here_.clock.today());
         for (int col = layout_.FixedCols; col < grid.Cols(); ++col) {
             step = 20;
@@ -84,15 +84,16 @@ void Background::Insert_Holidays() {
                 here_.ini.GetKeyValue(settings::sections::holidays, date_text(col), "", "", "", file);
             step = 50;
             const bool is_today = values::yyyymmdd(layout_.date_of_column(col)) == today;
-            writer_.Write_Cell(grid, 0, col,
-                               {.text = description, .bold = is_today ? 2 : 1, .alignment = Alignment::centre});
+            writer_.Write_Cell(
+                grid, 0, col,
+                {.text = description, .bold = is_today ? 2 : 1, .alignment = table::Alignment::centre});
         }
     });
 }
 
 void Background::Remove_Holidays() {
     here_.guarded("in modColorOffSlot: Sub Remove_Holidays - Line # ", [&](host::Step& step) {
-        GridModel& grid = layout_.msgSched();
+        table::GridModel& grid = layout_.msgSched();
         for (int col = layout_.FixedCols; col < grid.Cols(); ++col) {
             step = 10;
             if (!is_holiday(col))
@@ -104,9 +105,9 @@ void Background::Remove_Holidays() {
     });
 }
 
-Colour Background::GetBackGroundColor(int row) {
+table::Colour Background::GetBackGroundColor(int row) {
     return here_.guarded("in modColorOffSlot: Function GetBackGroundColor - Line # ",
-                         [&](host::Step& step) -> Colour {
+                         [&](host::Step& step) -> table::Colour {
                              step = 10;
                              if (users_.NumUsers == 0)
                                  throw Failure(FailureNumber::overflow);

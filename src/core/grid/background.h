@@ -1,8 +1,8 @@
 #pragma once
 
-#include "grid/cell_writer.h"
-#include "grid/layout.h"
-#include "grid/titles.h"
+#include "core/grid/cell_writer.h"
+#include "core/grid/layout.h"
+#include "core/grid/titles.h"
 
 #include <string>
 #include <vector>
@@ -26,16 +26,16 @@ public:
     void Remove_Holidays(); // before StartDate changes
     // Paints the inactive slots of a grid: of the main one, or of the dialog that edits them, which has a column
     // a weekday. The owner is the window that shows the grid.
-    void Color_offSlots(GridModel& grid, host::Window& owner, bool main_grid);
+    void Color_offSlots(table::GridModel& grid, host::Window& owner, bool main_grid);
     // Whether the row lies in one of the ranges of the day last read. The end of a range is outside.
-    bool In_Slot(GridModel& grid, int row, int day, bool main_grid);
-    Colour GetBackGroundColor(int row);
+    bool In_Slot(table::GridModel& grid, int row, int day, bool main_grid);
+    table::Colour GetBackGroundColor(int row);
 
 private:
     static constexpr int holiday_or_inactive = 3; // the selector of Color3
 
     struct Band {
-        Colour color;
+        table::Colour color;
         int selector; // 1 for even slots, 2 for odd ones
     };
     Band band_of_row(int row) const;

@@ -1,13 +1,13 @@
 #pragma once
 
-#include "grid/background.h"
-#include "grid/cell_writer.h"
-#include "grid/grid_model.h"
-#include "grid/layout.h"
-#include "grid/rendering.h"
-#include "grid/selection.h"
-#include "grid/titles.h"
-#include "host/folders.h"
+#include "core/grid/background.h"
+#include "core/grid/cell_writer.h"
+#include "core/grid/layout.h"
+#include "core/grid/rendering.h"
+#include "core/grid/selection.h"
+#include "core/grid/titles.h"
+#include "core/host/folders.h"
+#include "core/table/grid_model.h"
 
 namespace grid {
 
@@ -16,7 +16,7 @@ class CalendarGrid {
 public:
     CalendarGrid(act::UserList& users, const host::Folders& folders, const Surroundings& surroundings);
 
-    GridModel msgSched;
+    table::GridModel msgSched;
     Layout layout;
     CellWriter writer;
     Titles titles;

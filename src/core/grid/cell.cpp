@@ -1,9 +1,9 @@
-#include "grid/cell.h"
+#include "core/grid/cell.h"
 
-#include "grid/layout.h"
-#include "values/failure.h"
-#include "values/numbers.h"
-#include "values/text.h"
+#include "core/grid/layout.h"
+#include "core/values/failure.h"
+#include "core/values/numbers.h"
+#include "core/values/text.h"
 
 namespace grid {
 

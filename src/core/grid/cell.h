@@ -1,7 +1,7 @@
 #pragma once
 
-#include "grid/grid_model.h"
-#include "values/date_time.h"
+#include "core/table/grid_model.h"
+#include "core/values/date_time.h"
 
 #include <cstdint>
 #include <memory>
@@ -62,10 +62,10 @@ public:
     void HasDetails(bool on) { has_details_ = on; }
     bool GoesBeyond() const { return goes_beyond_; }
     void GoesBeyond(bool on) { goes_beyond_ = on; }
-    Colour BackColor() const { return back_color_; } // a colour, or the number of a band's colour
-    void BackColor(Colour colour) { back_color_ = colour; }
-    Colour ForeColor() const { return fore_color_; }
-    void ForeColor(Colour colour) { fore_color_ = colour; }
+    table::Colour BackColor() const { return back_color_; } // a colour, or the number of a band's colour
+    void BackColor(table::Colour colour) { back_color_ = colour; }
+    table::Colour ForeColor() const { return fore_color_; }
+    void ForeColor(table::Colour colour) { fore_color_ = colour; }
     int IconIndex() const { return icon_index_; } // the activity's type, 3 more when it recurs
     void IconIndex(int index) { icon_index_ = static_cast<std::int16_t>(index); }
 
@@ -80,7 +80,7 @@ public:
 private:
     const Layout* layout_;
     std::string text_, activity_id_, contact_id_, sort_text_, depends_on_activity_;
-    Colour back_color_ = 0, fore_color_ = 0;
+    table::Colour back_color_ = 0, fore_color_ = 0;
     std::int16_t row_ = 0, col_ = 0, fixed_rows_ = 0, fixed_cols_ = 0, cells_per_slot_ = 0;
     std::int16_t duration_minutes_ = 0, icon_index_ = 0, depends_on_row_ = 0, depends_on_col_ = 0;
     bool recurring_ = false, cleared_ = false, has_details_ = false, goes_beyond_ = false, initialized_ = false;

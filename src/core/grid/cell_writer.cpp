@@ -1,8 +1,8 @@
-#include "grid/cell_writer.h"
+#include "core/grid/cell_writer.h"
 
 namespace grid {
 
-void CellWriter::Write_Cell(GridModel& grid, int row, int col, const CellContent& content) {
+void CellWriter::Write_Cell(table::GridModel& grid, int row, int col, const CellContent& content) {
     guarded_("in modRefresh: Sub Write_Cell - Line # ", [&](host::Step& step) {
         step = 10;
         grid.Row(row);
@@ -11,7 +11,7 @@ void CellWriter::Write_Cell(GridModel& grid, int row, int col, const CellContent
         if (!content.activity_id.empty())
             record_place(content.activity_id, row, col);
         step = 30;
-        if (content.alignment != Alignment::left_top)
+        if (content.alignment != table::Alignment::left_top)
             grid.CellAlignment(content.alignment);
         if (content.bold > 0)
             grid.CellFontBold(content.bold != 1);
@@ -25,7 +25,7 @@ void CellWriter::Write_Cell(GridModel& grid, int row, int col, const CellContent
         if (ShowIcons && content.type > 0) {
             step = 60;
             grid.CellPicture(GetPicture(content.type, content.recurring, content.has_details));
-            grid.CellPictureAlignment(Alignment::left_top);
+            grid.CellPictureAlignment(table::Alignment::left_top);
             grid.Text(std::string(picture_room).append(*content.text));
             step = 70;
             Add_toGridID(row, col, {.icon_index = (content.recurring ? 3 : 0) + content.type});

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "grid/grid_model.h"
-#include "grid/layout.h"
-#include "host/folders.h"
-#include "host/guard.h"
+#include "core/grid/layout.h"
+#include "core/host/folders.h"
+#include "core/host/guard.h"
+#include "core/table/grid_model.h"
 
 #include <optional>
 #include <string>
@@ -18,9 +18,9 @@ struct CellContent {
     std::string_view activity_id = {};
     std::optional<std::string_view> text = {};
     int bold = 0; // 1 not bold, 2 bold
-    Colour back_color = 0;
-    Colour fore_color = 0;
-    Alignment alignment = Alignment::left_top;
+    table::Colour back_color = 0;
+    table::Colour fore_color = 0;
+    table::Alignment alignment = table::Alignment::left_top;
     int type = 0; // 1 call, 2 meeting, 3 to-do
     bool recurring = false;
     bool strike_through = false;
@@ -33,8 +33,8 @@ struct CellDetails {
     std::optional<std::string_view> contact_id = {};
     std::optional<int> recurring = {}; // 1 is true
     std::optional<int> cleared = {};
-    std::optional<Colour> back_color = {};
-    std::optional<Colour> fore_color = {};
+    std::optional<table::Colour> back_color = {};
+    std::optional<table::Colour> fore_color = {};
     std::optional<int> icon_index = {};
     std::string_view sort_text = {};
     std::string_view text = {};
@@ -52,7 +52,7 @@ public:
     std::unordered_map<std::string, std::string> ActivityCells;
 
     // Makes the cell current and writes it. With the usual failure handler.
-    void Write_Cell(GridModel& grid, int row, int col, const CellContent& content);
+    void Write_Cell(table::GridModel& grid, int row, int col, const CellContent& content);
     void Add_toGridID(int row, int col, const CellDetails& details);
     // The file of an activity's picture; a type that there is not gives the program's folder alone.
     std::string GetPicture(int type, bool recurring, bool has_details) const;

@@ -1,17 +1,17 @@
-#include "grid/background.h"
+#include "core/grid/background.h"
 
-#include "settings/catalogue.h"
-#include "values/failure.h"
-#include "values/numbers.h"
-#include "values/text.h"
-#include "values/text_forms.h"
+#include "core/settings/catalogue.h"
+#include "core/values/failure.h"
+#include "core/values/numbers.h"
+#include "core/values/text.h"
+#include "core/values/text_forms.h"
 
 namespace grid {
 
 using values::Failure;
 using values::FailureNumber;
 
-void Background::Color_offSlots(GridModel& grid, host::Window& owner, bool main_grid) {
+void Background::Color_offSlots(table::GridModel& grid, host::Window& owner, bool main_grid) {
     here_.guarded("in modColorOffSlot: Sub Color_offSlots - Line # ", [&](host::Step& step) {
         step = 10;
         owner.show_hourglass();
@@ -70,7 +70,7 @@ void Background::read_ranges(const std::string& ranges) {
     }
 }
 
-bool Background::In_Slot(GridModel&, int row, int day, bool main_grid) {
+bool Background::In_Slot(table::GridModel&, int row, int day, bool main_grid) {
     return here_.guarded("in modColorOffSlot: Function In_Slot - Line # ", [&](host::Step& step) {
         step = 10;
         const values::DateTime time = main_grid ? time_of_row(row) : time_of_cell(row, day);

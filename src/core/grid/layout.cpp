@@ -1,15 +1,15 @@
-#include "grid/layout.h"
+#include "core/grid/layout.h"
 
-#include "settings/catalogue.h"
-#include "values/failure.h"
-#include "values/numbers.h"
+#include "core/settings/catalogue.h"
+#include "core/values/failure.h"
+#include "core/values/numbers.h"
 
 namespace grid {
 
 using values::Failure;
 using values::FailureNumber;
 
-Layout::Layout(GridModel& msgSched, act::UserList& users, const Surroundings& surroundings)
+Layout::Layout(table::GridModel& msgSched, act::UserList& users, const Surroundings& surroundings)
     : grid_(msgSched), users_(users), here_(surroundings), slot_times_(surroundings.ini, surroundings.locale) {}
 
 void Layout::Initialize_Dates(values::DateTime date) {

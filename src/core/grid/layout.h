@@ -1,16 +1,16 @@
 #pragma once
 
-#include "grid/cell.h"
-#include "grid/grid_model.h"
-#include "grid/slot.h"
-#include "grid/slot_times.h"
-#include "host/clock.h"
-#include "host/guard.h"
-#include "host/window.h"
-#include "settings/ini_lib.h"
-#include "settings/per_user_store.h"
-#include "values/date_time.h"
-#include "values/locale.h"
+#include "core/grid/cell.h"
+#include "core/grid/slot.h"
+#include "core/grid/slot_times.h"
+#include "core/host/clock.h"
+#include "core/host/guard.h"
+#include "core/host/window.h"
+#include "core/settings/ini_lib.h"
+#include "core/settings/per_user_store.h"
+#include "core/table/grid_model.h"
+#include "core/values/date_time.h"
+#include "core/values/locale.h"
 
 #include <string>
 #include <vector>
@@ -34,7 +34,7 @@ struct Surroundings {
 // does arithmetic with rows, columns and days.
 class Layout {
 public:
-    Layout(GridModel& msgSched, act::UserList& users, const Surroundings& surroundings);
+    Layout(table::GridModel& msgSched, act::UserList& users, const Surroundings& surroundings);
     Layout(const Layout&) = delete; // its cells and slots point to it
     Layout& operator=(const Layout&) = delete;
 
@@ -91,10 +91,10 @@ public:
     CellReference free_standing_cell() const { return std::make_shared<clsMsgSchedCell>(*this); }
 
     const SlotTimes& slot_times() const { return slot_times_; }
-    GridModel& msgSched() const { return grid_; }
+    table::GridModel& msgSched() const { return grid_; }
 
 private:
-    GridModel& grid_;
+    table::GridModel& grid_;
     act::UserList& users_;
     Surroundings here_;
     SlotTimes slot_times_;

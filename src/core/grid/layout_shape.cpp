@@ -1,7 +1,7 @@
-#include "act/user_list.h"
-#include "grid/layout.h"
-#include "settings/catalogue.h"
-#include "values/numbers.h"
+#include "core/act/user_list.h"
+#include "core/grid/layout.h"
+#include "core/settings/catalogue.h"
+#include "core/values/numbers.h"
 
 namespace grid {
 

@@ -1,8 +1,8 @@
-#include "grid/rendering.h"
+#include "core/grid/rendering.h"
 
-#include "values/failure.h"
-#include "values/numbers.h"
-#include "values/text.h"
+#include "core/values/failure.h"
+#include "core/values/numbers.h"
+#include "core/values/text.h"
 
 #include <vector>
 
@@ -10,7 +10,7 @@ namespace grid {
 
 void Rendering::Display_Changes(const std::string& id) {
     guarded_("in modRefresh: Sub Display_Changes - Line # ", [&](host::Step& step) {
-        GridModel& grid = layout_.msgSched();
+        table::GridModel& grid = layout_.msgSched();
         step = 10;
         SpanList.clear();
         step = 20;
@@ -55,7 +55,7 @@ void Rendering::select_selected_cell() {
 }
 
 void Rendering::Span_Activities(std::string_view span_list) {
-    GridModel& grid = layout_.msgSched();
+    table::GridModel& grid = layout_.msgSched();
     std::vector<std::string> items = values::split(span_list, "|");
     if (!items.empty())
         items.pop_back(); // the list ends with a bar
@@ -69,12 +69,12 @@ void Rendering::Span_Activities(std::string_view span_list) {
             continue;
         grid.Text(SpanText);
         grid.ForeColor(values::to_int32(parts.at(2)));
-        grid.CellAlignment(Alignment::left_centre);
+        grid.CellAlignment(table::Alignment::left_centre);
     }
 }
 
 void Rendering::Clear_Dependents(std::string_view id) {
-    GridModel& grid = layout_.msgSched();
+    table::GridModel& grid = layout_.msgSched();
     for (int row = 0; row < layout_.Cells.rows(); ++row)
         for (int col = 0; col < layout_.Cells.cols(); ++col) {
             clsMsgSchedCell& cell = layout_.Cells(row, col);

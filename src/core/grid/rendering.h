@@ -1,9 +1,9 @@
 #pragma once
 
-#include "grid/cell_writer.h"
-#include "grid/layout.h"
-#include "grid/selection.h"
-#include "host/guard.h"
+#include "core/grid/cell_writer.h"
+#include "core/grid/layout.h"
+#include "core/grid/selection.h"
+#include "core/host/guard.h"
 
 #include <string>
 #include <string_view>
@@ -12,7 +12,7 @@ namespace grid {
 
 // What a slot draws with.
 struct Drawing {
-    GridModel& grid;
+    table::GridModel& grid;
     CellWriter& writer;
     std::string& SpanList;
 };

@@ -1,6 +1,6 @@
-#include "grid/selection.h"
+#include "core/grid/selection.h"
 
-#include "values/failure.h"
+#include "core/values/failure.h"
 
 namespace grid {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "grid/cell.h"
+#include "core/grid/cell.h"
 
 namespace grid {
 

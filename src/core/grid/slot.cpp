@@ -1,7 +1,7 @@
-#include "grid/slot.h"
+#include "core/grid/slot.h"
 
-#include "grid/layout.h"
-#include "values/failure.h"
+#include "core/grid/layout.h"
+#include "core/values/failure.h"
 
 #include <algorithm>
 #include <utility>

@@ -1,7 +1,8 @@
 #pragma once
 
-#include "host/guard.h"
-#include "values/date_time.h"
+#include "core/host/guard.h"
+#include "core/table/grid_model.h"
+#include "core/values/date_time.h"
 
 #include <cstdint>
 #include <deque>
@@ -11,7 +12,6 @@
 
 namespace grid {
 
-class GridModel;
 class Layout;
 struct Drawing;
 
@@ -58,7 +58,7 @@ public:
                        std::string& result);
     static std::string ExtractUserName(std::string_view detail);
     // The row of the slot, from first_row on, that belongs to the user, in the grid's current column; -1 if none.
-    int GetCorrectCell(const GridModel& grid, std::string_view user_name, int first_row) const;
+    int GetCorrectCell(const table::GridModel& grid, std::string_view user_name, int first_row) const;
 
     int SlotNo() const { return slot_number_; }
     int Col() const { return col_; }

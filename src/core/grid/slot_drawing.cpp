@@ -1,9 +1,9 @@
-#include "grid/rendering.h"
-#include "grid/slot.h"
-#include "grid/sort_table.h"
-#include "values/failure.h"
-#include "values/numbers.h"
-#include "values/text.h"
+#include "core/grid/rendering.h"
+#include "core/grid/slot.h"
+#include "core/grid/sort_table.h"
+#include "core/values/failure.h"
+#include "core/values/numbers.h"
+#include "core/values/text.h"
 
 #include <algorithm>
 
@@ -12,7 +12,7 @@ namespace grid {
 namespace {
 
 // A colour's text as a colour; absent when it is empty or no number.
-std::optional<Colour> colour_in(const std::string& text) {
+std::optional<table::Colour> colour_in(const std::string& text) {
     if (text.empty())
         return {};
     try {
@@ -33,7 +33,8 @@ std::string clsMsgSchedSlot::ExtractUserName(std::string_view detail) {
     return std::string(detail.substr(0, detail.find("||")));
 }
 
-int clsMsgSchedSlot::GetCorrectCell(const GridModel& grid, std::string_view user_name, int first_row) const {
+int clsMsgSchedSlot::GetCorrectCell(const table::GridModel& grid, std::string_view user_name,
+                                    int first_row) const {
     const Cells& cells = layout_->Cells;
     for (int row = first_row; row < first_row + cells_per_slot_; ++row)
         if (cells(row, grid.Col()).User() == user_name)
@@ -95,7 +96,7 @@ void clsMsgSchedSlot::clear_cells(Drawing& drawing) const {
 }
 
 bool clsMsgSchedSlot::take_user_row(Drawing& drawing, const SlotRecord& record) const {
-    GridModel& grid = drawing.grid;
+    table::GridModel& grid = drawing.grid;
     const int row = GetCorrectCell(grid, ExtractUserName(record.Detail), FirstRow());
     if (row == -1)
         return false;
@@ -112,7 +113,7 @@ bool clsMsgSchedSlot::take_user_row(Drawing& drawing, const SlotRecord& record) 
 }
 
 void clsMsgSchedSlot::draw_record(Drawing& drawing, SlotRecord& record, bool overflow) const {
-    GridModel& grid = drawing.grid;
+    table::GridModel& grid = drawing.grid;
     CellWriter& writer = drawing.writer;
     const int row = grid.Row();
     const int col = grid.Col();
@@ -121,10 +122,10 @@ void clsMsgSchedSlot::draw_record(Drawing& drawing, SlotRecord& record, bool ove
     const bool cleared = record.Cleared == "1";
 
     writer.record_place(record.ActivityID, row, col);
-    grid.CellAlignment(Alignment::left_top);
+    grid.CellAlignment(table::Alignment::left_top);
     if (!record.BackColor.empty())
         grid.CellBackColor(values::to_int32(record.BackColor));
-    const std::optional<Colour> fore_color = colour_in(record.ForeColor);
+    const std::optional<table::Colour> fore_color = colour_in(record.ForeColor);
     if (record.ForeColor.empty())
         grid.CellForeColor(0);
     else if (fore_color)
@@ -142,7 +143,7 @@ void clsMsgSchedSlot::draw_record(Drawing& drawing, SlotRecord& record, bool ove
             const int type = values::to_int16(record.Type);
             if (!overflow)
                 grid.CellPicture(writer.GetPicture(type, recurring, has_details));
-            grid.CellPictureAlignment(Alignment::left_top);
+            grid.CellPictureAlignment(table::Alignment::left_top);
             record.Text = std::string(CellWriter::picture_room).append(values::trimmed(record.Text));
             details.icon_index = type + (recurring ? 3 : 0);
         }

@@ -1,8 +1,8 @@
-#include "grid/slot_times.h"
+#include "core/grid/slot_times.h"
 
-#include "settings/catalogue.h"
-#include "values/numbers.h"
-#include "values/text_forms.h"
+#include "core/settings/catalogue.h"
+#include "core/values/numbers.h"
+#include "core/values/text_forms.h"
 
 namespace grid {
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "settings/ini_lib.h"
-#include "values/date_time.h"
-#include "values/locale.h"
+#include "core/settings/ini_lib.h"
+#include "core/values/date_time.h"
+#include "core/values/locale.h"
 
 #include <string>
 #include <unordered_map>

@@ -1,10 +1,10 @@
-#include "grid/titles.h"
+#include "core/grid/titles.h"
 
-#include "act/user_list.h"
-#include "settings/catalogue.h"
-#include "values/failure.h"
-#include "values/numbers.h"
-#include "values/text_forms.h"
+#include "core/act/user_list.h"
+#include "core/settings/catalogue.h"
+#include "core/values/failure.h"
+#include "core/values/numbers.h"
+#include "core/values/text_forms.h"
 
 #include <array>
 
@@ -15,7 +15,7 @@ namespace keys = settings::keys;
 
 void Titles::Write_ColTitles() {
     here_.guarded("in frmMain: Sub Write_ColTitles - Line # ", [&](host::Step& step) {
-        GridModel& grid = layout_.msgSched();
+        table::GridModel& grid = layout_.msgSched();
         step = 10;
         writer_.Write_Cell(grid, 0, 0, {.text = ""});
         layout_.Cells(0, 0).Initialize(0, 0);
@@ -55,19 +55,20 @@ void Titles::Write_RowTitles() {
 }
 
 void Titles::write_row(int row, int position, values::DateTime start) {
-    GridModel& grid = layout_.msgSched();
+    table::GridModel& grid = layout_.msgSched();
     layout_.RowTimes[static_cast<std::size_t>(row)] = values::default_text(start, here_.locale);
 
     const std::string title = position == 0 ? FormatTime(start) : std::string();
     writer_.Write_Cell(grid, row, 0,
-                       {.text = title, .bold = position == 0 ? 2 : 0, .alignment = Alignment::centre});
+                       {.text = title, .bold = position == 0 ? 2 : 0, .alignment = table::Alignment::centre});
     layout_.Cells(row, 0).Initialize(row, 0, title);
 
     const act::ItemList& users = users_.cboUsers;
     const std::string user = position < users.ListCount() ? users.List(position) : std::string();
-    writer_.Write_Cell(
-        grid, row, 1,
-        {.text = user, .fore_color = values::to_int32(layout_.Color4), .alignment = Alignment::left_centre});
+    writer_.Write_Cell(grid, row, 1,
+                       {.text = user,
+                        .fore_color = values::to_int32(layout_.Color4),
+                        .alignment = table::Alignment::left_centre});
     layout_.Cells(row, 1).Initialize(row, 1, user);
 }
 

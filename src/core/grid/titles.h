@@ -1,7 +1,7 @@
 #pragma once
 
-#include "grid/cell_writer.h"
-#include "grid/layout.h"
+#include "core/grid/cell_writer.h"
+#include "core/grid/layout.h"
 
 #include <string>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/application_info.h"
+#include "core/host/application_info.h"
 
 // What whoever ships the program decides.
 namespace host {

@@ -1,4 +1,4 @@
-#include "host/guard.h"
+#include "core/host/guard.h"
 
 #include <new>
 #include <string>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "host/application_info.h"
-#include "host/message_box.h"
-#include "values/failure.h"
+#include "core/host/application_info.h"
+#include "core/host/message_box.h"
+#include "core/values/failure.h"
 
 #include <functional>
 #include <string_view>

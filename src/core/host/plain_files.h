@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/files.h"
+#include "core/host/files.h"
 
 namespace host {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "interaction/presenter.h"
+#include "core/interaction/presenter.h"
 
 namespace interaction {
 

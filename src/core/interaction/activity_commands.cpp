@@ -1,7 +1,7 @@
-#include "interaction/activity_commands.h"
+#include "core/interaction/activity_commands.h"
 
-#include "settings/catalogue.h"
-#include "values/numbers.h"
+#include "core/settings/catalogue.h"
+#include "core/values/numbers.h"
 
 namespace interaction {
 
@@ -11,7 +11,7 @@ namespace keys = settings::keys;
 
 void ActivityCommands::msgSched_DblClick() {
     here_.guarded("in frmMain: Sub msgSched_DblClick - Line # ", [&](host::Step& step) {
-        const grid::GridModel& msgSched = here_.grid.msgSched;
+        const table::GridModel& msgSched = here_.grid.msgSched;
         grid::CellReference& SelectedCell = here_.grid.selection.SelectedCell;
         const grid::Cells& Cells = here_.grid.layout.Cells;
         step = 10;
@@ -123,7 +123,7 @@ void ActivityCommands::mnupopDetails_Click() {
 
 void ActivityCommands::mnupopSend_Click() {
     here_.guarded("in frmMain: Sub mnupopSend_Click - Line # ", [&](host::Step& step) {
-        const grid::GridModel& msgSched = here_.grid.msgSched;
+        const table::GridModel& msgSched = here_.grid.msgSched;
         step = 10;
         const std::string id = here_.grid.layout.Cells(msgSched.Row(), msgSched.Col()).ActivityID();
         step = 20;

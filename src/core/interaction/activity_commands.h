@@ -1,17 +1,17 @@
 #pragma once
 
-#include "engine/calendar_engine.h"
-#include "grid/calendar_grid.h"
-#include "host/clock.h"
-#include "host/guard.h"
-#include "interaction/activity_change.h"
-#include "interaction/click.h"
-#include "interaction/instance_editor.h"
-#include "interaction/instances.h"
-#include "interaction/launcher.h"
-#include "interaction/presenter.h"
-#include "settings/ini_lib.h"
-#include "settings/per_user_store.h"
+#include "core/engine/calendar_engine.h"
+#include "core/grid/calendar_grid.h"
+#include "core/host/clock.h"
+#include "core/host/guard.h"
+#include "core/interaction/activity_change.h"
+#include "core/interaction/click.h"
+#include "core/interaction/instance_editor.h"
+#include "core/interaction/instances.h"
+#include "core/interaction/launcher.h"
+#include "core/interaction/presenter.h"
+#include "core/settings/ini_lib.h"
+#include "core/settings/per_user_store.h"
 
 #include <string>
 

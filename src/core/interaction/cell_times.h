@@ -1,8 +1,8 @@
 #pragma once
 
-#include "grid/cell.h"
-#include "values/locale.h"
-#include "values/text_forms.h"
+#include "core/grid/cell.h"
+#include "core/values/locale.h"
+#include "core/values/text_forms.h"
 
 namespace interaction {
 

@@ -1,9 +1,9 @@
-#include "interaction/drag_drop.h"
+#include "core/interaction/drag_drop.h"
 
-#include "interaction/cell_times.h"
-#include "values/ids.h"
-#include "values/text.h"
-#include "values/value.h"
+#include "core/interaction/cell_times.h"
+#include "core/values/ids.h"
+#include "core/values/text.h"
+#include "core/values/value.h"
 
 namespace interaction {
 
@@ -23,7 +23,7 @@ void DragDrop::msgSched_DragOver(int X, int Y) {
 
 void DragDrop::msgSched_DragDrop(int X, int Y) {
     here_.guarded("in frmMain: Sub msgSched_DragDrop - Line # ", [&](host::Step& step) {
-        grid::GridModel& msgSched = here_.grid.msgSched;
+        table::GridModel& msgSched = here_.grid.msgSched;
         grid::Selection& selection = here_.grid.selection;
         step = 10;
         if (places_.is_in_title_row(Y) || places_.is_in_title_col(X))

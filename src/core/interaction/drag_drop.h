@@ -1,17 +1,17 @@
 #pragma once
 
-#include "act/session.h"
-#include "act/user_list.h"
-#include "engine/refresh.h"
-#include "grid/calendar_grid.h"
-#include "host/application_info.h"
-#include "host/guard.h"
-#include "host/message_box.h"
-#include "interaction/activity_change.h"
-#include "interaction/instances.h"
-#include "interaction/places.h"
-#include "interaction/presenter.h"
-#include "values/locale.h"
+#include "core/act/session.h"
+#include "core/act/user_list.h"
+#include "core/engine/refresh.h"
+#include "core/grid/calendar_grid.h"
+#include "core/host/application_info.h"
+#include "core/host/guard.h"
+#include "core/host/message_box.h"
+#include "core/interaction/activity_change.h"
+#include "core/interaction/instances.h"
+#include "core/interaction/places.h"
+#include "core/interaction/presenter.h"
+#include "core/values/locale.h"
 
 #include <cstdint>
 #include <optional>

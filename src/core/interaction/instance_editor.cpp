@@ -1,7 +1,7 @@
-#include "interaction/instance_editor.h"
+#include "core/interaction/instance_editor.h"
 
-#include "values/numbers.h"
-#include "values/value.h"
+#include "core/values/numbers.h"
+#include "core/values/value.h"
 
 namespace interaction {
 

@@ -1,12 +1,12 @@
 #pragma once
 
-#include "act/session.h"
-#include "grid/selection.h"
-#include "host/message_box.h"
-#include "interaction/activity_change.h"
-#include "interaction/instances.h"
-#include "interaction/launcher.h"
-#include "values/locale.h"
+#include "core/act/session.h"
+#include "core/grid/selection.h"
+#include "core/host/message_box.h"
+#include "core/interaction/activity_change.h"
+#include "core/interaction/instances.h"
+#include "core/interaction/launcher.h"
+#include "core/values/locale.h"
 
 #include <string>
 

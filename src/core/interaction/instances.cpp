@@ -1,10 +1,10 @@
-#include "interaction/instances.h"
+#include "core/interaction/instances.h"
 
-#include "interaction/cell_times.h"
-#include "values/ids.h"
-#include "values/text.h"
-#include "values/text_forms.h"
-#include "values/value.h"
+#include "core/interaction/cell_times.h"
+#include "core/values/ids.h"
+#include "core/values/text.h"
+#include "core/values/text_forms.h"
+#include "core/values/value.h"
 
 #include <span>
 

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "act/session.h"
-#include "act/user_list.h"
-#include "grid/cell.h"
-#include "host/guard.h"
-#include "values/locale.h"
+#include "core/act/session.h"
+#include "core/act/user_list.h"
+#include "core/grid/cell.h"
+#include "core/host/guard.h"
+#include "core/values/locale.h"
 
 #include <cstdint>
 #include <map>

@@ -1,14 +1,14 @@
 #pragma once
 
-#include "interaction/activity_change.h"
-#include "interaction/activity_commands.h"
-#include "interaction/click.h"
-#include "interaction/drag_drop.h"
-#include "interaction/instance_editor.h"
-#include "interaction/instances.h"
-#include "interaction/launcher.h"
-#include "interaction/lookups.h"
-#include "interaction/mouse.h"
+#include "core/interaction/activity_change.h"
+#include "core/interaction/activity_commands.h"
+#include "core/interaction/click.h"
+#include "core/interaction/drag_drop.h"
+#include "core/interaction/instance_editor.h"
+#include "core/interaction/instances.h"
+#include "core/interaction/launcher.h"
+#include "core/interaction/lookups.h"
+#include "core/interaction/mouse.h"
 
 namespace interaction {
 

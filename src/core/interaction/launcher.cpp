@@ -1,9 +1,9 @@
-#include "interaction/launcher.h"
+#include "core/interaction/launcher.h"
 
-#include "settings/catalogue.h"
-#include "values/failure.h"
-#include "values/text_forms.h"
-#include "values/value.h"
+#include "core/settings/catalogue.h"
+#include "core/values/failure.h"
+#include "core/values/text_forms.h"
+#include "core/values/value.h"
 
 namespace interaction {
 

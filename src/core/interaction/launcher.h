@@ -1,13 +1,13 @@
 #pragma once
 
-#include "act/session.h"
-#include "grid/calendar_grid.h"
-#include "host/guard.h"
-#include "host/shell.h"
-#include "host/window.h"
-#include "settings/ini_lib.h"
-#include "settings/per_user_store.h"
-#include "values/locale.h"
+#include "core/act/session.h"
+#include "core/grid/calendar_grid.h"
+#include "core/host/guard.h"
+#include "core/host/shell.h"
+#include "core/host/window.h"
+#include "core/settings/ini_lib.h"
+#include "core/settings/per_user_store.h"
+#include "core/values/locale.h"
 
 #include <string>
 

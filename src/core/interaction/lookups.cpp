@@ -1,8 +1,8 @@
-#include "interaction/lookups.h"
+#include "core/interaction/lookups.h"
 
-#include "values/ids.h"
-#include "values/text.h"
-#include "values/value.h"
+#include "core/values/ids.h"
+#include "core/values/text.h"
+#include "core/values/value.h"
 
 #include <algorithm>
 #include <tuple>
@@ -13,7 +13,7 @@ namespace field = act::activity_field;
 
 void Lookups::mnupopGoto_Click() {
     here_.guarded("in frmMain: Sub mnupopGoto_Click - Line # ", [&](host::Step& step) {
-        const grid::GridModel& msgSched = here_.grid.msgSched;
+        const table::GridModel& msgSched = here_.grid.msgSched;
         step = 10;
         here_.presenter.minimise();
         step = 20;
@@ -46,7 +46,7 @@ void Lookups::mnupopLookup_Click() {
 }
 
 Lookups::Range Lookups::range() const {
-    const grid::GridModel& grid = here_.grid.msgSched;
+    const table::GridModel& grid = here_.grid.msgSched;
     Range range{1, grid.Rows() - 1, here_.grid.layout.FixedCols, grid.Cols() - 1};
     if (here_.click.on_title_row_only()) {
         range.first_col = range.last_col = grid.Col();

@@ -1,13 +1,13 @@
 #pragma once
 
-#include "act/session.h"
-#include "engine/quick_refresh.h"
-#include "grid/calendar_grid.h"
-#include "host/guard.h"
-#include "host/message_box.h"
-#include "interaction/click.h"
-#include "interaction/presenter.h"
-#include "values/locale.h"
+#include "core/act/session.h"
+#include "core/engine/quick_refresh.h"
+#include "core/grid/calendar_grid.h"
+#include "core/host/guard.h"
+#include "core/host/message_box.h"
+#include "core/interaction/click.h"
+#include "core/interaction/presenter.h"
+#include "core/values/locale.h"
 
 #include <string>
 

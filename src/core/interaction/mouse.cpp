@@ -1,4 +1,4 @@
-#include "interaction/mouse.h"
+#include "core/interaction/mouse.h"
 
 namespace interaction {
 

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "grid/calendar_grid.h"
-#include "host/guard.h"
-#include "interaction/click.h"
-#include "interaction/places.h"
-#include "interaction/presenter.h"
+#include "core/grid/calendar_grid.h"
+#include "core/host/guard.h"
+#include "core/interaction/click.h"
+#include "core/interaction/places.h"
+#include "core/interaction/presenter.h"
 
 namespace interaction {
 
@@ -36,7 +36,7 @@ private:
 
     Click& click_;
     grid::CalendarGrid& grid_;
-    grid::GridModel& msgSched_;
+    table::GridModel& msgSched_;
     Places places_;
     Presenter& presenter_;
     const host::Guard& guarded_;

@@ -1,4 +1,4 @@
-#include "interaction/places.h"
+#include "core/interaction/places.h"
 
 namespace interaction {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "grid/grid_model.h"
+#include "core/table/grid_model.h"
 
 #include <optional>
 
@@ -9,7 +9,7 @@ namespace interaction {
 // What lies at a place of the grid's screen. Places are twips, as RowPos and ColPos count them.
 class Places {
 public:
-    explicit Places(const grid::GridModel& msgSched) : grid_(msgSched) {}
+    explicit Places(const table::GridModel& msgSched) : grid_(msgSched) {}
 
     // Above the first row behind the titles, or left of the first column behind them: those of the days stand
     // there, wherever the grid is scrolled to.
@@ -25,7 +25,7 @@ private:
     int first_row() const { return grid_.TopRow(); }
     int first_col() const { return grid_.LeftCol(); }
 
-    const grid::GridModel& grid_;
+    const table::GridModel& grid_;
 };
 
 } // namespace interaction

@@ -1,4 +1,4 @@
-#include "interaction/popup_menu.h"
+#include "core/interaction/popup_menu.h"
 
 namespace interaction {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "grid/cell.h"
-#include "interaction/click.h"
+#include "core/grid/cell.h"
+#include "core/interaction/click.h"
 
 #include <string>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "interaction/popup_menu.h"
+#include "core/interaction/popup_menu.h"
 
 namespace interaction {
 

@@ -1,6 +1,6 @@
-#include "settings/catalogue.h"
+#include "core/settings/catalogue.h"
 
-#include "values/text_forms.h"
+#include "core/values/text_forms.h"
 
 namespace settings::keys {
 

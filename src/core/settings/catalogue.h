@@ -1,8 +1,8 @@
 #pragma once
 
-#include "settings/ini_lib.h"
-#include "settings/per_user_store.h"
-#include "values/locale.h"
+#include "core/settings/ini_lib.h"
+#include "core/settings/per_user_store.h"
+#include "core/values/locale.h"
 
 #include <array>
 #include <string>

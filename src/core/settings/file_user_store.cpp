@@ -1,6 +1,6 @@
-#include "settings/file_user_store.h"
+#include "core/settings/file_user_store.h"
 
-#include "values/text.h"
+#include "core/values/text.h"
 
 #include <algorithm>
 #include <charconv>

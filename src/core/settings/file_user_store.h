@@ -1,8 +1,8 @@
 #pragma once
 
-#include "host/files.h"
-#include "host/user_store.h"
-#include "settings/ini_file.h"
+#include "core/host/files.h"
+#include "core/host/user_store.h"
+#include "core/settings/ini_file.h"
 
 #include <string>
 

@@ -1,6 +1,6 @@
-#include "settings/ini_document.h"
+#include "core/settings/ini_document.h"
 
-#include "values/text.h"
+#include "core/values/text.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "settings/text_encoding.h"
+#include "core/settings/text_encoding.h"
 
 #include <cstddef>
 #include <optional>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "host/files.h"
-#include "settings/ini_document.h"
+#include "core/host/files.h"
+#include "core/settings/ini_document.h"
 
 #include <cstddef>
 #include <functional>

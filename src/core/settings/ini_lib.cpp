@@ -1,7 +1,7 @@
-#include "settings/ini_lib.h"
+#include "core/settings/ini_lib.h"
 
-#include "values/numbers.h"
-#include "values/text.h"
+#include "core/values/numbers.h"
+#include "core/values/text.h"
 
 namespace settings {
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "host/files.h"
-#include "host/guard.h"
-#include "settings/ini_file.h"
+#include "core/host/files.h"
+#include "core/host/guard.h"
+#include "core/settings/ini_file.h"
 
 #include <map>
 #include <string>

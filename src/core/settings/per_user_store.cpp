@@ -1,6 +1,6 @@
-#include "settings/per_user_store.h"
+#include "core/settings/per_user_store.h"
 
-#include "values/failure.h"
+#include "core/values/failure.h"
 
 namespace settings {
 

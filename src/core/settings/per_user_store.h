@@ -1,7 +1,7 @@
 #pragma once
 
-#include "host/user_store.h"
-#include "settings/reg_settings.h"
+#include "core/host/user_store.h"
+#include "core/settings/reg_settings.h"
 
 #include <string>
 

@@ -1,7 +1,7 @@
-#include "settings/reg_settings.h"
+#include "core/settings/reg_settings.h"
 
-#include "host/deployment.h"
-#include "values/text.h"
+#include "core/host/deployment.h"
+#include "core/values/text.h"
 
 namespace settings {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/user_store.h"
+#include "core/host/user_store.h"
 
 #include <array>
 #include <string>

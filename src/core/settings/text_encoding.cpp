@@ -1,7 +1,7 @@
-#include "settings/text_encoding.h"
+#include "core/settings/text_encoding.h"
 
-#include "values/code_points.h"
-#include "values/text.h"
+#include "core/values/code_points.h"
+#include "core/values/text.h"
 
 namespace settings {
 

@@ -1,8 +1,8 @@
-#include "shell/closing.h"
+#include "core/shell/closing.h"
 
-#include "settings/catalogue.h"
-#include "shell/geometry.h"
-#include "values/failure.h"
+#include "core/settings/catalogue.h"
+#include "core/shell/geometry.h"
+#include "core/values/failure.h"
 
 namespace shell {
 
@@ -51,7 +51,7 @@ void Closing::remove_old_row_heights() {
 
 void Closing::store_row_heights() {
     const std::string_view mode = layout_.NumDays == 1 ? settings::daily : settings::weekly;
-    const grid::GridModel& grid = layout_.msgSched();
+    const table::GridModel& grid = layout_.msgSched();
     for (int row = 0; row < grid.Rows(); ++row)
         settings::write(user_store_, keys::row_height(mode, row), std::to_string(grid.RowHeight(row)));
 }

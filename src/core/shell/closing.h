@@ -1,13 +1,13 @@
 #pragma once
 
-#include "act/session.h"
-#include "grid/layout.h"
-#include "host/clock.h"
-#include "host/guard.h"
-#include "host/shell.h"
-#include "settings/per_user_store.h"
-#include "shell/main_window.h"
-#include "shell/program.h"
+#include "core/act/session.h"
+#include "core/grid/layout.h"
+#include "core/host/clock.h"
+#include "core/host/guard.h"
+#include "core/host/shell.h"
+#include "core/settings/per_user_store.h"
+#include "core/shell/main_window.h"
+#include "core/shell/program.h"
 
 #include <string>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/jump_dates.h"
+#include "core/forms/jump_dates.h"
 
 namespace shell {
 
@@ -10,7 +10,7 @@ public:
     virtual ~Dialogs() = default;
     virtual void show_frmHolidays() = 0;
     // Opens on datCurrentNow; sets datNow and bDateNowCancel.
-    virtual void show_frmMiniCalendar(JumpDates& dates) = 0;
+    virtual void show_frmMiniCalendar(forms::JumpDates& dates) = 0;
 };
 
 } // namespace shell

@@ -1,7 +1,7 @@
-#include "shell/geometry.h"
+#include "core/shell/geometry.h"
 
-#include "settings/catalogue.h"
-#include "values/numbers.h"
+#include "core/settings/catalogue.h"
+#include "core/values/numbers.h"
 
 namespace shell {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "settings/per_user_store.h"
-#include "shell/main_window.h"
+#include "core/settings/per_user_store.h"
+#include "core/shell/main_window.h"
 
 namespace shell {
 

@@ -1,9 +1,9 @@
-#include "shell/menu_commands.h"
+#include "core/shell/menu_commands.h"
 
-#include "host/deployment.h"
-#include "settings/catalogue.h"
-#include "values/failure.h"
-#include "values/numbers.h"
+#include "core/host/deployment.h"
+#include "core/settings/catalogue.h"
+#include "core/values/failure.h"
+#include "core/values/numbers.h"
 
 namespace shell {
 

@@ -1,14 +1,14 @@
 #pragma once
 
-#include "engine/calendar_engine.h"
-#include "grid/calendar_grid.h"
-#include "host/application_info.h"
-#include "host/folders.h"
-#include "host/guard.h"
-#include "host/message_box.h"
-#include "host/shell.h"
-#include "settings/ini_lib.h"
-#include "shell/dialogs.h"
+#include "core/engine/calendar_engine.h"
+#include "core/grid/calendar_grid.h"
+#include "core/host/application_info.h"
+#include "core/host/folders.h"
+#include "core/host/guard.h"
+#include "core/host/message_box.h"
+#include "core/host/shell.h"
+#include "core/settings/ini_lib.h"
+#include "core/shell/dialogs.h"
 
 #include <string>
 

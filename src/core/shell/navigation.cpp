@@ -1,8 +1,8 @@
-#include "shell/navigation.h"
+#include "core/shell/navigation.h"
 
-#include "shell/jump_list.h"
-#include "values/text.h"
-#include "values/text_forms.h"
+#include "core/shell/jump_targets.h"
+#include "core/values/text.h"
+#include "core/values/text_forms.h"
 
 namespace shell {
 

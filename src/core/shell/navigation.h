@@ -1,13 +1,13 @@
 #pragma once
 
-#include "engine/calendar_engine.h"
-#include "grid/calendar_grid.h"
-#include "host/clock.h"
-#include "host/folders.h"
-#include "host/guard.h"
-#include "shell/dialogs.h"
-#include "shell/main_window.h"
-#include "values/locale.h"
+#include "core/engine/calendar_engine.h"
+#include "core/grid/calendar_grid.h"
+#include "core/host/clock.h"
+#include "core/host/folders.h"
+#include "core/host/guard.h"
+#include "core/shell/dialogs.h"
+#include "core/shell/main_window.h"
+#include "core/values/locale.h"
 
 #include <string>
 
@@ -30,7 +30,7 @@ public:
     };
     explicit Navigation(const Needs& needs) : need_(needs) {}
 
-    JumpDates dates;
+    forms::JumpDates dates;
 
     // A day in the daily view, a week in the weekly one.
     void cmdPrevious_Click();

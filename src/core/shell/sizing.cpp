@@ -1,6 +1,6 @@
-#include "shell/sizing.h"
+#include "core/shell/sizing.h"
 
-#include "values/numbers.h"
+#include "core/values/numbers.h"
 
 namespace shell {
 

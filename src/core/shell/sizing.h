@@ -1,8 +1,8 @@
 #pragma once
 
-#include "grid/grid_model.h"
-#include "host/guard.h"
-#include "shell/main_window.h"
+#include "core/host/guard.h"
+#include "core/shell/main_window.h"
+#include "core/table/grid_model.h"
 
 namespace shell {
 
@@ -12,7 +12,7 @@ public:
     static constexpr int beside_grid = 1000; // twips of the window's width that aren't the grid's
 
     // `bLoading` is true until the window has first been shown.
-    Sizing(MainWindow& window, grid::GridModel& msgSched, const bool& bLoading, const host::Guard& guarded)
+    Sizing(MainWindow& window, table::GridModel& msgSched, const bool& bLoading, const host::Guard& guarded)
         : window_(window), msgSched_(msgSched), bLoading_(bLoading), guarded_(guarded) {}
 
     // The window has got another size.
@@ -22,7 +22,7 @@ private:
     void keep_column_widths(int grid_width);
 
     MainWindow& window_;
-    grid::GridModel& msgSched_;
+    table::GridModel& msgSched_;
     const bool& bLoading_;
     const host::Guard& guarded_;
 };

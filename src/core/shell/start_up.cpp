@@ -1,10 +1,10 @@
-#include "shell/start_up.h"
+#include "core/shell/start_up.h"
 
-#include "settings/catalogue.h"
-#include "shell/geometry.h"
-#include "shell/jump_list.h"
-#include "values/failure.h"
-#include "values/numbers.h"
+#include "core/settings/catalogue.h"
+#include "core/shell/geometry.h"
+#include "core/shell/jump_targets.h"
+#include "core/values/failure.h"
+#include "core/values/numbers.h"
 
 namespace shell {
 

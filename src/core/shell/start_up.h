@@ -1,19 +1,19 @@
 #pragma once
 
-#include "act/session.h"
-#include "act/user_list.h"
-#include "engine/calendar_engine.h"
-#include "grid/calendar_grid.h"
-#include "host/application_info.h"
-#include "host/clock.h"
-#include "host/folders.h"
-#include "host/guard.h"
-#include "host/message_box.h"
-#include "settings/ini_lib.h"
-#include "settings/per_user_store.h"
-#include "shell/holidays.h"
-#include "shell/main_window.h"
-#include "shell/program.h"
+#include "core/act/session.h"
+#include "core/act/user_list.h"
+#include "core/engine/calendar_engine.h"
+#include "core/grid/calendar_grid.h"
+#include "core/grid/holiday_file.h"
+#include "core/host/application_info.h"
+#include "core/host/clock.h"
+#include "core/host/folders.h"
+#include "core/host/guard.h"
+#include "core/host/message_box.h"
+#include "core/settings/ini_lib.h"
+#include "core/settings/per_user_store.h"
+#include "core/shell/main_window.h"
+#include "core/shell/program.h"
 
 #include <cstdint>
 
@@ -38,7 +38,7 @@ public:
         act::UserList& users;
         grid::CalendarGrid& grid;
         engine::CalendarEngine& engine;
-        HolidayFile& holidays;
+        grid::HolidayFile& holidays;
         bool& bLoading; // on from the load until the first activation
     };
     explicit StartUp(const Needs& needs) : need_(needs) {}

@@ -1,4 +1,4 @@
-#include "values/code_points.h"
+#include "core/values/code_points.h"
 
 namespace values {
 

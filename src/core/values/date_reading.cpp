@@ -1,6 +1,6 @@
-#include "values/pattern.h"
-#include "values/text.h"
-#include "values/text_forms.h"
+#include "core/values/pattern.h"
+#include "core/values/text.h"
+#include "core/values/text_forms.h"
 
 #include <algorithm>
 #include <charconv>

@@ -1,6 +1,6 @@
-#include "values/date_time.h"
+#include "core/values/date_time.h"
 
-#include "values/failure.h"
+#include "core/values/failure.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
-#include "values/ids.h"
+#include "core/values/ids.h"
 
-#include "values/text.h"
+#include "core/values/text.h"
 
 namespace values {
 

@@ -1,4 +1,4 @@
-#include "values/locale.h"
+#include "core/values/locale.h"
 
 namespace values {
 

@@ -1,7 +1,7 @@
-#include "values/numbers.h"
+#include "core/values/numbers.h"
 
-#include "values/failure.h"
-#include "values/text.h"
+#include "core/values/failure.h"
+#include "core/values/text.h"
 
 #include <algorithm>
 #include <charconv>

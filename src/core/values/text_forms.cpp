@@ -1,7 +1,7 @@
-#include "values/text_forms.h"
+#include "core/values/text_forms.h"
 
-#include "values/failure.h"
-#include "values/pattern.h"
+#include "core/values/failure.h"
+#include "core/values/pattern.h"
 
 namespace values {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "values/date_time.h"
-#include "values/locale.h"
+#include "core/values/date_time.h"
+#include "core/values/locale.h"
 
 #include <optional>
 #include <string>

@@ -1,8 +1,8 @@
-#include "values/value.h"
+#include "core/values/value.h"
 
-#include "values/failure.h"
-#include "values/numbers.h"
-#include "values/text_forms.h"
+#include "core/values/failure.h"
+#include "core/values/numbers.h"
+#include "core/values/text_forms.h"
 
 namespace values {
 

@@ -1,8 +1,8 @@
-#include "export/calendar_writer.h"
+#include "desk/export/calendar_writer.h"
 
-#include "import/activity_text.h"
-#include "values/failure.h"
-#include "values/text.h"
+#include "core/values/failure.h"
+#include "core/values/text.h"
+#include "desk/import/activity_text.h"
 
 #include <libical/ical.h>
 

@@ -1,6 +1,6 @@
-#include "import/activity_text.h"
+#include "desk/import/activity_text.h"
 
-#include "values/text.h"
+#include "core/values/text.h"
 
 namespace importing {
 namespace {

@@ -1,8 +1,8 @@
-#include "import/calendar_reader.h"
+#include "desk/import/calendar_reader.h"
 
-#include "import/activity_text.h"
-#include "import/import_file.h"
-#include "import/occurrences.h"
+#include "desk/import/activity_text.h"
+#include "desk/import/import_file.h"
+#include "desk/import/occurrences.h"
 
 #include <algorithm>
 #include <charconv>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "import/entry.h"
+#include "desk/import/entry.h"
 
 #include <vector>
 

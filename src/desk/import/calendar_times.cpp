@@ -1,4 +1,4 @@
-#include "import/calendar_times.h"
+#include "desk/import/calendar_times.h"
 
 #include <algorithm>
 

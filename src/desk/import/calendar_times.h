@@ -1,7 +1,7 @@
 #pragma once
 
-#include "import/content_lines.h"
-#include "import/local_zone.h"
+#include "desk/import/content_lines.h"
+#include "desk/import/local_zone.h"
 
 #include <libical/ical.h>
 

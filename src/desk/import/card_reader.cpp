@@ -1,8 +1,8 @@
-#include "import/card_reader.h"
+#include "desk/import/card_reader.h"
 
-#include "import/activity_text.h"
-#include "store/contact_fields.h"
-#include "values/text.h"
+#include "core/values/text.h"
+#include "desk/import/activity_text.h"
+#include "desk/store/contact_fields.h"
 
 #include <algorithm>
 

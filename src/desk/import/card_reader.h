@@ -1,8 +1,8 @@
 #pragma once
 
-#include "import/content_lines.h"
-#include "import/report.h"
-#include "store/records.h"
+#include "desk/import/content_lines.h"
+#include "desk/import/report.h"
+#include "desk/store/records.h"
 
 #include <string>
 #include <vector>

@@ -1,6 +1,6 @@
-#include "import/colours.h"
+#include "desk/import/colours.h"
 
-#include "values/text.h"
+#include "core/values/text.h"
 
 #include <algorithm>
 #include <charconv>

@@ -1,7 +1,7 @@
-#include "import/content_lines.h"
+#include "desk/import/content_lines.h"
 
-#include "values/failure.h"
-#include "values/text.h"
+#include "core/values/failure.h"
+#include "core/values/text.h"
 
 #include <algorithm>
 

@@ -1,8 +1,8 @@
-#include "import/entry.h"
+#include "desk/import/entry.h"
 
-#include "import/activity_text.h"
-#include "import/colours.h"
-#include "values/text.h"
+#include "core/values/text.h"
+#include "desk/import/activity_text.h"
+#include "desk/import/colours.h"
 
 #include <algorithm>
 

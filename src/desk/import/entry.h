@@ -1,9 +1,9 @@
 #pragma once
 
-#include "import/calendar_times.h"
-#include "import/people.h"
-#include "import/report.h"
-#include "store/records.h"
+#include "desk/import/calendar_times.h"
+#include "desk/import/people.h"
+#include "desk/import/report.h"
+#include "desk/store/records.h"
 
 namespace importing {
 

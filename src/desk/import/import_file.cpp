@@ -1,10 +1,10 @@
-#include "import/import_file.h"
+#include "desk/import/import_file.h"
 
-#include "import/calendar_reader.h"
-#include "import/card_reader.h"
-#include "import/people.h"
-#include "values/failure.h"
-#include "values/text.h"
+#include "core/values/failure.h"
+#include "core/values/text.h"
+#include "desk/import/calendar_reader.h"
+#include "desk/import/card_reader.h"
+#include "desk/import/people.h"
 
 #include <algorithm>
 #include <filesystem>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "import/local_zone.h"
-#include "import/report.h"
-#include "store/store.h"
+#include "desk/import/local_zone.h"
+#include "desk/import/report.h"
+#include "desk/store/store.h"
 
 #include <string>
 #include <string_view>

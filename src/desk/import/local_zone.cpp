@@ -1,6 +1,6 @@
-#include "import/local_zone.h"
+#include "desk/import/local_zone.h"
 
-#include "values/failure.h"
+#include "core/values/failure.h"
 
 #include <ctime>
 

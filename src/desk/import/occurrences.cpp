@@ -1,4 +1,4 @@
-#include "import/occurrences.h"
+#include "desk/import/occurrences.h"
 
 #include <algorithm>
 

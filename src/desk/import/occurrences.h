@@ -1,7 +1,7 @@
 #pragma once
 
-#include "import/calendar_times.h"
-#include "import/series.h"
+#include "desk/import/calendar_times.h"
+#include "desk/import/series.h"
 
 namespace importing {
 

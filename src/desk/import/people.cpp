@@ -1,7 +1,7 @@
-#include "import/people.h"
+#include "desk/import/people.h"
 
-#include "store/contact_fields.h"
-#include "values/text.h"
+#include "core/values/text.h"
+#include "desk/store/contact_fields.h"
 
 #include <algorithm>
 

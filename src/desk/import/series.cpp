@@ -1,7 +1,7 @@
-#include "import/series.h"
+#include "desk/import/series.h"
 
-#include "engine/recurrence.h"
-#include "values/failure.h"
+#include "core/recurrence/starts.h"
+#include "core/values/failure.h"
 
 #include <algorithm>
 
@@ -14,7 +14,7 @@ using store::RecurrenceKind;
 
 constexpr int days_shown = 7;
 
-engine::RecurrenceRule rule_of(const Recurrence& series, DateTime start) {
+recurrence::Rule rule_of(const Recurrence& series, DateTime start) {
     return {.start = start,
             .frequency = series.frequency,
             .until = series.until.value_or(DateTime::of(2099, 12, 31)),
@@ -23,32 +23,32 @@ engine::RecurrenceRule rule_of(const Recurrence& series, DateTime start) {
             .days_of_month = static_cast<int>(series.days_of_month)};
 }
 
-std::vector<DateTime> shown_starts(const Recurrence& series, DateTime start, const engine::ShownDates& shown) {
+std::vector<DateTime> shown_starts(const Recurrence& series, DateTime start, const recurrence::ShownDates& shown) {
     std::vector<DateTime> starts;
-    const engine::RecurrenceVisitor visitor{[](DateTime) { return false; },
-                                            [&](DateTime date) { starts.push_back(date); }};
-    const engine::RecurrenceRule rule = rule_of(series, start);
+    const recurrence::Visitor visitor{[](DateTime) { return false; },
+                                      [&](DateTime date) { starts.push_back(date); }};
+    const recurrence::Rule rule = rule_of(series, start);
     switch (series.kind) {
     case RecurrenceKind::none:
         break;
     case RecurrenceKind::daily:
-        engine::daily_starts(rule, shown, visitor);
+        recurrence::daily_starts(rule, shown, visitor);
         break;
     case RecurrenceKind::weekly:
-        engine::weekly_starts(rule, shown, visitor);
+        recurrence::weekly_starts(rule, shown, visitor);
         break;
     case RecurrenceKind::days_of_month:
-        engine::custom_starts(rule, shown, visitor);
+        recurrence::custom_starts(rule, shown, visitor);
         break;
     case RecurrenceKind::weekdays_of_month:
-        engine::monthly_starts(rule, shown, visitor);
+        recurrence::monthly_starts(rule, shown, visitor);
         break;
     }
     std::sort(starts.begin(), starts.end());
     return starts;
 }
 
-bool shows_in(const engine::ShownDates& shown, const Recurrence& series, const RuleDates& dates) {
+bool shows_in(const recurrence::ShownDates& shown, const Recurrence& series, const RuleDates& dates) {
     const auto first = std::lower_bound(dates.starts.begin(), dates.starts.end(), shown.StartDate);
     const auto last = std::lower_bound(first, dates.starts.end(), shown.EndDate.plus_days(1));
     const std::vector<DateTime> starts = shown_starts(series, dates.starts.front(), shown);

@@ -1,20 +1,20 @@
-#include "service/activity_dialog_object.h"
+#include "desk/service/activity_dialog_object.h"
 
-#include "service/answer.h"
+#include "desk/service/answer.h"
 
 namespace service {
 
 using contract::from_wire;
 
 QString ActivityDialogObject::OpenDialog() const {
-    const ActivityDialog* open = desk_.activity_dialog();
+    const model::ActivityDialog* open = desk_.activity_dialog();
     if (!open)
         return {};
     return open->is_new() ? contract::new_activity : contract::stored_activity;
 }
 
-ActivityDialog& ActivityDialogObject::dialog() const {
-    ActivityDialog* open = desk_.activity_dialog();
+model::ActivityDialog& ActivityDialogObject::dialog() const {
+    model::ActivityDialog* open = desk_.activity_dialog();
     if (!open)
         throw refusal("No activity is being worked on for another program.");
     return *open;

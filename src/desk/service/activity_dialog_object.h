@@ -3,7 +3,7 @@
 #include <QDBusContext>
 #include <QObject>
 
-#include "service/desk.h"
+#include "desk/model/desk.h"
 
 namespace service {
 
@@ -12,7 +12,7 @@ class ActivityDialogObject : public QObject, protected QDBusContext {
     Q_OBJECT
 
 public:
-    explicit ActivityDialogObject(Desk& desk) : desk_(desk) {}
+    explicit ActivityDialogObject(model::Desk& desk) : desk_(desk) {}
 
     QString OpenDialog() const;
     void Fill(const QString& type, const QString& date, const QString& time, const QString& duration,
@@ -23,9 +23,9 @@ signals:
     void Opened(const QString& kind);
 
 private:
-    ActivityDialog& dialog() const; // fails when none is open
+    model::ActivityDialog& dialog() const; // fails when none is open
 
-    Desk& desk_;
+    model::Desk& desk_;
 };
 
 } // namespace service

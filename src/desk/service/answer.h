@@ -1,7 +1,7 @@
 #pragma once
 
 #include "contract/names.h"
-#include "values/failure.h"
+#include "core/values/failure.h"
 
 #include <QDBusContext>
 

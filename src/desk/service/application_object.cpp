@@ -1,6 +1,6 @@
-#include "service/application_object.h"
+#include "desk/service/application_object.h"
 
-#include "service/answer.h"
+#include "desk/service/answer.h"
 
 #include <QPointer>
 

@@ -5,7 +5,7 @@
 #include <QDBusMessage>
 #include <QObject>
 
-#include "service/desk.h"
+#include "desk/model/desk.h"
 
 #include <optional>
 
@@ -16,7 +16,7 @@ class ApplicationObject : public QObject, protected QDBusContext {
     Q_OBJECT
 
 public:
-    explicit ApplicationObject(Desk& desk) : desk_(desk) {}
+    explicit ApplicationObject(model::Desk& desk) : desk_(desk) {}
 
     int OpenDatabases() const;
     void OpenFile(const QString& path);
@@ -35,7 +35,7 @@ private:
         QDBusConnection bus;
         QDBusMessage call;
     };
-    Desk& desk_;
+    model::Desk& desk_;
     std::optional<Caller> waiting_; // for the command under way to finish
 };
 

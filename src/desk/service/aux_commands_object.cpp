@@ -1,6 +1,6 @@
-#include "service/aux_commands_object.h"
+#include "desk/service/aux_commands_object.h"
 
-#include "service/answer.h"
+#include "desk/service/answer.h"
 
 namespace service {
 

@@ -3,7 +3,7 @@
 #include <QDBusContext>
 #include <QObject>
 
-#include "store/toolbar_commands.h"
+#include "desk/store/toolbar_commands.h"
 
 namespace service {
 

@@ -1,21 +1,21 @@
-#include "service/contact_view_object.h"
+#include "desk/service/contact_view_object.h"
 
-#include "service/answer.h"
-#include "service/field_text.h"
-#include "values/ids.h"
+#include "core/values/ids.h"
+#include "desk/service/answer.h"
+#include "desk/service/field_text.h"
 
 namespace service {
 
 using contract::from_wire;
 using contract::on_wire;
 
-ContactView& ContactViewObject::view() const {
+model::ContactView& ContactViewObject::view() const {
     if (desk_.database_path().empty())
         throw refusal("No database is open in the contact desk.");
     return desk_.contact_view();
 }
 
-ContactView& ContactViewObject::view_with_row(int row) const {
+model::ContactView& ContactViewObject::view_with_row(int row) const {
     auto& result = view();
     if (row < 0 || row >= result.activity_count())
         throw refusal("The list of activities has no row " + std::to_string(row) + ".");

@@ -3,8 +3,8 @@
 #include <QDBusContext>
 #include <QObject>
 
-#include "service/desk.h"
-#include "values/locale.h"
+#include "core/values/locale.h"
+#include "desk/model/desk.h"
 
 namespace service {
 
@@ -14,7 +14,7 @@ class ContactViewObject : public QObject, protected QDBusContext {
 
 public:
     // Dates in the list's fields are written in the locale.
-    ContactViewObject(Desk& desk, const values::Locale& locale) : desk_(desk), locale_(locale) {}
+    ContactViewObject(model::Desk& desk, const values::Locale& locale) : desk_(desk), locale_(locale) {}
 
     QString GetActiveTab();
     void SetActiveTab(const QString& tab);
@@ -28,10 +28,10 @@ public:
     void SelectRow(int row, bool selected);
 
 private:
-    ContactView& view() const;                 // fails when no database is open
-    ContactView& view_with_row(int row) const; // fails also when its list has no such row
+    model::ContactView& view() const;                 // fails when no database is open
+    model::ContactView& view_with_row(int row) const; // fails also when its list has no such row
 
-    Desk& desk_;
+    model::Desk& desk_;
     const values::Locale& locale_;
 };
 

@@ -1,7 +1,7 @@
-#include "service/field_text.h"
+#include "desk/service/field_text.h"
 
-#include "act/activity.h"
-#include "values/text_forms.h"
+#include "core/act/activity.h"
+#include "core/values/text_forms.h"
 
 namespace service {
 namespace {

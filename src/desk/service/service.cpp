@@ -1,10 +1,10 @@
-#include "service/service.h"
+#include "desk/service/service.h"
 
-#include "activity_dialog_adaptor.h"
-#include "application_adaptor.h"
-#include "aux_commands_adaptor.h"
-#include "contact_view_adaptor.h"
 #include "contract/names.h"
+#include "desk/service/activity_dialog_adaptor.h"
+#include "desk/service/application_adaptor.h"
+#include "desk/service/aux_commands_adaptor.h"
+#include "desk/service/contact_view_adaptor.h"
 
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>
@@ -29,7 +29,7 @@ void wait_until_sent(const QDBusConnection& bus) {
 
 class Service::Objects {
 public:
-    Objects(Desk& desk, store::ToolbarCommands& toolbar_commands, const values::Locale& locale)
+    Objects(model::Desk& desk, store::ToolbarCommands& toolbar_commands, const values::Locale& locale)
         : desk_(desk), application_(desk), contact_view_(desk, locale), aux_commands_(toolbar_commands),
           activity_dialog_(desk) {
         desk_.on_activity_dialog = [this] { emit activity_dialog_.Opened(activity_dialog_.OpenDialog()); };
@@ -78,7 +78,7 @@ private:
         bus_.reset();
     }
 
-    Desk& desk_;
+    model::Desk& desk_;
     ApplicationObject application_;
     ContactViewObject contact_view_;
     AuxCommandsObject aux_commands_;
@@ -94,7 +94,7 @@ private:
     std::optional<QDBusConnection> bus_;
 };
 
-Service::Service(Desk& desk, store::ToolbarCommands& toolbar_commands, const values::Locale& locale)
+Service::Service(model::Desk& desk, store::ToolbarCommands& toolbar_commands, const values::Locale& locale)
     : objects_(std::make_unique<Objects>(desk, toolbar_commands, locale)) {}
 
 Service::~Service() = default;

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "service/desk.h"
-#include "store/toolbar_commands.h"
-#include "values/locale.h"
+#include "core/values/locale.h"
+#include "desk/model/desk.h"
+#include "desk/store/toolbar_commands.h"
 
 #include <QDBusConnection>
 
@@ -14,7 +14,7 @@ namespace service {
 // the thread of the desk's windows. What it is given outlives it.
 class Service {
 public:
-    Service(Desk& desk, store::ToolbarCommands& toolbar_commands, const values::Locale& locale);
+    Service(model::Desk& desk, store::ToolbarCommands& toolbar_commands, const values::Locale& locale);
     ~Service(); // leaves the bus
     Service(const Service&) = delete;
     Service& operator=(const Service&) = delete;

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "store/activity_reading.h"
-#include "store/connection.h"
+#include "desk/store/activity_reading.h"
+#include "desk/store/connection.h"
 
 #include <algorithm>
 

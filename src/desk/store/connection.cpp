@@ -1,6 +1,6 @@
-#include "store/connection.h"
+#include "desk/store/connection.h"
 
-#include "values/failure.h"
+#include "core/values/failure.h"
 
 #include <sqlite3.h>
 

@@ -1,4 +1,4 @@
-#include "store/contact_fields.h"
+#include "desk/store/contact_fields.h"
 
 namespace store {
 

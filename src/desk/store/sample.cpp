@@ -1,8 +1,8 @@
-#include "store/sample.h"
+#include "desk/store/sample.h"
 
-#include "store/contact_fields.h"
-#include "store/sample_texts.h"
-#include "values/text.h"
+#include "core/values/text.h"
+#include "desk/store/contact_fields.h"
+#include "desk/store/sample_texts.h"
 
 #include <cctype>
 #include <iterator>

@@ -1,7 +1,7 @@
-#include "store/schema.h"
+#include "desk/store/schema.h"
 
-#include "store/sql.h"
-#include "values/failure.h"
+#include "core/values/failure.h"
+#include "desk/store/sql.h"
 
 #include <fcntl.h>
 #include <unistd.h>

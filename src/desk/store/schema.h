@@ -1,6 +1,6 @@
 #pragma once
 
-#include "store/connection.h"
+#include "desk/store/connection.h"
 
 #include <memory>
 #include <string>

@@ -1,7 +1,7 @@
-#include "store/sql.h"
+#include "desk/store/sql.h"
 
-#include "store/contact_fields.h"
-#include "values/failure.h"
+#include "core/values/failure.h"
+#include "desk/store/contact_fields.h"
 
 #include <algorithm>
 

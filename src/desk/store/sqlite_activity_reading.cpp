@@ -1,6 +1,6 @@
-#include "store/activity_columns.h"
-#include "store/sql.h"
-#include "store/sqlite_store.h"
+#include "desk/store/activity_columns.h"
+#include "desk/store/sql.h"
+#include "desk/store/sqlite_store.h"
 
 namespace store {
 

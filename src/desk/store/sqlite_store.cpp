@@ -1,10 +1,10 @@
-#include "store/sqlite_store.h"
+#include "desk/store/sqlite_store.h"
 
-#include "store/contact_fields.h"
-#include "store/schema.h"
-#include "store/sql.h"
-#include "values/failure.h"
-#include "values/ids.h"
+#include "core/values/failure.h"
+#include "core/values/ids.h"
+#include "desk/store/contact_fields.h"
+#include "desk/store/schema.h"
+#include "desk/store/sql.h"
 
 #include <algorithm>
 #include <utility>

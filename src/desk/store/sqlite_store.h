@@ -1,9 +1,9 @@
 #pragma once
 
-#include "store/activity_reading.h"
-#include "store/connection.h"
-#include "store/store.h"
-#include "store/toolbar_commands.h"
+#include "desk/store/activity_reading.h"
+#include "desk/store/connection.h"
+#include "desk/store/store.h"
+#include "desk/store/toolbar_commands.h"
 
 #include <map>
 #include <optional>

@@ -1,8 +1,8 @@
-#include "store/activity_columns.h"
-#include "store/sql.h"
-#include "store/sqlite_store.h"
-#include "values/failure.h"
-#include "values/ids.h"
+#include "core/values/failure.h"
+#include "core/values/ids.h"
+#include "desk/store/activity_columns.h"
+#include "desk/store/sql.h"
+#include "desk/store/sqlite_store.h"
 
 #include <algorithm>
 

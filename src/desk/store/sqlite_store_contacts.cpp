@@ -1,8 +1,8 @@
-#include "store/contact_fields.h"
-#include "store/sql.h"
-#include "store/sqlite_store.h"
-#include "values/failure.h"
-#include "values/ids.h"
+#include "core/values/failure.h"
+#include "core/values/ids.h"
+#include "desk/store/contact_fields.h"
+#include "desk/store/sql.h"
+#include "desk/store/sqlite_store.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "store/records.h"
+#include "desk/store/records.h"
 
 #include <cstdint>
 #include <functional>

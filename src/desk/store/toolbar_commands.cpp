@@ -1,7 +1,7 @@
-#include "store/toolbar_commands.h"
+#include "desk/store/toolbar_commands.h"
 
-#include "store/sql.h"
-#include "store/sqlite_store.h"
+#include "desk/store/sql.h"
+#include "desk/store/sqlite_store.h"
 
 namespace store {
 

@@ -1,9 +1,9 @@
-#include "windows/activity_commands.h"
+#include "desk/windows/activity_commands.h"
 
-#include "windows/boxes.h"
-#include "windows/clear_dialog.h"
-#include "windows/conversions.h"
-#include "windows/refusal.h"
+#include "desk/model/refusal.h"
+#include "desk/windows/boxes.h"
+#include "desk/windows/clear_dialog.h"
+#include "desk/windows/conversions.h"
 
 namespace windows {
 namespace {
@@ -24,9 +24,9 @@ std::string first_enabled(const std::vector<store::User>& users) {
 
 } // namespace
 
-ActivityCommands::ActivityCommands(Session& session, Lookup& lookup, QWidget& window)
+ActivityCommands::ActivityCommands(OpenDatabase& session, Lookup& lookup, QWidget& window)
     : session_(session), lookup_(lookup), window_(window), sender_(session, window) {
-    QObject::connect(&session, &Session::closed, &window, [this] { close_dialog(); });
+    QObject::connect(&session, &OpenDatabase::closed, &window, [this] { close_dialog(); });
 }
 
 void ActivityCommands::schedule(store::ActivityType type, Finished finished) {
@@ -84,20 +84,20 @@ void ActivityCommands::close_dialog() {
 
 void ActivityCommands::require_idle() const {
     if (is_under_way_)
-        refuse("Another activity is being worked on already. Close its dialog first.");
+        model::refuse("Another activity is being worked on already. Close its dialog first.");
 }
 
 void ActivityCommands::require_writable() const {
     if (session_.store().is_read_only())
-        refuse("The database is open for reading alone.");
+        model::refuse("The database is open for reading alone.");
 }
 
 store::Activity ActivityCommands::stored_activity(const std::string& id) const {
     if (id.empty())
-        refuse("No activity is selected.");
+        model::refuse("No activity is selected.");
     auto activity = session_.store().activity(id);
     if (!activity)
-        refuse("The activity isn't in the database any more.");
+        model::refuse("The activity isn't in the database any more.");
     return *activity;
 }
 

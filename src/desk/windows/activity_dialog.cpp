@@ -1,11 +1,11 @@
-#include "windows/activity_dialog.h"
+#include "desk/windows/activity_dialog.h"
 
+#include "desk/model/activity_values.h"
+#include "desk/model/refusal.h"
+#include "desk/windows/boxes.h"
+#include "desk/windows/conversions.h"
+#include "desk/windows/rows.h"
 #include "ui_activity_dialog.h"
-#include "windows/activity_values.h"
-#include "windows/boxes.h"
-#include "windows/conversions.h"
-#include "windows/refusal.h"
-#include "windows/rows.h"
 
 namespace windows {
 namespace {
@@ -25,7 +25,7 @@ std::string chosen(const QComboBox* box) { return stored(box->currentData().toSt
 
 } // namespace
 
-ActivityDialog::ActivityDialog(Session& session, store::Activity activity, QWidget* parent)
+ActivityDialog::ActivityDialog(OpenDatabase& session, store::Activity activity, QWidget* parent)
     : QDialog(parent), session_(session), activity_(std::move(activity)),
       ui_(std::make_unique<Ui::ActivityDialog>()) {
     ui_->setupUi(this);
@@ -89,11 +89,11 @@ void ActivityDialog::show_tab(const std::string& name) {
     for (const auto& [tab, its_name] : tab_names)
         if (name == its_name)
             return show_tab(tab);
-    refuse("The dialog has no tab \"" + name + "\".");
+    model::refuse("The dialog has no tab \"" + name + "\".");
 }
 
-void ActivityDialog::fill(const service::ActivityValues& values) {
-    const ReadValues read = read_values(values, session_.directory().users(), session_.locale());
+void ActivityDialog::fill(const model::ActivityValues& values) {
+    const model::ReadValues read = model::read_values(values, session_.directory().users(), session_.locale());
     if (read.type)
         ui_->type_box->setCurrentIndex(ui_->type_box->findData(static_cast<int>(*read.type)));
     if (read.date)
@@ -118,7 +118,7 @@ void ActivityDialog::show_date(values::DateTime date) {
 // An activity that came without a date keeps none until the user gives it one.
 std::optional<store::DateTime> ActivityDialog::typed_start() const {
     const auto date = ui_->date_edit->date();
-    require(date || !activity_.start, "Give the activity a date.");
+    model::require(date || !activity_.start, "Give the activity a date.");
     if (!date)
         return std::nullopt;
     return store::DateTime::from_seconds(date->seconds() + ui_->time_edit->time().seconds());
@@ -145,9 +145,9 @@ store::Activity ActivityDialog::typed() const {
     result.recurrence = ui_->recurring_tab->rule();
     result.exceptions = ui_->recurring_tab->exceptions();
     const bool may_be_alone = !activity_.id.empty() && activity_.contacts.empty();
-    require(may_be_alone || !result.contacts.empty(), "Choose at least one contact for the activity.");
-    require(result.start || result.recurrence.kind == store::RecurrenceKind::none,
-            "An activity that repeats needs a date.");
+    model::require(may_be_alone || !result.contacts.empty(), "Choose at least one contact for the activity.");
+    model::require(result.start || result.recurrence.kind == store::RecurrenceKind::none,
+                   "An activity that repeats needs a date.");
     return result;
 }
 

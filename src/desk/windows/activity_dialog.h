@@ -1,7 +1,7 @@
 #pragma once
 
-#include "service/desk.h"
-#include "windows/session.h"
+#include "desk/model/desk.h"
+#include "desk/windows/open_database.h"
 
 #include <QDialog>
 
@@ -15,18 +15,18 @@ namespace windows {
 
 // Schedules a new activity, one without an id, or edits a stored one. OK stores it; where that fails the dialog
 // stays open with what was typed.
-class ActivityDialog : public QDialog, public service::ActivityDialog {
+class ActivityDialog : public QDialog, public model::ActivityDialog {
     Q_OBJECT
 
 public:
-    ActivityDialog(Session& session, store::Activity activity, QWidget* parent);
+    ActivityDialog(OpenDatabase& session, store::Activity activity, QWidget* parent);
     ~ActivityDialog() override;
 
     enum class Tab { general, details, recurring };
     void show_tab(Tab tab); // with the keyboard's focus on its first field
 
     bool is_new() const override { return activity_.id.empty(); }
-    void fill(const service::ActivityValues& values) override;
+    void fill(const model::ActivityValues& values) override;
     void show_tab(const std::string& name) override; // "General", "Details" or "Recurring"
 
     void accept() override;
@@ -41,7 +41,7 @@ private:
     std::optional<store::DateTime> typed_start() const;
     void store_typed();
 
-    Session& session_;
+    OpenDatabase& session_;
     const store::Activity activity_;
     std::unique_ptr<Ui::ActivityDialog> ui_;
 };

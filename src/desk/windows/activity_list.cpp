@@ -1,10 +1,10 @@
-#include "windows/activity_list.h"
+#include "desk/windows/activity_list.h"
 
+#include "core/values/failure.h"
+#include "desk/windows/boxes.h"
+#include "desk/windows/conversions.h"
+#include "desk/windows/rows.h"
 #include "ui_activity_list.h"
-#include "values/failure.h"
-#include "windows/boxes.h"
-#include "windows/conversions.h"
-#include "windows/rows.h"
 
 #include <QMenu>
 
@@ -36,7 +36,7 @@ std::set<Kind> checked(const Choices& choices) {
 
 } // namespace
 
-ActivityList::ActivityList(Session& session, Scope scope, QWidget* parent)
+ActivityList::ActivityList(OpenDatabase& session, Scope scope, QWidget* parent)
     : QWidget(parent), session_(session), scope_(scope), ui_(std::make_unique<Ui::ActivityList>()) {
     ui_->setupUi(this);
     ui_->activity_table->set_columns(activity_columns(), date_column);
@@ -49,7 +49,7 @@ ActivityList::ActivityList(Session& session, Scope scope, QWidget* parent)
     show_users();
     show_filter();
     connect_bar();
-    connect(&session, &Session::changed, this, [this] {
+    connect(&session, &OpenDatabase::changed, this, [this] {
         show_users();
         reload_when_seen();
     });
@@ -92,10 +92,10 @@ void ActivityList::show_contact(const std::string& contact) {
     reload();
 }
 
-void ActivityList::set_filter(const ActivityFilter& filter) {
+void ActivityList::set_filter(const model::ActivityFilter& filter) {
     const auto range = std::pair(filter_.from, filter_.to);
     filter_ = filter;
-    if (filter.period != Period::range)
+    if (filter.period != model::Period::range)
         std::tie(filter_.from, filter_.to) = range;
     show_filter();
     reload();
@@ -104,7 +104,7 @@ void ActivityList::set_filter(const ActivityFilter& filter) {
 void ActivityList::take_filter() {
     filter_.types = checked<store::ActivityType>(types_);
     filter_.priorities = checked<store::Priority>(priorities_);
-    filter_.period = static_cast<Period>(ui_->period_box->currentIndex());
+    filter_.period = static_cast<model::Period>(ui_->period_box->currentIndex());
     filter_.from = ui_->from_edit->known_date().value_or(filter_.from);
     filter_.to = ui_->to_edit->known_date().value_or(filter_.to);
     filter_.with_cleared = ui_->cleared_box->isChecked();
@@ -122,7 +122,7 @@ void ActivityList::show_filter() {
     ui_->period_box->setCurrentIndex(static_cast<int>(filter_.period));
     ui_->from_edit->set_date(filter_.from);
     ui_->to_edit->set_date(filter_.to);
-    const bool is_range = filter_.period == Period::range;
+    const bool is_range = filter_.period == model::Period::range;
     for (QWidget* widget : {static_cast<QWidget*>(ui_->from_edit), static_cast<QWidget*>(ui_->to_edit),
                             static_cast<QWidget*>(ui_->to_label)})
         widget->setVisible(is_range);
@@ -157,8 +157,8 @@ void ActivityList::reload() {
     activities_.clear();
     const bool is_anybody = scope_ == Scope::everybody || !contact_.empty();
     if (session_.is_open() && is_anybody)
-        activities_ = filtered(session_.store(), filter_, session_.today(),
-                               scope_ == Scope::contact ? std::optional(contact_) : std::nullopt);
+        activities_ = model::filtered(session_.store(), filter_, session_.today(),
+                                      scope_ == Scope::contact ? std::optional(contact_) : std::nullopt);
     ui_->activity_table->show_rows(activity_rows(activities_, session_.directory(), session_.locale()));
     ui_->count_label->setText(row_count() == 1 ? tr("1 activity") : tr("%1 activities").arg(row_count()));
 }

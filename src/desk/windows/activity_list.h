@@ -1,7 +1,7 @@
 #pragma once
 
-#include "windows/activity_filter.h"
-#include "windows/session.h"
+#include "desk/model/activity_filter.h"
+#include "desk/windows/open_database.h"
 
 #include <QWidget>
 
@@ -26,16 +26,16 @@ class ActivityList : public QWidget {
 public:
     enum class Scope { contact, everybody };
 
-    ActivityList(Session& session, Scope scope, QWidget* parent = nullptr);
+    ActivityList(OpenDatabase& session, Scope scope, QWidget* parent = nullptr);
     ~ActivityList() override;
 
     // The contact whose activities are shown; nothing is shown with an empty id. Without meaning for everybody's.
     void show_contact(const std::string& contact);
     const std::string& contact() const { return contact_; }
 
-    const ActivityFilter& filter() const { return filter_; }
+    const model::ActivityFilter& filter() const { return filter_; }
     // The rows are the new ones when it returns. The two dates of a filter that isn't a range don't count.
-    void set_filter(const ActivityFilter& filter);
+    void set_filter(const model::ActivityFilter& filter);
 
     int row_count() const;
     store::Activity activity(int row) const; // as displayed, from 0; fails with 9 outside
@@ -64,12 +64,12 @@ private:
     void build_choices();
     void connect_bar();
 
-    Session& session_;
+    OpenDatabase& session_;
     const Scope scope_;
     std::unique_ptr<Ui::ActivityList> ui_;
     std::vector<Choice<store::ActivityType>> types_;
     std::vector<Choice<store::Priority>> priorities_;
-    ActivityFilter filter_;
+    model::ActivityFilter filter_;
     std::string contact_;
     bool is_stale_ = false; // the rows are older than the database
     std::vector<store::Activity> activities_;

@@ -1,11 +1,11 @@
-#include "windows/activity_sender.h"
+#include "desk/windows/activity_sender.h"
 
-#include "export/calendar_writer.h"
-#include "store/contact_fields.h"
-#include "windows/boxes.h"
-#include "windows/conversions.h"
-#include "windows/refusal.h"
-#include "windows/rows.h"
+#include "desk/export/calendar_writer.h"
+#include "desk/model/refusal.h"
+#include "desk/store/contact_fields.h"
+#include "desk/windows/boxes.h"
+#include "desk/windows/conversions.h"
+#include "desk/windows/rows.h"
 
 #include <QFileDialog>
 #include <QMessageBox>
@@ -21,7 +21,7 @@ namespace field = store::contact_field;
 void write(const QString& path, const QByteArray& bytes) {
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
-        refuse("The file can't be written: " + stored(path) + ": " + stored(file.errorString()));
+        model::refuse("The file can't be written: " + stored(path) + ": " + stored(file.errorString()));
 }
 
 } // namespace
@@ -48,7 +48,7 @@ Message ActivitySender::message_of(const store::Activity& activity) const {
         const store::Contact* contact = session_.directory().contact(id);
         if (!contact)
             continue;
-        const std::string mail = field_of(*contact, field::e_mail);
+        const std::string mail = model::field_of(*contact, field::e_mail);
         participants.push_back({session_.directory().contact_name(id), mail});
         message.addresses << shown(mail).trimmed();
     }

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "windows/mail.h"
-#include "windows/session.h"
+#include "desk/windows/mail.h"
+#include "desk/windows/open_database.h"
 
 #include <QDialog>
 #include <QPointer>
@@ -13,7 +13,7 @@ namespace windows {
 // Sends an activity as a calendar file: by the mail program or, where there is none, into a file of the user's.
 class ActivitySender {
 public:
-    ActivitySender(Session& session, QWidget& window) : session_(session), window_(window) {}
+    ActivitySender(OpenDatabase& session, QWidget& window) : session_(session), window_(window) {}
 
     // Returns at once; `finished` is called once from a later event, when the message is on its way or the last
     // dialog has closed. Fails with 440 when the activity has no date.
@@ -27,7 +27,7 @@ private:
     void ask_for_file(const Message& message, std::function<void()> finished);
     void open(QDialog* dialog, std::function<void(int result)> closed);
 
-    Session& session_;
+    OpenDatabase& session_;
     QWidget& window_;
     Mail mail_;
     QPointer<QDialog> dialog_;

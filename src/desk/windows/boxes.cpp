@@ -1,6 +1,6 @@
-#include "windows/boxes.h"
+#include "desk/windows/boxes.h"
 
-#include "values/failure.h"
+#include "core/values/failure.h"
 
 #include <QMessageBox>
 

@@ -1,10 +1,10 @@
-#include "windows/clear_dialog.h"
+#include "desk/windows/clear_dialog.h"
 
+#include "desk/model/refusal.h"
+#include "desk/windows/boxes.h"
+#include "desk/windows/conversions.h"
+#include "desk/windows/rows.h"
 #include "ui_clear_dialog.h"
-#include "windows/boxes.h"
-#include "windows/conversions.h"
-#include "windows/refusal.h"
-#include "windows/rows.h"
 
 namespace windows {
 namespace {
@@ -22,7 +22,7 @@ QStringList results_of(store::ActivityType type) {
     return {};
 }
 
-QString summary_of(const store::Activity& activity, const Session& session) {
+QString summary_of(const store::Activity& activity, const OpenDatabase& session) {
     QStringList names;
     for (const std::string& contact : activity.contacts)
         names << shown(session.directory().contact_name(contact));
@@ -36,7 +36,7 @@ QString summary_of(const store::Activity& activity, const Session& session) {
 
 } // namespace
 
-ClearDialog::ClearDialog(Session& session, store::Activity activity, QWidget* parent)
+ClearDialog::ClearDialog(OpenDatabase& session, store::Activity activity, QWidget* parent)
     : QDialog(parent), session_(session), activity_(std::move(activity)),
       ui_(std::make_unique<Ui::ClearDialog>()) {
     ui_->setupUi(this);
@@ -95,8 +95,8 @@ void ClearDialog::erase() {
         store::Store& store = session_.store();
         store.together([&] {
             const auto present = store.activity(activity_.id);
-            require(!present || present->revision == activity_.revision,
-                    "Somebody else has changed the activity meanwhile. It hasn't been erased.");
+            model::require(!present || present->revision == activity_.revision,
+                           "Somebody else has changed the activity meanwhile. It hasn't been erased.");
             store.remove_activity(activity_.id);
         });
     });

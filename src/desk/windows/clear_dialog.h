@@ -1,6 +1,6 @@
 #pragma once
 
-#include "windows/session.h"
+#include "desk/windows/open_database.h"
 
 #include <QDialog>
 
@@ -19,7 +19,7 @@ class ClearDialog : public QDialog {
     Q_OBJECT
 
 public:
-    ClearDialog(Session& session, store::Activity activity, QWidget* parent);
+    ClearDialog(OpenDatabase& session, store::Activity activity, QWidget* parent);
     ~ClearDialog() override;
 
     void accept() override;
@@ -31,7 +31,7 @@ private:
     store::Activity typed() const;
     void erase();
 
-    Session& session_;
+    OpenDatabase& session_;
     const store::Activity activity_;
     std::unique_ptr<Ui::ClearDialog> ui_;
 };

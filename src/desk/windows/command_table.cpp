@@ -1,6 +1,6 @@
-#include "windows/command_table.h"
+#include "desk/windows/command_table.h"
 
-#include "windows/refusal.h"
+#include "desk/model/refusal.h"
 
 #include <string>
 #include <utility>
@@ -12,7 +12,7 @@ void CommandTable::add(act::CommandNumber number, Handler handler) { handlers_[n
 void CommandTable::run(act::CommandNumber number, Finished finished) const {
     const auto handler = handlers_.find(number);
     if (handler == handlers_.end())
-        refuse("The contact desk has no command " + std::to_string(static_cast<int>(number)) + ".");
+        model::refuse("The contact desk has no command " + std::to_string(static_cast<int>(number)) + ".");
     handler->second(std::move(finished));
 }
 

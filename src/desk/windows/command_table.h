@@ -1,6 +1,6 @@
 #pragma once
 
-#include "act/application.h"
+#include "core/act/application.h"
 
 #include <functional>
 #include <map>

@@ -1,7 +1,7 @@
-#include "windows/contact_chooser.h"
+#include "desk/windows/contact_chooser.h"
 
-#include "windows/contact_picker.h"
-#include "windows/conversions.h"
+#include "desk/windows/contact_picker.h"
+#include "desk/windows/conversions.h"
 
 #include <QHBoxLayout>
 #include <QVBoxLayout>
@@ -39,7 +39,7 @@ ContactChooser::ContactChooser(QWidget* parent)
     remove_button_->setEnabled(false);
 }
 
-void ContactChooser::show_contacts(const std::vector<std::string>& contacts, const Directory& directory) {
+void ContactChooser::show_contacts(const std::vector<std::string>& contacts, const model::Directory& directory) {
     directory_ = directory;
     list_->clear();
     for (const std::string& contact : contacts)

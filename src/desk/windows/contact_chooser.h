@@ -1,6 +1,6 @@
 #pragma once
 
-#include "windows/directory.h"
+#include "desk/model/directory.h"
 
 #include <QListWidget>
 #include <QPushButton>
@@ -18,14 +18,14 @@ class ContactChooser : public QWidget {
 public:
     explicit ContactChooser(QWidget* parent = nullptr);
 
-    void show_contacts(const std::vector<std::string>& contacts, const Directory& directory);
+    void show_contacts(const std::vector<std::string>& contacts, const model::Directory& directory);
     std::vector<std::string> contacts() const;
 
 private:
     void add(const std::string& contact);
     void pick();
 
-    Directory directory_;
+    model::Directory directory_;
     QListWidget* list_;
     QPushButton* remove_button_;
 };

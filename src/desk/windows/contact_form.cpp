@@ -1,9 +1,9 @@
-#include "windows/contact_form.h"
+#include "desk/windows/contact_form.h"
 
-#include "store/contact_fields.h"
-#include "windows/conversions.h"
-#include "windows/directory.h"
-#include "windows/rows.h"
+#include "desk/model/directory.h"
+#include "desk/store/contact_fields.h"
+#include "desk/windows/conversions.h"
+#include "desk/windows/rows.h"
 
 #include <QLabel>
 
@@ -49,7 +49,7 @@ void ContactForm::add_line(QGridLayout& grid, QWidget* page, int number, int row
 void ContactForm::show_contact(const store::Contact& contact) {
     shown_ = contact;
     for (const auto& [number, line] : lines_) {
-        line->setText(shown(field_of(contact, number)));
+        line->setText(shown(model::field_of(contact, number)));
         line->setCursorPosition(0);
     }
 }

@@ -1,14 +1,14 @@
-#include "windows/contact_list.h"
+#include "desk/windows/contact_list.h"
 
-#include "windows/boxes.h"
-#include "windows/record_table.h"
-#include "windows/rows.h"
+#include "desk/windows/boxes.h"
+#include "desk/windows/record_table.h"
+#include "desk/windows/rows.h"
 
 #include <QVBoxLayout>
 
 namespace windows {
 
-ContactList::ContactList(Session& session, Lookup& lookup, QWidget* parent)
+ContactList::ContactList(OpenDatabase& session, Lookup& lookup, QWidget* parent)
     : QWidget(parent), session_(session), lookup_(lookup), table_(new RecordTable(this)) {
     table_->setObjectName("contact_table");
     table_->setAccessibleName(tr("Contacts"));

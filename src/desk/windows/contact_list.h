@@ -1,6 +1,6 @@
 #pragma once
 
-#include "windows/lookup.h"
+#include "desk/windows/lookup.h"
 
 #include <QWidget>
 
@@ -15,7 +15,7 @@ class ContactList : public QWidget {
     Q_OBJECT
 
 public:
-    ContactList(Session& session, Lookup& lookup, QWidget* parent = nullptr);
+    ContactList(OpenDatabase& session, Lookup& lookup, QWidget* parent = nullptr);
 
 signals:
     void opened(const std::string& contact);
@@ -24,7 +24,7 @@ private:
     void reload();
     void follow(const std::string& contact);
 
-    Session& session_;
+    OpenDatabase& session_;
     Lookup& lookup_;
     RecordTable* table_;
 };

@@ -1,13 +1,13 @@
-#include "windows/contact_page.h"
+#include "desk/windows/contact_page.h"
 
-#include "store/contact_fields.h"
+#include "desk/model/refusal.h"
+#include "desk/store/contact_fields.h"
+#include "desk/windows/activity_list.h"
+#include "desk/windows/boxes.h"
+#include "desk/windows/conversions.h"
+#include "desk/windows/groups_tab.h"
+#include "desk/windows/notes_tab.h"
 #include "ui_contact_page.h"
-#include "windows/activity_list.h"
-#include "windows/boxes.h"
-#include "windows/conversions.h"
-#include "windows/groups_tab.h"
-#include "windows/notes_tab.h"
-#include "windows/refusal.h"
 
 #include <utility>
 
@@ -17,14 +17,14 @@ namespace {
 QString heading_of(const store::Contact& contact) {
     QStringList parts;
     for (const int number : {store::contact_field::name, store::contact_field::company})
-        if (const std::string text = field_of(contact, number); !text.empty())
+        if (const std::string text = model::field_of(contact, number); !text.empty())
             parts << shown(text);
     return parts.join(QStringLiteral(", "));
 }
 
 } // namespace
 
-ContactPage::ContactPage(Session& session, Lookup& lookup, QWidget* parent)
+ContactPage::ContactPage(OpenDatabase& session, Lookup& lookup, QWidget* parent)
     : QWidget(parent), session_(session), lookup_(lookup), ui_(std::make_unique<Ui::ContactPage>()) {
     ui_->setupUi(this);
     ui_->previous_button->setIcon(QIcon(":/desk/previous.svg"));
@@ -53,7 +53,7 @@ void ContactPage::connect_parts() {
     lookup_.before_leaving = [this] { save(); };
     connect(&lookup_, &Lookup::current_changed, this, [this] { attempt(window(), [this] { show_current(); }); });
     connect(&lookup_, &Lookup::changed, this, &ContactPage::show_heading);
-    connect(&session_, &Session::changed, this, [this] { attempt(window(), [this] { show_again(); }); });
+    connect(&session_, &OpenDatabase::changed, this, [this] { attempt(window(), [this] { show_again(); }); });
     connect(form_, &ContactForm::edited, this, &ContactPage::show_heading);
     connect(ui_->save_button, &QPushButton::clicked, this, [this] { attempt(window(), [this] { save(); }); });
     connect(ui_->undo_button, &QPushButton::clicked, this, [this] { attempt(window(), [this] { undo(); }); });
@@ -71,7 +71,7 @@ void ContactPage::set_active_tab(const std::string& name) {
             ui_->tabs->setCurrentIndex(tab);
             return;
         }
-    refuse("The contact page has no tab \"" + name + "\".");
+    model::refuse("The contact page has no tab \"" + name + "\".");
 }
 
 void ContactPage::begin_new() {

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "windows/contact_form.h"
-#include "windows/lookup.h"
+#include "desk/windows/contact_form.h"
+#include "desk/windows/lookup.h"
 
 #include <QWidget>
 
@@ -24,7 +24,7 @@ class ContactPage : public QWidget {
     Q_OBJECT
 
 public:
-    ContactPage(Session& session, Lookup& lookup, QWidget* parent = nullptr);
+    ContactPage(OpenDatabase& session, Lookup& lookup, QWidget* parent = nullptr);
     ~ContactPage() override;
 
     ActivityList& activities() { return *activities_; }
@@ -48,7 +48,7 @@ private:
     void show_contact(const store::Contact& contact);
     void connect_parts();
 
-    Session& session_;
+    OpenDatabase& session_;
     Lookup& lookup_;
     std::unique_ptr<Ui::ContactPage> ui_;
     ContactForm* form_;

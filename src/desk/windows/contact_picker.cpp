@@ -1,9 +1,9 @@
-#include "windows/contact_picker.h"
+#include "desk/windows/contact_picker.h"
 
-#include "store/contact_fields.h"
+#include "desk/store/contact_fields.h"
+#include "desk/windows/conversions.h"
+#include "desk/windows/rows.h"
 #include "ui_contact_picker.h"
-#include "windows/conversions.h"
-#include "windows/rows.h"
 
 #include <QPushButton>
 
@@ -12,14 +12,14 @@ namespace {
 
 bool is_found(const store::Contact& contact, const QString& text) {
     for (const int field : {store::contact_field::name, store::contact_field::company})
-        if (shown(field_of(contact, field)).contains(text, Qt::CaseInsensitive))
+        if (shown(model::field_of(contact, field)).contains(text, Qt::CaseInsensitive))
             return true;
     return false;
 }
 
 } // namespace
 
-ContactPicker::ContactPicker(const Directory& directory, QWidget* parent)
+ContactPicker::ContactPicker(const model::Directory& directory, QWidget* parent)
     : QDialog(parent), directory_(directory), ui_(std::make_unique<Ui::ContactPicker>()) {
     ui_->setupUi(this);
     ui_->contact_table->set_columns(contact_columns(), 0);

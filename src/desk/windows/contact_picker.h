@@ -1,6 +1,6 @@
 #pragma once
 
-#include "windows/directory.h"
+#include "desk/model/directory.h"
 
 #include <QDialog>
 
@@ -20,7 +20,7 @@ class ContactPicker : public QDialog {
 
 public:
     // The directory isn't changed while the dialog is open, or the dialog keeps showing what it was.
-    ContactPicker(const Directory& directory, QWidget* parent);
+    ContactPicker(const model::Directory& directory, QWidget* parent);
     ~ContactPicker() override;
 
     std::vector<std::string> picked() const; // in the order of the table
@@ -29,7 +29,7 @@ private:
     void show_found();
     void show_button();
 
-    const Directory directory_;
+    const model::Directory directory_;
     std::unique_ptr<Ui::ContactPicker> ui_;
 };
 

@@ -1,6 +1,6 @@
-#include "windows/conversions.h"
+#include "desk/windows/conversions.h"
 
-#include "values/text_forms.h"
+#include "core/values/text_forms.h"
 
 #include <QStringList>
 

@@ -1,8 +1,8 @@
-#include "windows/database_commands.h"
+#include "desk/windows/database_commands.h"
 
-#include "windows/boxes.h"
-#include "windows/conversions.h"
-#include "windows/sample_file.h"
+#include "desk/windows/boxes.h"
+#include "desk/windows/conversions.h"
+#include "desk/windows/sample_file.h"
 
 #include <QCoreApplication>
 #include <QFileDialog>
@@ -25,7 +25,7 @@ std::string absolute(const QString& path) { return QFileInfo(path).absoluteFileP
 
 } // namespace
 
-DatabaseCommands::DatabaseCommands(Session& session, Lookup& lookup, QWidget& window, Import import)
+DatabaseCommands::DatabaseCommands(OpenDatabase& session, Lookup& lookup, QWidget& window, Import import)
     : session_(session), lookup_(lookup), window_(window), import_(std::move(import)) {}
 
 void DatabaseCommands::open(const std::string& path) {

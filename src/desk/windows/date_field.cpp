@@ -1,8 +1,8 @@
-#include "windows/date_field.h"
+#include "desk/windows/date_field.h"
 
-#include "values/text_forms.h"
-#include "windows/conversions.h"
-#include "windows/refusal.h"
+#include "core/values/text_forms.h"
+#include "desk/model/refusal.h"
+#include "desk/windows/conversions.h"
 
 #include <QAction>
 #include <QCalendarWidget>
@@ -42,7 +42,7 @@ std::optional<values::DateTime> DateField::date() const {
         return std::nullopt;
     const auto date = read();
     if (!date)
-        refuse("\"" + stored(text()) + "\" is no date.");
+        model::refuse("\"" + stored(text()) + "\" is no date.");
     return date;
 }
 

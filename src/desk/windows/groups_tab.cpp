@@ -1,8 +1,8 @@
-#include "windows/groups_tab.h"
+#include "desk/windows/groups_tab.h"
 
-#include "windows/boxes.h"
-#include "windows/conversions.h"
-#include "windows/membership.h"
+#include "desk/windows/boxes.h"
+#include "desk/windows/conversions.h"
+#include "desk/windows/membership.h"
 
 #include <QSignalBlocker>
 #include <QVBoxLayout>
@@ -11,7 +11,7 @@
 
 namespace windows {
 
-GroupsTab::GroupsTab(Session& session, QWidget* parent)
+GroupsTab::GroupsTab(OpenDatabase& session, QWidget* parent)
     : QWidget(parent), session_(session), list_(new QListWidget(this)) {
     list_->setObjectName("group_ticks");
     list_->setAccessibleName(tr("Groups of the contact"));

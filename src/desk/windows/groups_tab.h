@@ -1,6 +1,6 @@
 #pragma once
 
-#include "windows/session.h"
+#include "desk/windows/open_database.h"
 
 #include <QListWidget>
 #include <QWidget>
@@ -14,7 +14,7 @@ class GroupsTab : public QWidget {
     Q_OBJECT
 
 public:
-    explicit GroupsTab(Session& session, QWidget* parent = nullptr);
+    explicit GroupsTab(OpenDatabase& session, QWidget* parent = nullptr);
 
     void show_contact(const std::string& contact); // empty for none
 
@@ -22,7 +22,7 @@ private:
     void reload();
     void take_tick(const QListWidgetItem& item);
 
-    Session& session_;
+    OpenDatabase& session_;
     QListWidget* list_;
     std::string contact_;
 };

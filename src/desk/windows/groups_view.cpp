@@ -1,17 +1,17 @@
-#include "windows/groups_view.h"
+#include "desk/windows/groups_view.h"
 
+#include "desk/windows/boxes.h"
+#include "desk/windows/contact_picker.h"
+#include "desk/windows/conversions.h"
+#include "desk/windows/membership.h"
+#include "desk/windows/rows.h"
 #include "ui_groups_view.h"
-#include "windows/boxes.h"
-#include "windows/contact_picker.h"
-#include "windows/conversions.h"
-#include "windows/membership.h"
-#include "windows/rows.h"
 
 #include <QInputDialog>
 
 namespace windows {
 
-GroupsView::GroupsView(Session& session, Lookup& lookup, QWidget* parent)
+GroupsView::GroupsView(OpenDatabase& session, Lookup& lookup, QWidget* parent)
     : QWidget(parent), session_(session), lookup_(lookup), ui_(std::make_unique<Ui::GroupsView>()) {
     ui_->setupUi(this);
     ui_->group_table->set_columns(group_columns(), 0);
@@ -21,7 +21,7 @@ GroupsView::GroupsView(Session& session, Lookup& lookup, QWidget* parent)
     connect(ui_->group_table, &RecordTable::chosen, this, &GroupsView::show_members);
     connect(ui_->member_table, &RecordTable::chosen, this, &GroupsView::show_buttons);
     connect(ui_->member_table, &RecordTable::opened, this, &GroupsView::opened);
-    connect(&session, &Session::changed, this, &GroupsView::reload);
+    connect(&session, &OpenDatabase::changed, this, &GroupsView::reload);
     connect_buttons();
     reload();
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "windows/lookup.h"
+#include "desk/windows/lookup.h"
 
 #include <QWidget>
 
@@ -18,7 +18,7 @@ class GroupsView : public QWidget {
     Q_OBJECT
 
 public:
-    GroupsView(Session& session, Lookup& lookup, QWidget* parent = nullptr);
+    GroupsView(OpenDatabase& session, Lookup& lookup, QWidget* parent = nullptr);
     ~GroupsView() override;
 
 signals:
@@ -36,7 +36,7 @@ private:
     void look_up();
     std::string group() const; // the chosen one, empty for none
 
-    Session& session_;
+    OpenDatabase& session_;
     Lookup& lookup_;
     std::unique_ptr<Ui::GroupsView> ui_;
 };

@@ -1,6 +1,6 @@
-#include "windows/lookup.h"
+#include "desk/windows/lookup.h"
 
-#include "values/text.h"
+#include "core/values/text.h"
 
 #include <algorithm>
 #include <utility>
@@ -10,18 +10,18 @@ namespace {
 
 bool has_text(const store::Contact& contact, const std::string& lower_text, const std::vector<int>& fields) {
     return std::any_of(fields.begin(), fields.end(), [&](int field) {
-        return values::contains(values::lower(field_of(contact, field)), lower_text);
+        return values::contains(values::lower(model::field_of(contact, field)), lower_text);
     });
 }
 
 } // namespace
 
-Lookup::Lookup(Session& session) : session_(session) {
-    connect(&session, &Session::opened, this, [this] {
+Lookup::Lookup(OpenDatabase& session) : session_(session) {
+    connect(&session, &OpenDatabase::opened, this, [this] {
         is_everybody_ = true;
         members_.clear();
     });
-    connect(&session, &Session::changed, this, &Lookup::reread);
+    connect(&session, &OpenDatabase::changed, this, &Lookup::reread);
     reread();
 }
 

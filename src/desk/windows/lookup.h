@@ -1,6 +1,6 @@
 #pragma once
 
-#include "windows/session.h"
+#include "desk/windows/open_database.h"
 
 #include <QObject>
 
@@ -16,7 +16,7 @@ class Lookup : public QObject {
     Q_OBJECT
 
 public:
-    explicit Lookup(Session& session);
+    explicit Lookup(OpenDatabase& session);
 
     // Called before another contact is shown; what it throws keeps the present one.
     std::function<void()> before_leaving;
@@ -48,7 +48,7 @@ private:
     void make_current(std::string contact);
     void replace(bool is_everybody, std::set<std::string> members);
 
-    Session& session_;
+    OpenDatabase& session_;
     bool is_everybody_ = true;
     std::set<std::string> members_;
     std::vector<std::string> contacts_;

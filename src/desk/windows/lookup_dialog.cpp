@@ -1,9 +1,9 @@
-#include "windows/lookup_dialog.h"
+#include "desk/windows/lookup_dialog.h"
 
-#include "store/contact_fields.h"
+#include "desk/store/contact_fields.h"
+#include "desk/windows/boxes.h"
+#include "desk/windows/conversions.h"
 #include "ui_lookup_dialog.h"
-#include "windows/boxes.h"
-#include "windows/conversions.h"
 
 #include <QPushButton>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "windows/lookup.h"
+#include "desk/windows/lookup.h"
 
 #include <QDialog>
 

@@ -1,6 +1,6 @@
-#include "windows/mail.h"
+#include "desk/windows/mail.h"
 
-#include "windows/refusal.h"
+#include "desk/model/refusal.h"
 
 #include <QDir>
 #include <QFile>
@@ -57,7 +57,7 @@ QString Mail::keep(const Message& message) {
         file.open(QIODevice::WriteOnly | QIODevice::NewOnly, QFileDevice::ReadOwner | QFileDevice::WriteOwner) &&
         file.write(message.attachment) == message.attachment.size() && file.flush();
     if (!is_written)
-        refuse("The attachment can't be written to " + file.fileName().toStdString() + ".");
+        model::refuse("The attachment can't be written to " + file.fileName().toStdString() + ".");
     return file.fileName();
 }
 

@@ -1,6 +1,6 @@
-#include "windows/membership.h"
+#include "desk/windows/membership.h"
 
-#include "windows/refusal.h"
+#include "desk/model/refusal.h"
 
 #include <algorithm>
 
@@ -8,11 +8,11 @@ namespace windows {
 namespace {
 
 template <typename Change>
-void change_group(Session& session, const std::string& id, Change&& change) {
+void change_group(OpenDatabase& session, const std::string& id, Change&& change) {
     session.store().together([&] {
         auto group = session.store().group(id);
         if (!group)
-            refuse("The group isn't in the database any more.");
+            model::refuse("The group isn't in the database any more.");
         change(group->contacts);
         session.store().update(*group);
     });
@@ -21,7 +21,7 @@ void change_group(Session& session, const std::string& id, Change&& change) {
 
 } // namespace
 
-void add_members(Session& session, const std::string& group, const std::vector<std::string>& contacts) {
+void add_members(OpenDatabase& session, const std::string& group, const std::vector<std::string>& contacts) {
     change_group(session, group, [&](std::vector<std::string>& members) {
         for (const std::string& contact : contacts)
             if (std::find(members.begin(), members.end(), contact) == members.end())
@@ -29,7 +29,7 @@ void add_members(Session& session, const std::string& group, const std::vector<s
     });
 }
 
-void remove_member(Session& session, const std::string& group, const std::string& contact) {
+void remove_member(OpenDatabase& session, const std::string& group, const std::string& contact) {
     change_group(session, group, [&](std::vector<std::string>& members) { std::erase(members, contact); });
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "windows/session.h"
+#include "desk/windows/open_database.h"
 
 #include <string>
 #include <vector>
@@ -9,7 +9,7 @@ namespace windows {
 
 // Puts contacts into a group; those that are in it already stay single. Failures are the store's, and the group
 // may have gone: that fails with 440.
-void add_members(Session& session, const std::string& group, const std::vector<std::string>& contacts);
-void remove_member(Session& session, const std::string& group, const std::string& contact);
+void add_members(OpenDatabase& session, const std::string& group, const std::vector<std::string>& contacts);
+void remove_member(OpenDatabase& session, const std::string& group, const std::string& contact);
 
 } // namespace windows

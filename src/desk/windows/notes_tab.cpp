@@ -1,13 +1,13 @@
-#include "windows/notes_tab.h"
+#include "desk/windows/notes_tab.h"
 
+#include "desk/windows/boxes.h"
+#include "desk/windows/conversions.h"
+#include "desk/windows/rows.h"
 #include "ui_notes_tab.h"
-#include "windows/boxes.h"
-#include "windows/conversions.h"
-#include "windows/rows.h"
 
 namespace windows {
 
-NotesTab::NotesTab(Session& session, QWidget* parent)
+NotesTab::NotesTab(OpenDatabase& session, QWidget* parent)
     : QWidget(parent), session_(session), ui_(std::make_unique<Ui::NotesTab>()) {
     ui_->setupUi(this);
     ui_->note_table->set_columns(note_columns(), -1);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "windows/session.h"
+#include "desk/windows/open_database.h"
 
 #include <QWidget>
 
@@ -19,7 +19,7 @@ class NotesTab : public QWidget {
     Q_OBJECT
 
 public:
-    explicit NotesTab(Session& session, QWidget* parent = nullptr);
+    explicit NotesTab(OpenDatabase& session, QWidget* parent = nullptr);
     ~NotesTab() override;
 
     void show_contact(const std::string& contact); // empty for none
@@ -31,7 +31,7 @@ private:
     void reload();
     void show_note(const std::string& id);
 
-    Session& session_;
+    OpenDatabase& session_;
     std::unique_ptr<Ui::NotesTab> ui_;
     std::string contact_;
     std::vector<store::Note> notes_;

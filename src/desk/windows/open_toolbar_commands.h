@@ -1,14 +1,14 @@
 #pragma once
 
-#include "store/toolbar_commands.h"
-#include "windows/session.h"
+#include "desk/store/toolbar_commands.h"
+#include "desk/windows/open_database.h"
 
 namespace windows {
 
 // The toolbar commands of whichever database is open. Without one every member fails with 440.
 class OpenToolbarCommands : public store::ToolbarCommands {
 public:
-    explicit OpenToolbarCommands(const Session& session) : session_(session) {}
+    explicit OpenToolbarCommands(const OpenDatabase& session) : session_(session) {}
 
     std::vector<store::ToolbarCommand> all() override { return commands().all(); }
     std::vector<store::ToolbarCommand> at(store::CommandPlace place, int view) override {
@@ -29,7 +29,7 @@ public:
 private:
     store::ToolbarCommands& commands() const { return session_.store().toolbar_commands(); }
 
-    const Session& session_;
+    const OpenDatabase& session_;
 };
 
 } // namespace windows

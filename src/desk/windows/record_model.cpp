@@ -1,6 +1,6 @@
-#include "windows/record_model.h"
+#include "desk/windows/record_model.h"
 
-#include "windows/conversions.h"
+#include "desk/windows/conversions.h"
 
 #include <QBrush>
 #include <QColor>

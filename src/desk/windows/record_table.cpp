@@ -1,6 +1,6 @@
-#include "windows/record_table.h"
+#include "desk/windows/record_table.h"
 
-#include "windows/conversions.h"
+#include "desk/windows/conversions.h"
 
 #include <QHeaderView>
 #include <QKeyEvent>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "windows/record_model.h"
+#include "desk/windows/record_model.h"
 
 #include <QSortFilterProxyModel>
 #include <QTableView>

@@ -1,9 +1,9 @@
-#include "windows/recurrence_page.h"
+#include "desk/windows/recurrence_page.h"
 
+#include "desk/model/refusal.h"
+#include "desk/windows/boxes.h"
+#include "desk/windows/conversions.h"
 #include "ui_recurrence_page.h"
-#include "windows/boxes.h"
-#include "windows/conversions.h"
-#include "windows/refusal.h"
 
 #include <QGridLayout>
 
@@ -142,7 +142,7 @@ void RecurrencePage::suggest() {
 
 void RecurrencePage::add_exception() {
     const auto date = ui_->exception_edit->date();
-    require(date.has_value(), "Give the date to leave out.");
+    model::require(date.has_value(), "Give the date to leave out.");
     exceptions_.insert(*date);
     show_exceptions();
 }
@@ -164,7 +164,7 @@ store::Recurrence RecurrencePage::rule() const {
     rule.frequency = ui_->frequency_box->value();
     if (ui_->until_box->isChecked()) {
         rule.until = ui_->until_edit->date();
-        require(rule.until.has_value(), "Give the last date of the series.");
+        model::require(rule.until.has_value(), "Give the last date of the series.");
     }
     if (rule.kind == RecurrenceKind::weekly)
         rule.days_of_week = static_cast<int>(bits_of(weekly_days_));
@@ -173,15 +173,16 @@ store::Recurrence RecurrencePage::rule() const {
     if (rule.kind == RecurrenceKind::weekdays_of_month) {
         rule.days_of_week = static_cast<int>(bits_of(month_weekdays_));
         rule.weeks_of_month = static_cast<int>(bits_of(month_weeks_));
-        require(rule.weeks_of_month != 0, "Choose at least one week of the month in which the activity repeats.");
+        model::require(rule.weeks_of_month != 0,
+                       "Choose at least one week of the month in which the activity repeats.");
     }
     const bool is_by_weekday =
         rule.kind == RecurrenceKind::weekly || rule.kind == RecurrenceKind::weekdays_of_month;
-    require(!is_by_weekday || rule.days_of_week != 0,
-            "Choose at least one weekday on which the activity repeats.");
-    require(rule.kind != RecurrenceKind::days_of_month || rule.days_of_month != 0,
-            "Choose at least one day of the month on which the activity repeats.");
-    require(!rule.until || rule.until->date() >= start_.date(), "The series ends before it begins.");
+    model::require(!is_by_weekday || rule.days_of_week != 0,
+                   "Choose at least one weekday on which the activity repeats.");
+    model::require(rule.kind != RecurrenceKind::days_of_month || rule.days_of_month != 0,
+                   "Choose at least one day of the month on which the activity repeats.");
+    model::require(!rule.until || rule.until->date() >= start_.date(), "The series ends before it begins.");
     return rule;
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "store/records.h"
-#include "values/locale.h"
+#include "core/values/locale.h"
+#include "desk/store/records.h"
 
 #include <QCheckBox>
 #include <QWidget>

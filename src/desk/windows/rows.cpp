@@ -1,7 +1,7 @@
-#include "windows/rows.h"
+#include "desk/windows/rows.h"
 
-#include "store/contact_fields.h"
-#include "windows/conversions.h"
+#include "desk/store/contact_fields.h"
+#include "desk/windows/conversions.h"
 
 #include <QStringList>
 
@@ -13,7 +13,7 @@ namespace field = store::contact_field;
 constexpr int contact_list_fields[] = {field::company, field::name,   field::title, field::phone,
                                        field::e_mail,  field::mobile, field::city,  field::country};
 
-QString names_of(const std::vector<std::string>& contacts, const Directory& directory) {
+QString names_of(const std::vector<std::string>& contacts, const model::Directory& directory) {
     QStringList names;
     for (const std::string& contact : contacts)
         names << shown(directory.contact_name(contact));
@@ -38,7 +38,8 @@ Cell time_cell(const store::Activity& activity, const values::Locale& locale) {
     return {time_text(*activity.start, locale), qlonglong{activity.start->time().seconds()}};
 }
 
-Row activity_row(const store::Activity& activity, const Directory& directory, const values::Locale& locale) {
+Row activity_row(const store::Activity& activity, const model::Directory& directory,
+                 const values::Locale& locale) {
     return {activity.id,
             {{type_name(activity.type), {}, type_icon(activity.type)},
              date_cell(activity, locale),
@@ -61,7 +62,7 @@ std::vector<Column> contact_columns() {
     return columns;
 }
 
-std::vector<Row> contact_rows(const std::vector<std::string>& contacts, const Directory& directory) {
+std::vector<Row> contact_rows(const std::vector<std::string>& contacts, const model::Directory& directory) {
     std::vector<Row> rows;
     for (const std::string& id : contacts) {
         const store::Contact* contact = directory.contact(id);
@@ -69,7 +70,7 @@ std::vector<Row> contact_rows(const std::vector<std::string>& contacts, const Di
             continue;
         Row row{id, {}};
         for (const int number : contact_list_fields)
-            row.cells.push_back({one_line(field_of(*contact, number))});
+            row.cells.push_back({one_line(model::field_of(*contact, number))});
         rows.push_back(std::move(row));
     }
     return rows;
@@ -79,7 +80,7 @@ std::vector<Column> activity_columns() {
     return {{"Type"}, {"Date"}, {"Time"}, {"Duration"}, {"Priority"}, {"Regarding"}, {"With"}, {"For"}, {"Group"}};
 }
 
-std::vector<Row> activity_rows(const std::vector<store::Activity>& activities, const Directory& directory,
+std::vector<Row> activity_rows(const std::vector<store::Activity>& activities, const model::Directory& directory,
                                const values::Locale& locale) {
     std::vector<Row> rows;
     rows.reserve(activities.size());

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "store/records.h"
-#include "values/locale.h"
-#include "windows/directory.h"
-#include "windows/record_model.h"
+#include "core/values/locale.h"
+#include "desk/model/directory.h"
+#include "desk/store/records.h"
+#include "desk/windows/record_model.h"
 
 #include <string>
 #include <vector>
@@ -13,11 +13,11 @@ namespace windows {
 
 std::vector<Column> contact_columns();
 // Unknown ids are left out.
-std::vector<Row> contact_rows(const std::vector<std::string>& contacts, const Directory& directory);
+std::vector<Row> contact_rows(const std::vector<std::string>& contacts, const model::Directory& directory);
 
 inline constexpr int date_column = 1; // of the activities
 std::vector<Column> activity_columns();
-std::vector<Row> activity_rows(const std::vector<store::Activity>& activities, const Directory& directory,
+std::vector<Row> activity_rows(const std::vector<store::Activity>& activities, const model::Directory& directory,
                                const values::Locale& locale);
 
 std::vector<Column> note_columns();

@@ -1,21 +1,21 @@
-#include "windows/running_desk.h"
+#include "desk/windows/running_desk.h"
 
-#include "windows/activity_commands.h"
-#include "windows/activity_list.h"
-#include "windows/contact_page.h"
+#include "desk/windows/activity_commands.h"
+#include "desk/windows/activity_list.h"
+#include "desk/windows/contact_page.h"
 
 #include <filesystem>
 
 namespace windows {
 
-RunningDesk::RunningDesk(Session& session, Lookup& lookup, ContactPage& page, const CommandTable& commands,
+RunningDesk::RunningDesk(OpenDatabase& session, Lookup& lookup, ContactPage& page, const CommandTable& commands,
                          ActivityCommands& activity_commands)
     : session_(session), lookup_(lookup), page_(page), commands_(commands), activity_commands_(activity_commands) {
     activity_commands_.on_awaited_dialog = [this] {
         if (on_activity_dialog)
             on_activity_dialog();
     };
-    QObject::connect(&session, &Session::closed, &page, [this] {
+    QObject::connect(&session, &OpenDatabase::closed, &page, [this] {
         if (on_database_closed)
             on_database_closed();
     });
@@ -25,7 +25,7 @@ std::string RunningDesk::database_path() const {
     return session_.is_open() ? std::filesystem::absolute(session_.path()).string() : std::string();
 }
 
-service::ActivityDialog* RunningDesk::activity_dialog() { return activity_commands_.awaited_dialog(); }
+model::ActivityDialog* RunningDesk::activity_dialog() { return activity_commands_.awaited_dialog(); }
 
 void RunningDesk::run_command(act::CommandNumber number, std::function<void()> finished) {
     commands_.run(number, std::move(finished));
@@ -50,11 +50,11 @@ std::string RunningDesk::go_to(const std::string& contact) {
 }
 
 act::ListFilter RunningDesk::activity_filter() const {
-    return codes_of(page_.activities().filter(), session_.locale());
+    return model::codes_of(page_.activities().filter(), session_.locale());
 }
 
 void RunningDesk::set_activity_filter(const act::ListFilter& filter) {
-    page_.activities().set_filter(filter_of(filter, session_.locale()));
+    page_.activities().set_filter(model::filter_of(filter, session_.locale()));
 }
 
 int RunningDesk::activity_count() const { return page_.activities().row_count(); }

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "service/desk.h"
-#include "windows/command_table.h"
-#include "windows/lookup.h"
+#include "desk/model/desk.h"
+#include "desk/windows/command_table.h"
+#include "desk/windows/lookup.h"
 
 namespace windows {
 
@@ -10,14 +10,14 @@ class ActivityCommands;
 class ContactPage;
 
 // The windows as other programs see them.
-class RunningDesk : public service::Desk, private service::ContactView {
+class RunningDesk : public model::Desk, private model::ContactView {
 public:
-    RunningDesk(Session& session, Lookup& lookup, ContactPage& page, const CommandTable& commands,
+    RunningDesk(OpenDatabase& session, Lookup& lookup, ContactPage& page, const CommandTable& commands,
                 ActivityCommands& activity_commands);
 
     std::string database_path() const override;
-    service::ContactView& contact_view() override { return *this; }
-    service::ActivityDialog* activity_dialog() override;
+    model::ContactView& contact_view() override { return *this; }
+    model::ActivityDialog* activity_dialog() override;
     void run_command(act::CommandNumber number, std::function<void()> finished) override;
 
 private:
@@ -32,7 +32,7 @@ private:
     store::Activity activity(int row) const override;
     void select_activity(int row, bool selected) override;
 
-    Session& session_;
+    OpenDatabase& session_;
     Lookup& lookup_;
     ContactPage& page_;
     const CommandTable& commands_;

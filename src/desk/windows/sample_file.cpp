@@ -1,7 +1,7 @@
-#include "windows/sample_file.h"
+#include "desk/windows/sample_file.h"
 
-#include "store/sample.h"
-#include "store/store.h"
+#include "desk/store/sample.h"
+#include "desk/store/store.h"
 
 #include <filesystem>
 

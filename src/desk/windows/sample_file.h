@@ -1,6 +1,6 @@
 #pragma once
 
-#include "values/date_time.h"
+#include "core/values/date_time.h"
 
 #include <string>
 

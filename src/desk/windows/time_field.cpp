@@ -1,8 +1,8 @@
-#include "windows/time_field.h"
+#include "desk/windows/time_field.h"
 
-#include "values/text_forms.h"
-#include "windows/conversions.h"
-#include "windows/refusal.h"
+#include "core/values/text_forms.h"
+#include "desk/model/refusal.h"
+#include "desk/windows/conversions.h"
 
 namespace windows {
 
@@ -32,7 +32,7 @@ values::DateTime TimeField::time() const {
         return given_;
     const auto moment = values::parse_date(stored(text), *locale_);
     if (!moment || moment->date() != values::DateTime())
-        refuse("\"" + stored(text) + "\" is no time of day.");
+        model::refuse("\"" + stored(text) + "\" is no time of day.");
     return moment->time();
 }
 

@@ -1,4 +1,4 @@
-#include "dialogs/frm_descr.h"
+#include "ui/dialogs/frm_descr.h"
 
 #include "ui_frmDescr.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "host/guard.h"
-#include "host/shell.h"
+#include "core/host/guard.h"
+#include "core/host/shell.h"
 
 #include <QDialog>
 

@@ -1,6 +1,6 @@
-#include "dialogs/frm_holidays.h"
+#include "ui/dialogs/frm_holidays.h"
 
-#include "dialogs/frm_descr.h"
+#include "ui/dialogs/frm_descr.h"
 #include "ui_frmHolidays.h"
 
 namespace ui {
@@ -13,7 +13,7 @@ std::unique_ptr<Ui::frmHolidays> make_controls(QDialog& form) {
     return controls;
 }
 
-QTreeWidgetItem* item_of(const shell::Holiday& holiday) {
+QTreeWidgetItem* item_of(const grid::Holiday& holiday) {
     return new QTreeWidgetItem(
         {QString::fromStdString(holiday.date), QString::fromStdString(holiday.description)});
 }
@@ -78,15 +78,15 @@ void frmHolidays::set_dtpHol(values::DateTime date) {
     controls_->dtpHol->setDate({date.year(), date.month(), date.day()});
 }
 
-void frmHolidays::fill_lvwHol(std::span<const shell::Holiday> holidays) {
+void frmHolidays::fill_lvwHol(std::span<const grid::Holiday> holidays) {
     QList<QTreeWidgetItem*> items;
-    for (const shell::Holiday& holiday : holidays)
+    for (const grid::Holiday& holiday : holidays)
         items << item_of(holiday);
     controls_->lvwHol->addTopLevelItems(items);
     controls_->lvwHol->setCurrentItem(controls_->lvwHol->topLevelItem(0));
 }
 
-void frmHolidays::insert_into_lvwHol(std::size_t place, const shell::Holiday& holiday) {
+void frmHolidays::insert_into_lvwHol(std::size_t place, const grid::Holiday& holiday) {
     QTreeWidgetItem* item = item_of(holiday);
     controls_->lvwHol->insertTopLevelItem(static_cast<int>(place), item);
     controls_->lvwHol->scrollToItem(item);

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "host/shell.h"
-#include "shell/days_off.h"
-#include "shell/holidays_form.h"
+#include "core/forms/days_off.h"
+#include "core/forms/holidays_form.h"
+#include "core/host/shell.h"
 
 #include <QDialog>
 
@@ -18,11 +18,11 @@ class frmHolidays;
 namespace ui {
 
 // The weekly days off and the holidays. It raises its events on the core's procedures and shows what they set.
-class frmHolidays : public QDialog, private shell::HolidaysForm {
+class frmHolidays : public QDialog, private forms::HolidaysForm {
 public:
     // What the form's procedures need besides the form.
     struct Needs {
-        shell::HolidayFile& file;
+        grid::HolidayFile& file;
         grid::Background& background;
         const grid::Layout& layout;
         settings::IniLib& ini;
@@ -47,8 +47,8 @@ private:
     void set_chkday(int weekday, bool checked) override;
     values::DateTime dtpHol() const override;
     void set_dtpHol(values::DateTime date) override;
-    void fill_lvwHol(std::span<const shell::Holiday> holidays) override;
-    void insert_into_lvwHol(std::size_t place, const shell::Holiday& holiday) override;
+    void fill_lvwHol(std::span<const grid::Holiday> holidays) override;
+    void insert_into_lvwHol(std::size_t place, const grid::Holiday& holiday) override;
     void remove_from_lvwHol(std::size_t place) override;
     std::optional<std::size_t> selected_in_lvwHol() const override;
     void set_cmdOK_enabled(bool enabled) override;
@@ -58,7 +58,7 @@ private:
     Needs need_;
     std::unique_ptr<Ui::frmHolidays> controls_;
     const std::vector<QCheckBox*> chkday_; // Sunday first
-    shell::DaysOff procedures_;
+    forms::DaysOff procedures_;
 };
 
 } // namespace ui

@@ -1,8 +1,8 @@
-#include "dialogs/frm_mini_calendar.h"
+#include "ui/dialogs/frm_mini_calendar.h"
 
-#include "grid_widget/grid_style.h"
+#include "core/values/date_time.h"
+#include "ui/picture/style.h"
 #include "ui_frmMiniCalendar.h"
-#include "values/date_time.h"
 
 #include <QGuiApplication>
 #include <QKeyEvent>
@@ -16,7 +16,7 @@
 
 namespace ui {
 
-namespace title_strip = shell::title_strip;
+namespace title_strip = forms::title_strip;
 
 namespace {
 
@@ -37,7 +37,7 @@ QPoint place_in_view(const QRect& window, const QList<QRect>& screens) {
             fitted(window.y(), screen.top(), screen.bottom() + 1 - window.height())};
 }
 
-frmMiniCalendar::frmMiniCalendar(shell::JumpDates& dates, settings::PerUserStore& store,
+frmMiniCalendar::frmMiniCalendar(forms::JumpDates& dates, settings::PerUserStore& store,
                                  const host::Guard& guarded, QWidget* parent)
     : QDialog(parent, Qt::Dialog | Qt::FramelessWindowHint), controls_(std::make_unique<Ui::frmMiniCalendar>()),
       dates_(dates), store_(store), guarded_(guarded) {
@@ -56,20 +56,21 @@ void frmMiniCalendar::Form_Load() {
         step = 10;
         controls_->mvwMonth->setSelectedDate(date_of(dates_.datCurrentNow));
         step = 20;
-        const shell::MiniCalendarPlace place = shell::stored_mini_calendar_place(store_);
+        const forms::MiniCalendarPlace place = forms::stored_mini_calendar_place(store_);
         step = 30;
         QList<QRect> screens;
         for (const QScreen* screen : QGuiApplication::screens())
             screens << screen->geometry();
-        move(place_in_view({pixels(place.left), pixels(place.top), sizeHint().width(), sizeHint().height()},
-                           screens));
+        move(place_in_view(
+            {picture::pixels(place.left), picture::pixels(place.top), sizeHint().width(), sizeHint().height()},
+            screens));
     });
 }
 
 void frmMiniCalendar::Form_Unload() {
     guarded_("in frmMiniCalendar: Sub Form_Unload - Line # ", [&](host::Step& step) {
         step = 10;
-        shell::store_mini_calendar_place({.top = twips(y()), .left = twips(x())}, store_);
+        forms::store_mini_calendar_place({.top = picture::twips(y()), .left = picture::twips(x())}, store_);
     });
 }
 

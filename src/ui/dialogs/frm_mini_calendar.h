@@ -1,9 +1,9 @@
 #pragma once
 
-#include "host/guard.h"
-#include "settings/per_user_store.h"
-#include "shell/jump_dates.h"
-#include "shell/mini_calendar.h"
+#include "core/forms/jump_dates.h"
+#include "core/forms/mini_calendar.h"
+#include "core/host/guard.h"
+#include "core/settings/per_user_store.h"
 
 #include <QDialog>
 #include <QList>
@@ -22,7 +22,7 @@ namespace ui {
 // drags it; a day or the strip's close box closes it, and nothing else does. It opens where it was left.
 class frmMiniCalendar : public QDialog {
 public:
-    frmMiniCalendar(shell::JumpDates& dates, settings::PerUserStore& store, const host::Guard& guarded,
+    frmMiniCalendar(forms::JumpDates& dates, settings::PerUserStore& store, const host::Guard& guarded,
                     QWidget* parent);
     ~frmMiniCalendar() override;
 
@@ -50,10 +50,10 @@ private:
     void begin_drag(QPoint place);
 
     std::unique_ptr<Ui::frmMiniCalendar> controls_;
-    shell::JumpDates& dates_;
+    forms::JumpDates& dates_;
     settings::PerUserStore& store_;
     const host::Guard& guarded_;
-    shell::title_strip::Rectangle close_box_;
+    forms::title_strip::Rectangle close_box_;
     QColor title_color_;
     std::optional<QPoint> drag_offset_; // from the window's corner, while the window itself follows the mouse
 };

@@ -1,17 +1,17 @@
-#include "grid_widget/accessible_cell.h"
+#include "ui/grid_widget/accessible_cell.h"
 
-#include "grid_widget/selection_range.h"
+#include "core/table/selection_range.h"
 
 namespace ui {
 
-QString spoken_text(const grid::GridModel& model, int row, int col) {
+QString spoken_text(const table::GridModel& model, int row, int col) {
     QString text = QString::fromStdString(model.TextMatrix(row, col));
     text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
     text.replace(QLatin1Char('\r'), QLatin1Char('\n'));
     return text.trimmed();
 }
 
-int titled_row(const grid::GridModel& model, int row, int col) {
+int titled_row(const table::GridModel& model, int row, int col) {
     for (int above = row; above >= model.FixedRows(); --above)
         if (!model.TextMatrix(above, col).empty())
             return above;
@@ -62,7 +62,7 @@ void* AccessibleCell::interface_cast(QAccessible::InterfaceType type) {
     return type == QAccessible::TableCellInterface ? static_cast<QAccessibleTableCellInterface*>(this) : nullptr;
 }
 
-bool AccessibleCell::isSelected() const { return isValid() && is_selected(model(), row_, col_); }
+bool AccessibleCell::isSelected() const { return isValid() && table::is_selected(model(), row_, col_); }
 
 QList<QAccessibleInterface*> AccessibleCell::columnHeaderCells() const {
     QList<QAccessibleInterface*> headers;

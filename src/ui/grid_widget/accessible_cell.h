@@ -1,6 +1,6 @@
 #pragma once
 
-#include "grid_widget/grid_widget.h"
+#include "ui/grid_widget/grid_widget.h"
 
 #include <QAccessible>
 #include <QAccessibleTableCellInterface>
@@ -37,7 +37,7 @@ public:
     QAccessibleInterface* table() const override { return parent(); }
 
 private:
-    const grid::GridModel& model() const { return widget_->model(); }
+    const table::GridModel& model() const { return widget_->model(); }
     QAccessibleInterface* cell_at(int row, int col) const;
 
     QPointer<GridWidget> widget_;
@@ -45,8 +45,8 @@ private:
 };
 
 // What a cell's text says: without the blanks that make room for its picture.
-QString spoken_text(const grid::GridModel& model, int row, int col);
+QString spoken_text(const table::GridModel& model, int row, int col);
 // The row whose title stands for the row: the nearest one at or above it with a text in that column.
-int titled_row(const grid::GridModel& model, int row, int col);
+int titled_row(const table::GridModel& model, int row, int col);
 
 } // namespace ui

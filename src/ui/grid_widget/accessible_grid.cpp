@@ -1,8 +1,8 @@
-#include "grid_widget/accessible_grid.h"
+#include "ui/grid_widget/accessible_grid.h"
 
-#include "grid_widget/accessible_cell.h"
-#include "grid_widget/grid_widget.h"
-#include "grid_widget/selection_range.h"
+#include "core/table/selection_range.h"
+#include "ui/grid_widget/accessible_cell.h"
+#include "ui/grid_widget/grid_widget.h"
 
 #include <QAccessibleTableInterface>
 #include <QAccessibleWidget>
@@ -16,7 +16,7 @@ namespace ui {
 
 namespace {
 
-QList<int> lines(const LineRange& range) {
+QList<int> lines(const table::LineRange& range) {
     QList<int> all(range.count());
     std::iota(all.begin(), all.end(), range.first);
     return all;
@@ -82,25 +82,25 @@ public:
     }
 
     int selectedCellCount() const override {
-        return selected_rows(model()).count() * selected_cols(model()).count();
+        return table::selected_rows(model()).count() * table::selected_cols(model()).count();
     }
     QList<QAccessibleInterface*> selectedCells() const override {
         QList<QAccessibleInterface*> cells;
-        for (const int row : lines(selected_rows(model())))
-            for (const int col : lines(selected_cols(model())))
+        for (const int row : lines(table::selected_rows(model())))
+            for (const int col : lines(table::selected_cols(model())))
                 cells.append(cellAt(row, col));
         return cells;
     }
     // A row or column counts as selected when all of it but its titles is.
     QList<int> selectedRows() const override {
-        const LineRange cols = selected_cols(model());
+        const table::LineRange cols = table::selected_cols(model());
         const bool from_end_to_end = cols.first <= model().FixedCols() && cols.last == columnCount() - 1;
-        return from_end_to_end ? lines(selected_rows(model())) : QList<int>();
+        return from_end_to_end ? lines(table::selected_rows(model())) : QList<int>();
     }
     QList<int> selectedColumns() const override {
-        const LineRange rows = selected_rows(model());
+        const table::LineRange rows = table::selected_rows(model());
         const bool from_end_to_end = rows.first <= model().FixedRows() && rows.last == rowCount() - 1;
-        return from_end_to_end ? lines(selected_cols(model())) : QList<int>();
+        return from_end_to_end ? lines(table::selected_cols(model())) : QList<int>();
     }
     int selectedRowCount() const override { return static_cast<int>(selectedRows().size()); }
     int selectedColumnCount() const override { return static_cast<int>(selectedColumns().size()); }
@@ -119,7 +119,7 @@ public:
     }
 
 private:
-    const grid::GridModel& model() const { return widget_.model(); }
+    const table::GridModel& model() const { return widget_.model(); }
     bool holds(int row, int col) const { return model().rows().holds(row) && model().columns().holds(col); }
     void forget_cells() {
         for (const QAccessible::Id id : std::as_const(cells_))
@@ -169,11 +169,16 @@ QAccessibleInterface* make_accessible(const QString&, QObject* object) {
 
 } // namespace
 
+QRect selected_cells(const table::GridModel& model) {
+    const table::LineRange rows = table::selected_rows(model), cols = table::selected_cols(model);
+    return {cols.first, rows.first, cols.count(), rows.count()};
+}
+
 void install_grid_accessibility() { QAccessible::installFactory(make_accessible); }
 
 void tell_screen_readers(GridWidget& widget, const GridNews& news,
                          const std::function<void(QAccessibleEvent*)>& tell) {
-    const grid::GridModel& model = widget.model();
+    const table::GridModel& model = widget.model();
     if (news.size || news.cells) {
         QAccessibleTableModelChangeEvent event(&widget, news.size ? QAccessibleTableModelChangeEvent::ModelReset
                                                                   : QAccessibleTableModelChangeEvent::DataChanged);

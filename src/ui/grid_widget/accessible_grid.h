@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/table/grid_model.h"
+
 #include <QAccessible>
 #include <QRect>
 
@@ -9,6 +11,9 @@
 namespace ui {
 
 class GridWidget;
+
+// The columns and rows of a grid's selection.
+QRect selected_cells(const table::GridModel& model);
 
 // What a turn of the event loop has changed.
 struct GridNews {

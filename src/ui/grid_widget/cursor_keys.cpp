@@ -1,4 +1,4 @@
-#include "grid_widget/cursor_keys.h"
+#include "ui/grid_widget/cursor_keys.h"
 
 #include <limits>
 
@@ -9,7 +9,7 @@ namespace {
 constexpr int all_lines = std::numeric_limits<int>::max();
 
 // The line so many visible ones further, or the last one on the way; the present one when there is none.
-int stepped(const grid::Axis& axis, int from, int steps) {
+int stepped(const table::Axis& axis, int from, int steps) {
     const int direction = steps < 0 ? -1 : 1;
     const int missing_before = axis.fixed() - 1;
     int reached = from;
@@ -25,14 +25,14 @@ int stepped(const grid::Axis& axis, int from, int steps) {
     return reached;
 }
 
-int first_line(const grid::Axis& axis, int otherwise) {
+int first_line(const table::Axis& axis, int otherwise) {
     const int line = stepped(axis, axis.fixed() - 1, 1);
     return line < axis.fixed() ? otherwise : line;
 }
 
 } // namespace
 
-bool move_cursor(grid::GridModel& model, int key, Qt::KeyboardModifiers modifiers, int rows_in_page) {
+bool move_cursor(table::GridModel& model, int key, Qt::KeyboardModifiers modifiers, int rows_in_page) {
     const bool extends = modifiers & Qt::ShiftModifier;
     const bool over_all = modifiers & Qt::ControlModifier;
     int row = extends ? model.RowSel() : model.Row();

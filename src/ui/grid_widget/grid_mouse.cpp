@@ -1,4 +1,4 @@
-#include "grid_widget/grid_widget.h"
+#include "ui/grid_widget/grid_widget.h"
 
 #include <QCursor>
 #include <QFile>
@@ -38,11 +38,11 @@ QCursor drop_cursor(bool permitted, qreal ratio) {
     if (!file.open(QIODevice::ReadOnly))
         return permitted ? Qt::DragMoveCursor : Qt::ForbiddenCursor;
     const QPoint tip = permitted ? QPoint(2, 2) : QPoint(16, 16);
-    return QCursor(drawn_pixmap(file.readAll(), ratio), tip.x(), tip.y());
+    return QCursor(picture::drawn_pixmap(file.readAll(), ratio), tip.x(), tip.y());
 }
 
 // The shown line nearest to a place, titles left out; -1 if there is none.
-int nearest_line(const PixelLines& lines, int place) {
+int nearest_line(const picture::PixelLines& lines, int place) {
     const auto& shown = lines.shown();
     const auto body = std::lower_bound(shown.begin(), shown.end(), lines.fixed());
     const auto found = std::find_if(body, shown.end(), [&](int line) { return place < lines.end(line); });

@@ -1,9 +1,9 @@
-#include "grid_widget/grid_widget.h"
+#include "ui/grid_widget/grid_widget.h"
 
-#include "grid_widget/accessible_grid.h"
-#include "grid_widget/cursor_keys.h"
-#include "grid_widget/grid_style.h"
-#include "grid_widget/selection_range.h"
+#include "core/table/selection_range.h"
+#include "ui/grid_widget/accessible_grid.h"
+#include "ui/grid_widget/cursor_keys.h"
+#include "ui/picture/style.h"
 
 #include <QAccessible>
 #include <QContextMenuEvent>
@@ -16,7 +16,7 @@ namespace ui {
 namespace {
 
 // The line at a position among the scrollable ones; the present one when there is none.
-int scrolled_line(const PixelLines& lines, int position, int present) {
+int scrolled_line(const picture::PixelLines& lines, int position, int present) {
     const auto& scrollable = lines.scrollable();
     return position >= 0 && position < static_cast<int>(scrollable.size())
                ? scrollable[static_cast<std::size_t>(position)]
@@ -25,7 +25,7 @@ int scrolled_line(const PixelLines& lines, int position, int present) {
 
 } // namespace
 
-GridWidget::GridWidget(grid::GridModel& model, QWidget* parent)
+GridWidget::GridWidget(table::GridModel& model, QWidget* parent)
     : QAbstractScrollArea(parent), model_(model), painter_(font()), sizer_(model),
       told_size_(model.Cols(), model.Rows()), told_current_(model.Col(), model.Row()),
       told_selection_(selected_cells(model)) {
@@ -52,17 +52,17 @@ void GridWidget::unlock_updates() {
     viewport()->setUpdatesEnabled(model_.Redraw());
 }
 
-void GridWidget::grid_changed(grid::GridChange change) {
+void GridWidget::grid_changed(table::GridChange change) {
     switch (change) {
-    case grid::GridChange::cells:
+    case table::GridChange::cells:
         cells_changed_ = true;
         break;
-    case grid::GridChange::shape:
+    case table::GridChange::shape:
         shape_changed_ = lines_are_stale_ = true;
         break;
-    case grid::GridChange::current:
+    case table::GridChange::current:
         break;
-    case grid::GridChange::redraw:
+    case table::GridChange::redraw:
         viewport()->setUpdatesEnabled(!is_locked_ && model_.Redraw());
         break;
     }
@@ -110,23 +110,23 @@ void GridWidget::tell(const GridNews& news) {
 void GridWidget::refresh_lines() const {
     if (!lines_are_stale_)
         return;
-    rows_ = PixelLines(model_.rows(), viewport()->height());
-    cols_ = PixelLines(model_.columns(), viewport()->width());
+    rows_ = picture::PixelLines(model_.rows(), viewport()->height());
+    cols_ = picture::PixelLines(model_.columns(), viewport()->width());
     lines_are_stale_ = false;
 }
 
-const PixelLines& GridWidget::rows() const {
+const picture::PixelLines& GridWidget::rows() const {
     refresh_lines();
     return rows_;
 }
 
-const PixelLines& GridWidget::cols() const {
+const picture::PixelLines& GridWidget::cols() const {
     refresh_lines();
     return cols_;
 }
 
 void GridWidget::sync_scroll_bars() {
-    const auto sync = [](QScrollBar* bar, const PixelLines& lines) {
+    const auto sync = [](QScrollBar* bar, const picture::PixelLines& lines) {
         bar->setRange(0, lines.last_scroll_position());
         bar->setPageStep(lines.lines_in_view());
         bar->setValue(lines.scroll_position());
@@ -166,11 +166,12 @@ QPoint GridWidget::to_twips(QPoint place) const {
 void GridWidget::paintEvent(QPaintEvent*) {
     QPainter painter(viewport());
     painter_.paint(painter, viewport()->rect(), model_, rows(), cols(),
-                   hasFocus() ? Marks::with_focus : Marks::without_focus);
+                   hasFocus() ? picture::Marks::with_focus : picture::Marks::without_focus);
 }
 
 QSize GridWidget::viewportSizeHint() const {
-    return {PixelLines::whole(model_.columns()).total_end(), PixelLines::whole(model_.rows()).total_end()};
+    return {picture::PixelLines::whole(model_.columns()).total_end(),
+            picture::PixelLines::whole(model_.rows()).total_end()};
 }
 
 void GridWidget::resizeEvent(QResizeEvent*) {

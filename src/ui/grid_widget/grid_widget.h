@@ -1,9 +1,9 @@
 #pragma once
 
-#include "grid/grid_model.h"
-#include "grid_widget/grid_painter.h"
-#include "grid_widget/line_sizer.h"
-#include "grid_widget/pixel_lines.h"
+#include "core/table/grid_model.h"
+#include "ui/grid_widget/line_sizer.h"
+#include "ui/picture/grid_painter.h"
+#include "ui/picture/pixel_lines.h"
 
 #include <QAbstractScrollArea>
 #include <QTimer>
@@ -20,13 +20,13 @@ struct GridNews;
 //
 // Places that signals carry are twips on the screen, as the model's RowPos and ColPos count them. Buttons are
 // 1 left, 2 right, 4 middle; shift is the sum of 1 Shift, 2 Ctrl, 4 Alt.
-class GridWidget : public QAbstractScrollArea, private grid::GridObserver {
+class GridWidget : public QAbstractScrollArea, private table::GridObserver {
     Q_OBJECT
 public:
-    explicit GridWidget(grid::GridModel& model, QWidget* parent = nullptr);
+    explicit GridWidget(table::GridModel& model, QWidget* parent = nullptr);
     ~GridWidget() override;
 
-    const grid::GridModel& model() const { return model_; }
+    const table::GridModel& model() const { return model_; }
 
     // Nothing is painted from lock to unlock. Locks aren't counted.
     void lock_updates();
@@ -77,15 +77,15 @@ protected:
     virtual void tell(const GridNews& news);
 
 private:
-    void grid_changed(grid::GridChange change) override;
+    void grid_changed(table::GridChange change) override;
     // Brings scroll bars, screen and screen readers up to date with the model, in the event loop's next turn.
     void settle_soon();
     void settle();
     void tell_what_is_new();
     void sync_scroll_bars();
     void scroll_to(int top, int left); // the first row and column behind the titles
-    const PixelLines& rows() const;
-    const PixelLines& cols() const;
+    const picture::PixelLines& rows() const;
+    const picture::PixelLines& cols() const;
     void refresh_lines() const;
     QPoint to_twips(QPoint place) const;
 
@@ -102,15 +102,15 @@ private:
     bool show_current_cell();
     void request_menu();
 
-    grid::GridModel& model_;
-    GridPainter painter_;
+    table::GridModel& model_;
+    picture::GridPainter painter_;
     LineSizer sizer_;
     QTimer scroll_timer_; // while a selection is drawn beyond the view or something is dragged to its edge
     QPoint pointer_;      // where the pointer was last, in the viewport
     QRect dragged_cell_;  // where the cell lies that is dragged, until the pointer has left it
     std::optional<bool> shown_permission_; // what the pointer says while something is dragged
     QPoint bars_at_drag_;                  // the scroll bars' values when the drag began
-    mutable PixelLines rows_, cols_;
+    mutable picture::PixelLines rows_, cols_;
     mutable bool lines_are_stale_ = true;
     // What screen readers know of, in columns and rows.
     QSize told_size_;

@@ -1,13 +1,13 @@
-#include "grid_widget/line_sizer.h"
+#include "ui/grid_widget/line_sizer.h"
 
-#include "grid_widget/grid_style.h"
+#include "ui/picture/style.h"
 
 #include <algorithm>
 
 namespace ui {
 
-std::optional<LineSizer::Border> LineSizer::border_at(QPoint place, const PixelLines& rows,
-                                                      const PixelLines& cols) {
+std::optional<LineSizer::Border> LineSizer::border_at(QPoint place, const picture::PixelLines& rows,
+                                                      const picture::PixelLines& cols) {
     if (place.y() >= 0 && place.y() < rows.fixed_end())
         if (const int col = cols.border_at(place.x(), reach); col >= 0)
             return Border{false, col};
@@ -17,14 +17,15 @@ std::optional<LineSizer::Border> LineSizer::border_at(QPoint place, const PixelL
     return std::nullopt;
 }
 
-std::optional<Qt::CursorShape> LineSizer::cursor_at(QPoint place, const PixelLines& rows, const PixelLines& cols) {
+std::optional<Qt::CursorShape> LineSizer::cursor_at(QPoint place, const picture::PixelLines& rows,
+                                                    const picture::PixelLines& cols) {
     const auto border = border_at(place, rows, cols);
     if (!border)
         return std::nullopt;
     return border->of_row ? Qt::SplitVCursor : Qt::SplitHCursor;
 }
 
-bool LineSizer::begin(QPoint place, const PixelLines& rows, const PixelLines& cols) {
+bool LineSizer::begin(QPoint place, const picture::PixelLines& rows, const picture::PixelLines& cols) {
     const auto border = border_at(place, rows, cols);
     if (!border)
         return false;
@@ -37,7 +38,7 @@ bool LineSizer::begin(QPoint place, const PixelLines& rows, const PixelLines& co
 
 void LineSizer::move_to(QPoint place) {
     const int moved = (sizes_row_ ? place.y() : place.x()) - pressed_at_;
-    set_size(std::max(least_size * twips_per_pixel, size_before_ + moved * twips_per_pixel));
+    set_size(std::max(least_size * picture::twips_per_pixel, size_before_ + moved * picture::twips_per_pixel));
 }
 
 void LineSizer::abandon() {

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "grid/grid_model.h"
-#include "grid_widget/pixel_lines.h"
+#include "core/table/grid_model.h"
+#include "ui/picture/pixel_lines.h"
 
 #include <QPoint>
 #include <Qt>
@@ -13,12 +13,13 @@ namespace ui {
 // Rows and columns resized with the mouse, at the borders between their titles.
 class LineSizer {
 public:
-    explicit LineSizer(grid::GridModel& model) : model_(model) {}
+    explicit LineSizer(table::GridModel& model) : model_(model) {}
 
     // The pointer for a place over the grid, if a press there would begin to resize.
-    static std::optional<Qt::CursorShape> cursor_at(QPoint place, const PixelLines& rows, const PixelLines& cols);
+    static std::optional<Qt::CursorShape> cursor_at(QPoint place, const picture::PixelLines& rows,
+                                                    const picture::PixelLines& cols);
     // Begins to resize when a border is there.
-    bool begin(QPoint place, const PixelLines& rows, const PixelLines& cols);
+    bool begin(QPoint place, const picture::PixelLines& rows, const picture::PixelLines& cols);
     bool is_sizing() const { return line_ >= 0; }
     // Gives the line the size to which the pointer has been drawn. It doesn't get so small that it couldn't be
     // drawn back.
@@ -35,10 +36,11 @@ private:
         bool of_row;
         int line;
     };
-    static std::optional<Border> border_at(QPoint place, const PixelLines& rows, const PixelLines& cols);
+    static std::optional<Border> border_at(QPoint place, const picture::PixelLines& rows,
+                                           const picture::PixelLines& cols);
     void set_size(int twips);
 
-    grid::GridModel& model_;
+    table::GridModel& model_;
     bool sizes_row_ = false;
     int line_ = -1;
     int pressed_at_ = 0;  // pixels along the axis

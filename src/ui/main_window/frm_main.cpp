@@ -1,6 +1,6 @@
-#include "main_window/frm_main.h"
+#include "ui/main_window/frm_main.h"
 
-#include "dialogs/frm_activity_change.h"
+#include "ui/dialogs/frm_activity_change.h"
 #include "ui_frmMain.h"
 
 #include <QApplication>
@@ -35,7 +35,7 @@ bool is_for_the_user(const QWidget* window) {
 
 } // namespace
 
-frmMain::frmMain(const shell::Platform& platform)
+frmMain::frmMain(const calendar::Platform& platform)
     : controls_(make_controls(*this)), face_(*this, *controls_, [this] { unload(); }),
       dialogs_(*this, platform, calendar_), calendar_(face_, dialogs_, platform),
       msgSched_(std::make_unique<GridWidget>(calendar_.grid.msgSched, controls_->picForm)),
@@ -131,7 +131,7 @@ bool frmMain::event(QEvent* event) {
     return taken;
 }
 
-void frmMain::grid_changed(grid::GridChange) {
+void frmMain::grid_changed(table::GridChange) {
     if (update_is_due_)
         return;
     update_is_due_ = true;

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "dialogs/dialogs.h"
-#include "grid/grid_model.h"
-#include "grid_widget/grid_widget.h"
-#include "main_window/grid_hands.h"
-#include "main_window/window_face.h"
-#include "shell/calendar.h"
+#include "core/calendar/calendar.h"
+#include "core/table/grid_model.h"
+#include "ui/dialogs/form_opener.h"
+#include "ui/grid_widget/grid_widget.h"
+#include "ui/main_window/grid_hands.h"
+#include "ui/main_window/window_face.h"
 
 #include <QMainWindow>
 
@@ -15,9 +15,9 @@ namespace ui {
 
 // The main window: the calendar's controls, grid and menu. It raises its events on the parts of the calendar and
 // shows what they set.
-class frmMain : public QMainWindow, private grid::GridObserver {
+class frmMain : public QMainWindow, private table::GridObserver {
 public:
-    explicit frmMain(const shell::Platform& platform);
+    explicit frmMain(const calendar::Platform& platform);
     ~frmMain() override;
 
     // Brings the calendar up, and shows the window unless the start was stopped. Called from the event loop, so
@@ -31,7 +31,7 @@ public:
     void unload_at_once();
 
     WindowFace& face() { return face_; }
-    shell::Calendar& calendar() { return calendar_; }
+    calendar::Calendar& calendar() { return calendar_; }
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -42,14 +42,14 @@ private:
     void connect_menu();
     void connect_controls();
     void finish_unload();
-    void grid_changed(grid::GridChange change) override;
+    void grid_changed(table::GridChange change) override;
     // Takes over what the calendar keeps for controls of the window: the year's caption and the users.
     void update_controls();
 
     std::unique_ptr<Ui::frmMain> controls_;
     WindowFace face_;
     Dialogs dialogs_;
-    shell::Calendar calendar_;
+    calendar::Calendar calendar_;
     std::unique_ptr<GridWidget> msgSched_;
     GridHands hands_;
     bool is_unloading_ = false;

@@ -1,6 +1,6 @@
-#include "main_window/grid_hands.h"
+#include "ui/main_window/grid_hands.h"
 
-#include "dialogs/frm_activity_change.h"
+#include "ui/dialogs/frm_activity_change.h"
 
 #include <QCursor>
 
@@ -10,8 +10,8 @@ namespace ui {
 
 using interaction::PopupMenu;
 
-GridHands::GridHands(QMainWindow& window, GridWidget& msgSched, shell::Calendar& calendar, host::Window& face,
-                     const shell::Platform& platform)
+GridHands::GridHands(QMainWindow& window, GridWidget& msgSched, calendar::Calendar& calendar, host::Window& face,
+                     const calendar::Platform& platform)
     : window_(window), calendar_(calendar), msgSched_(msgSched), application_(platform.application),
       hands_({.session = calendar.session,
               .users = calendar.users,
@@ -40,7 +40,7 @@ void GridHands::connect_grid() {
                          hands_.mouse.msgSched_MouseDown(button, shift, x, y);
                      });
     QObject::connect(&msgSched_, &GridWidget::menu_requested, &window_, [this](int x, int y) {
-        const grid::GridModel& model = msgSched_.model();
+        const table::GridModel& model = msgSched_.model();
         menu_place_ = msgSched_.viewport()->mapToGlobal(msgSched_.cell_rect(model.Row(), model.Col()).center());
         hands_.mouse.msgSched_MouseDown(2, 0, x, y);
     });

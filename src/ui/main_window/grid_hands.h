@@ -1,8 +1,8 @@
 #pragma once
 
-#include "grid_widget/grid_widget.h"
-#include "interaction/interaction.h"
-#include "shell/calendar.h"
+#include "core/calendar/calendar.h"
+#include "core/interaction/interaction.h"
+#include "ui/grid_widget/grid_widget.h"
 
 #include <QMainWindow>
 #include <QMenu>
@@ -15,8 +15,8 @@ namespace ui {
 // Brings the grid's mouse and keys to the calendar's interaction, and shows its menu, pointer and question.
 class GridHands : private interaction::Presenter {
 public:
-    GridHands(QMainWindow& window, GridWidget& msgSched, shell::Calendar& calendar, host::Window& face,
-              const shell::Platform& platform);
+    GridHands(QMainWindow& window, GridWidget& msgSched, calendar::Calendar& calendar, host::Window& face,
+              const calendar::Platform& platform);
 
     interaction::Interaction& hands() { return hands_; }
 
@@ -40,7 +40,7 @@ private:
     void Switch_View(int col) override { calendar_.navigation.Switch_View(col); }
 
     QMainWindow& window_;
-    shell::Calendar& calendar_;
+    calendar::Calendar& calendar_;
     GridWidget& msgSched_;
     const host::ApplicationInfo& application_;
     interaction::Interaction hands_;

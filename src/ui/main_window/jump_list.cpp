@@ -1,4 +1,4 @@
-#include "main_window/jump_list.h"
+#include "ui/main_window/jump_list.h"
 
 #include <QAbstractItemView>
 #include <QKeyEvent>

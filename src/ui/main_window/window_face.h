@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/main_window.h"
+#include "core/shell/main_window.h"
 
 #include <QPoint>
 #include <QRect>

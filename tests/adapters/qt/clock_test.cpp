@@ -1,4 +1,4 @@
-#include "adapters/qt/clock.h"
+#include "adapters/qt/qt_clock.h"
 
 #include <QDateTime>
 #include <QEventLoop>

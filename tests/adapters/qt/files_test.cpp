@@ -1,4 +1,4 @@
-#include "adapters/qt/files.h"
+#include "adapters/qt/qt_files.h"
 
 #include <QCoreApplication>
 #include <QDir>

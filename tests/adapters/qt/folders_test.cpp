@@ -1,4 +1,4 @@
-#include "adapters/qt/folders.h"
+#include "adapters/qt/qt_folders.h"
 
 #include <QDir>
 #include <QFile>

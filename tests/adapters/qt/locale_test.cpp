@@ -1,6 +1,6 @@
-#include "adapters/qt/locale.h"
+#include "adapters/qt/qt_locale.h"
 
-#include "values/text_forms.h"
+#include "core/values/text_forms.h"
 
 #include <QLocale>
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-#include "adapters/qt/message_box.h"
+#include "adapters/qt/qt_message_box.h"
 
 #include <QApplication>
 #include <QKeyEvent>

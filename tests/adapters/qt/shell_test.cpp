@@ -1,4 +1,4 @@
-#include "adapters/qt/shell.h"
+#include "adapters/qt/qt_shell.h"
 
 #include <QDesktopServices>
 #include <QTemporaryFile>

@@ -1,6 +1,6 @@
-#include "adapters/qt/user_store.h"
+#include "adapters/qt/qt_user_store.h"
 
-#include "adapters/qt/files.h"
+#include "adapters/qt/qt_files.h"
 
 #include <QFile>
 #include <QTemporaryDir>

@@ -1,16 +1,16 @@
-#include "adapters/qt/files.h"
-#include "adapters/qt/shell.h"
-#include "adapters/qt/user_store.h"
-#include "application_proxy.h"
+#include "adapters/qt/qt_files.h"
+#include "adapters/qt/qt_shell.h"
+#include "adapters/qt/qt_user_store.h"
+#include "contract/application_proxy.h"
 #include "contract/names.h"
+#include "core/settings/per_user_store.h"
+#include "desk/service/service.h"
+#include "desk/windows/activity_dialog.h"
+#include "desk/windows/activity_list.h"
 #include "desk/windows/desk_fixture.h"
-#include "service/service.h"
-#include "settings/per_user_store.h"
+#include "desk/windows/desk_window.h"
+#include "desk/windows/open_toolbar_commands.h"
 #include "support/private_bus.h"
-#include "windows/activity_dialog.h"
-#include "windows/activity_list.h"
-#include "windows/main_window.h"
-#include "windows/open_toolbar_commands.h"
 
 #include <QComboBox>
 #include <QLineEdit>
@@ -68,7 +68,7 @@ protected:
     std::unique_ptr<host::Files> files = qt::make_files();
     std::unique_ptr<host::UserStore> user_store = make_user_store();
     settings::PerUserStore values{*user_store};
-    MainWindow window{session, Import()};
+    DeskWindow window{session, Import()};
     OpenToolbarCommands toolbar{session};
     service::Service service{window.desk(), toolbar, values::english_us()};
     QDBusConnection caller = bus.connection();

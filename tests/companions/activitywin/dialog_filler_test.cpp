@@ -1,4 +1,4 @@
-#include "activitywin/dialog_filler.h"
+#include "companions/activitywin/dialog_filler.h"
 
 #include "support/desk_on_bus.h"
 #include "support/fake_user_store.h"
@@ -24,7 +24,7 @@ protected:
         values.write("Activity", "Priority", "H");
         values.write("Activity", "For", "Anna Berg");
     }
-    const service::ActivityValues given{"C", "3/12/2024", "9:30:00 AM", "30", "Größe; \"x\"", "H", "Anna Berg"};
+    const model::ActivityValues given{"C", "3/12/2024", "9:30:00 AM", "30", "Größe; \"x\"", "H", "Anna Berg"};
 
     void start(std::chrono::milliseconds patience = 20s) {
         filler = std::make_unique<DialogFiller>(bus.connection(), values, patience);
@@ -41,8 +41,8 @@ protected:
     void open_dialog(bool is_for_new_activity) {
         on_bus.run([=, this] { on_bus.desk.open_dialog(is_for_new_activity); });
     }
-    std::vector<service::ActivityValues> filled() {
-        std::vector<service::ActivityValues> result;
+    std::vector<model::ActivityValues> filled() {
+        std::vector<model::ActivityValues> result;
         on_bus.run([&] { result = on_bus.desk.filled; });
         return result;
     }
@@ -92,7 +92,7 @@ TEST_F(DialogFillerTest, ValuesThatAreMissingAreEmpty) {
     start();
     open_dialog(true);
     EXPECT_EQ(outcome(), "");
-    EXPECT_EQ(filled().back(), service::ActivityValues());
+    EXPECT_EQ(filled().back(), model::ActivityValues());
 }
 
 TEST_F(DialogFillerTest, ShowsTheRecurringTabOfAStoredActivityAndFillsNothing) {

@@ -1,4 +1,4 @@
-#include "act/item_list.h"
+#include "core/act/item_list.h"
 
 #include <functional>
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-#include "act/populate_lists.h"
+#include "core/act/populate_lists.h"
 
 #include "support/fake_act_server.h"
 #include "support/fake_message_box.h"

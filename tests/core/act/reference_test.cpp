@@ -1,4 +1,4 @@
-#include "act/reference.h"
+#include "core/act/reference.h"
 
 #include <gtest/gtest.h>
 

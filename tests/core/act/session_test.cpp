@@ -1,4 +1,4 @@
-#include "act/session.h"
+#include "core/act/session.h"
 
 #include "support/fake_act_server.h"
 #include "support/fake_message_box.h"

@@ -1,4 +1,4 @@
-#include "act/user_list.h"
+#include "core/act/user_list.h"
 
 #include "support/fake_act_server.h"
 #include "support/fake_message_box.h"

@@ -1,4 +1,4 @@
-#include "engine/cell_text.h"
+#include "core/engine/cell_text.h"
 
 #include "engine_world.h"
 

@@ -1,4 +1,4 @@
-#include "engine/displayed_ids.h"
+#include "core/engine/displayed_ids.h"
 
 #include <gtest/gtest.h>
 #include <random>

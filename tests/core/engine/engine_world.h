@@ -1,6 +1,6 @@
 #pragma once
 
-#include "engine/calendar_engine.h"
+#include "core/engine/calendar_engine.h"
 #include "support/fake_timer.h"
 #include "support/grid_world.h"
 

@@ -1,4 +1,4 @@
-#include "engine/phone.h"
+#include "core/engine/phone.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "engine/placing.h"
+#include "core/engine/placing.h"
 
 #include "engine_world.h"
 

@@ -1,4 +1,4 @@
-#include "engine/quick_refresh.h"
+#include "core/engine/quick_refresh.h"
 
 #include "quick_refresh_world.h"
 

@@ -1,4 +1,4 @@
-#include "engine/recurring.h"
+#include "core/engine/recurring.h"
 
 #include "engine_world.h"
 

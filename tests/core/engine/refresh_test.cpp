@@ -1,4 +1,4 @@
-#include "engine/refresh.h"
+#include "core/engine/refresh.h"
 
 #include "engine_world.h"
 
@@ -253,7 +253,7 @@ TEST_F(RefreshTest, WithoutASessionTheBoxSaysThatTheObjectIsNotSet) {
 }
 
 TEST_F(RefreshTest, ClearMsgEmptiesTheRangeAloneAndStandsOnItsLastCell) {
-    grid::GridModel& msgSched = world_.calendar.msgSched;
+    table::GridModel& msgSched = world_.calendar.msgSched;
     for (int row = 1; row <= 4; ++row)
         for (int col = 2; col <= 4; ++col) {
             msgSched.Row(row);

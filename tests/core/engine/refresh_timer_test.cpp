@@ -1,4 +1,4 @@
-#include "engine/refresh_timer.h"
+#include "core/engine/refresh_timer.h"
 
 #include "engine_world.h"
 

@@ -1,4 +1,4 @@
-#include "engine/slot_table.h"
+#include "core/engine/slot_table.h"
 
 #include "engine_world.h"
 #include "support/failure_number.h"

@@ -1,4 +1,4 @@
-#include "grid/background.h"
+#include "core/grid/background.h"
 
 #include "support/grid_world.h"
 
@@ -8,7 +8,7 @@ namespace {
 
 using values::DateTime;
 
-constexpr grid::Colour even = 0xFFFFFF, odd = 0xC0E0FF, holiday = 0xFFC0C0;
+constexpr table::Colour even = 0xFFFFFF, odd = 0xC0E0FF, holiday = 0xFFC0C0;
 
 class BackgroundTest : public testing::Test {
 protected:
@@ -17,10 +17,10 @@ protected:
         world.have_users(users);
         world.open(DateTime::of(2024, 1, 10), 7, one_row_per_user);
     }
-    grid::Colour colour(int row, int col) const { return model.cell(row, col).back_colour; }
+    table::Colour colour(int row, int col) const { return model.cell(row, col).back_colour; }
 
     support::GridWorld world;
-    grid::GridModel& model = world.calendar.msgSched;
+    table::GridModel& model = world.calendar.msgSched;
     grid::Layout& layout = world.calendar.layout;
     grid::Background& background = world.calendar.background;
 };
@@ -37,7 +37,7 @@ TEST_F(BackgroundTest, TellsTheSlotsApartByBandsTitleColumnsIncluded) {
         EXPECT_EQ(layout.Cells(2, col).BackColor(), 1) << col;
         EXPECT_EQ(layout.Cells(4, col).BackColor(), 2) << col;
     }
-    EXPECT_EQ(colour(0, 3), grid::default_colour);
+    EXPECT_EQ(colour(0, 3), table::default_colour);
 }
 
 TEST_F(BackgroundTest, AlternatesByRowWithOneRowPerSlot) {
@@ -66,7 +66,7 @@ TEST_F(BackgroundTest, MarksAHolidayAndPutsItsDescriptionIntoTheTitle) {
         EXPECT_NE(colour(row, 3), holiday) << row;
     }
     EXPECT_EQ(model.TextMatrix(0, 4), "Founders' Day");
-    EXPECT_EQ(model.cell(0, 4).alignment, grid::Alignment::centre);
+    EXPECT_EQ(model.cell(0, 4).alignment, table::Alignment::centre);
     EXPECT_FALSE(model.cell(0, 4).bold);
     EXPECT_EQ(model.TextMatrix(0, 5), "Open Day");
     EXPECT_TRUE(model.cell(0, 5).bold);

@@ -1,4 +1,4 @@
-#include "grid/calendar_grid.h"
+#include "core/grid/calendar_grid.h"
 
 #include "support/grid_world.h"
 

@@ -1,4 +1,4 @@
-#include "grid/cell.h"
+#include "core/grid/cell.h"
 
 #include "support/failure_number.h"
 #include "support/grid_world.h"

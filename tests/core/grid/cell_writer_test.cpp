@@ -1,4 +1,4 @@
-#include "grid/cell_writer.h"
+#include "core/grid/cell_writer.h"
 
 #include "support/grid_world.h"
 
@@ -6,7 +6,7 @@
 
 namespace {
 
-using grid::Alignment;
+using table::Alignment;
 
 class CellWriterTest : public testing::Test {
 protected:
@@ -14,10 +14,10 @@ protected:
         world.have_users({"Ann"});
         world.open(values::DateTime::of(2024, 1, 10));
     }
-    const grid::GridCell& shown(int row, int col) const { return model.cell(row, col); }
+    const table::GridCell& shown(int row, int col) const { return model.cell(row, col); }
 
     support::GridWorld world;
-    grid::GridModel& model = world.calendar.msgSched;
+    table::GridModel& model = world.calendar.msgSched;
     grid::CellWriter& writer = world.calendar.writer;
     grid::Cells& cells = world.calendar.layout.Cells;
 };

@@ -1,4 +1,4 @@
-#include "grid/background.h"
+#include "core/grid/background.h"
 #include "support/grid_world.h"
 
 #include <gtest/gtest.h>
@@ -8,7 +8,7 @@ namespace {
 
 using values::DateTime;
 
-constexpr grid::Colour even = 0xFFFFFF, odd = 0xC0E0FF, inactive = 0xFFC0C0;
+constexpr table::Colour even = 0xFFFFFF, odd = 0xC0E0FF, inactive = 0xFFC0C0;
 
 class InactiveSlots : public testing::Test {
 protected:
@@ -28,7 +28,7 @@ protected:
     void off(const std::string& weekday, const std::string& ranges) { world.set("Off", weekday, ranges); }
 
     support::GridWorld world;
-    grid::GridModel& model = world.calendar.msgSched;
+    table::GridModel& model = world.calendar.msgSched;
     grid::Layout& layout = world.calendar.layout;
     grid::Background& background = world.calendar.background;
 };
@@ -180,7 +180,7 @@ protected:
                 rows.push_back(row);
         return rows;
     }
-    grid::GridModel off_grid;
+    table::GridModel off_grid;
 };
 
 TEST_F(InactiveSlotsDialog, PaintsTheColumnOfTheWeekdayCountedFromTheFirstDay) {

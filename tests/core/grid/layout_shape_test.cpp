@@ -14,7 +14,7 @@ protected:
 
     support::GridWorld world;
     grid::Layout& layout = world.calendar.layout;
-    grid::GridModel& model = world.calendar.msgSched;
+    table::GridModel& model = world.calendar.msgSched;
 };
 
 TEST_F(LayoutShape, GivesEachUserARowInEachOfNineSlotsByDefault) {
@@ -112,7 +112,7 @@ TEST_F(LayoutShape, GivesFixedColumns1000And1300WhereNothingIsStored) {
     EXPECT_EQ(model.ColWidth(8), 1800);
     EXPECT_EQ(model.RowHeight(1), 820);
     EXPECT_EQ(model.RowHeight(9), 820);
-    EXPECT_EQ(model.RowHeight(0), grid::GridModel::standard_row_height);
+    EXPECT_EQ(model.RowHeight(0), table::GridModel::standard_row_height);
 }
 
 TEST_F(LayoutShape, TakesStoredWidthsAndTheStandardSizes) {

@@ -1,4 +1,4 @@
-#include "grid/layout.h"
+#include "core/grid/layout.h"
 
 #include "support/failure_number.h"
 #include "support/grid_world.h"

@@ -1,4 +1,4 @@
-#include "grid/rendering.h"
+#include "core/grid/rendering.h"
 
 #include "core/grid/slot_world.h"
 
@@ -14,7 +14,7 @@ protected:
 
     SlotWorld world;
     grid::Layout& layout = world.calendar.layout;
-    grid::GridModel& model = world.calendar.msgSched;
+    table::GridModel& model = world.calendar.msgSched;
 };
 
 TEST_F(RenderingTest, DrawsTheChangedSlotsOnly) {
@@ -38,7 +38,7 @@ TEST_F(RenderingTest, WritesTheContinuationWhereNoOtherTextStands) {
     world.put(2, 2, {.id = "A2", .user = "a", .text = "other"});
     display();
     EXPECT_EQ(world.column(2), (Column{"long", "( Continued )", "other", "( Continued )"}));
-    EXPECT_EQ(model.cell(2, 2).alignment, grid::Alignment::left_centre);
+    EXPECT_EQ(model.cell(2, 2).alignment, table::Alignment::left_centre);
     EXPECT_EQ(model.ForeColor(), 255);
     EXPECT_EQ(layout.Cells(2, 2).DependsOnActivity(), "A1");
     EXPECT_EQ(layout.Cells(2, 2).ActivityID(), "");

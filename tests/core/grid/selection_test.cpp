@@ -1,4 +1,4 @@
-#include "grid/selection.h"
+#include "core/grid/selection.h"
 
 #include "support/failure_number.h"
 #include "support/grid_world.h"

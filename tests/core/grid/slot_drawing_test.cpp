@@ -1,5 +1,5 @@
 #include "core/grid/slot_world.h"
-#include "grid/sort_table.h"
+#include "core/grid/sort_table.h"
 
 #include <gtest/gtest.h>
 
@@ -126,7 +126,7 @@ TEST_F(SlotDrawing, TakesColoursFromTheRecordAndKeepsTheBackgroundWithoutOne) {
     world.put(0, 1, {.id = "A2", .user = "b", .text = "x", .fore_color = ""});
     world.put(0, 1, {.id = "A3", .user = "c", .text = "x", .fore_color = "&HFF0000"});
     draw(0, 1);
-    const grid::GridModel& model = world.calendar.msgSched;
+    const table::GridModel& model = world.calendar.msgSched;
     EXPECT_EQ(model.cell(1, 1).fore_colour, 255);
     EXPECT_EQ(model.cell(1, 1).back_colour, 65280);
     EXPECT_EQ(model.cell(2, 1).fore_colour, 0);

@@ -1,4 +1,4 @@
-#include "grid/slot.h"
+#include "core/grid/slot.h"
 
 #include "core/grid/slot_world.h"
 #include "support/failure_number.h"

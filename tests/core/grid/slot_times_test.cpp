@@ -1,4 +1,4 @@
-#include "grid/slot_times.h"
+#include "core/grid/slot_times.h"
 
 #include "support/failure_number.h"
 #include "support/fake_message_box.h"

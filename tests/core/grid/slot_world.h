@@ -1,7 +1,7 @@
 #pragma once
 
+#include "core/values/text.h"
 #include "support/grid_world.h"
-#include "values/text.h"
 
 #include <gtest/gtest.h>
 
@@ -52,7 +52,7 @@ public:
     std::vector<std::string> column(int col) const {
         std::vector<std::string> rows;
         for (int row = 1; row < calendar.msgSched.Rows(); ++row) {
-            const grid::GridCell& cell = calendar.msgSched.cell(row, col);
+            const table::GridCell& cell = calendar.msgSched.cell(row, col);
             const std::string picture(values::file_name(calendar.msgSched.picture_path(cell)));
             rows.push_back((picture.empty() ? "" : picture.substr(0, picture.find('.')) + ":") + cell.text);
         }
@@ -63,7 +63,7 @@ public:
 private:
     // As a full refresh does: row titles have gone through the first day's column.
     void clear_contents() {
-        grid::GridModel& model = calendar.msgSched;
+        table::GridModel& model = calendar.msgSched;
         const grid::Layout& layout = calendar.layout;
         for (int row = 1; row < model.Rows(); ++row)
             for (int col = layout.FixedCols; col < model.Cols(); ++col)

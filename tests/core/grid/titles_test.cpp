@@ -1,4 +1,4 @@
-#include "grid/titles.h"
+#include "core/grid/titles.h"
 
 #include "support/failure_number.h"
 #include "support/grid_world.h"
@@ -7,7 +7,7 @@
 
 namespace {
 
-using grid::Alignment;
+using table::Alignment;
 using values::DateTime;
 
 // Today is Wednesday, 10 January 2024.
@@ -20,7 +20,7 @@ protected:
     std::string text(int row, int col) const { return model.TextMatrix(row, col); }
 
     support::GridWorld world;
-    grid::GridModel& model = world.calendar.msgSched;
+    table::GridModel& model = world.calendar.msgSched;
     grid::Layout& layout = world.calendar.layout;
 };
 

@@ -1,4 +1,4 @@
-#include "host/deployment.h"
+#include "core/host/deployment.h"
 
 #include <gtest/gtest.h>
 

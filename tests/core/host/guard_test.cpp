@@ -1,4 +1,4 @@
-#include "host/guard.h"
+#include "core/host/guard.h"
 
 #include "support/fake_message_box.h"
 

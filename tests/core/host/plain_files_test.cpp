@@ -1,4 +1,4 @@
-#include "host/plain_files.h"
+#include "core/host/plain_files.h"
 
 #include "support/temporary_folder.h"
 

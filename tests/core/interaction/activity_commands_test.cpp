@@ -1,4 +1,4 @@
-#include "interaction/activity_commands.h"
+#include "core/interaction/activity_commands.h"
 
 #include "activity_commands_world.h"
 

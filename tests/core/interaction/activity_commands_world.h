@@ -1,6 +1,6 @@
 #pragma once
 
-#include "interaction/activity_commands.h"
+#include "core/interaction/activity_commands.h"
 #include "interaction_world.h"
 
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-#include "interaction/drag_drop.h"
+#include "core/interaction/drag_drop.h"
 
 #include "interaction_world.h"
 

@@ -1,4 +1,4 @@
-#include "interaction/instance_editor.h"
+#include "core/interaction/instance_editor.h"
 
 #include "interaction_world.h"
 #include "support/failure_number.h"

@@ -1,4 +1,4 @@
-#include "interaction/instances.h"
+#include "core/interaction/instances.h"
 
 #include "instances_world.h"
 #include "support/failure_number.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "interaction/instances.h"
+#include "core/interaction/instances.h"
 #include "interaction_world.h"
 
 #include <gtest/gtest.h>

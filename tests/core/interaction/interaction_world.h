@@ -1,13 +1,13 @@
 #pragma once
 
-#include "adapters/desk/desk_data.h"
+#include "adapters/records/records.h"
 #include "core/engine/engine_world.h"
-#include "interaction/interaction.h"
+#include "core/interaction/interaction.h"
+#include "core/values/text.h"
 #include "support/fake_shell.h"
 #include "support/recording_act.h"
 #include "support/scripted_desk.h"
 #include "support/temporary_database.h"
-#include "values/text.h"
 
 #include <deque>
 #include <optional>
@@ -62,8 +62,8 @@ public:
     // With the activities that the store has by then.
     void open(int days = 7, bool one_row_per_user = true, DateTime date = DateTime::of(2024, 1, 10)) {
         session.Create_Database();
-        session.ActDatabase =
-            std::make_unique<RecordingDatabase>(desk::make_database([this] { return database.path(); }), record);
+        session.ActDatabase = std::make_unique<RecordingDatabase>(
+            records::make_database([this] { return database.path(); }), record);
         session.ActDatabase->OpenEx("");
         session.ActContact = session.ActDatabase->Contact();
         session.ActActivity = session.ActDatabase->Activity();

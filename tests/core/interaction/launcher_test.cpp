@@ -1,7 +1,7 @@
-#include "interaction/launcher.h"
+#include "core/interaction/launcher.h"
 
+#include "core/settings/catalogue.h"
 #include "interaction_world.h"
-#include "settings/catalogue.h"
 
 #include <gtest/gtest.h>
 

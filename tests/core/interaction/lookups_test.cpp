@@ -1,4 +1,4 @@
-#include "interaction/lookups.h"
+#include "core/interaction/lookups.h"
 
 #include "interaction_world.h"
 

@@ -1,4 +1,4 @@
-#include "interaction/mouse.h"
+#include "core/interaction/mouse.h"
 
 #include "interaction_world.h"
 
@@ -19,7 +19,7 @@ protected:
     }
     // "current cell to far end".
     std::string selection() const {
-        const grid::GridModel& grid = calendar.msgSched;
+        const table::GridModel& grid = calendar.msgSched;
         return std::to_string(grid.Row()) + "," + std::to_string(grid.Col()) + " to " +
                std::to_string(grid.RowSel()) + "," + std::to_string(grid.ColSel());
     }

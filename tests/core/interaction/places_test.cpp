@@ -1,4 +1,4 @@
-#include "interaction/places.h"
+#include "core/interaction/places.h"
 
 #include <gtest/gtest.h>
 
@@ -11,7 +11,7 @@ protected:
         msgSched.Rows(10);
         msgSched.Cols(5);
     }
-    grid::GridModel msgSched;
+    table::GridModel msgSched;
     interaction::Places places{msgSched};
 };
 

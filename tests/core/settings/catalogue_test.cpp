@@ -1,11 +1,11 @@
-#include "settings/catalogue.h"
+#include "core/settings/catalogue.h"
 
-#include "host/plain_files.h"
+#include "core/host/plain_files.h"
+#include "core/values/text_forms.h"
 #include "support/failure_number.h"
 #include "support/fake_message_box.h"
 #include "support/fake_user_store.h"
 #include "support/temporary_folder.h"
-#include "values/text_forms.h"
 
 #include <gtest/gtest.h>
 #include <stdexcept>

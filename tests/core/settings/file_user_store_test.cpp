@@ -1,6 +1,6 @@
-#include "settings/file_user_store.h"
+#include "core/settings/file_user_store.h"
 
-#include "host/plain_files.h"
+#include "core/host/plain_files.h"
 #include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
-#include "settings/ini_document.h"
+#include "core/settings/ini_document.h"
 
+#include "core/values/text.h"
 #include "support/temporary_folder.h"
-#include "values/text.h"
 
 #include <gtest/gtest.h>
 

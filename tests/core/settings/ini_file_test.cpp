@@ -1,6 +1,6 @@
-#include "settings/ini_file.h"
+#include "core/settings/ini_file.h"
 
-#include "host/plain_files.h"
+#include "core/host/plain_files.h"
 #include "support/temporary_folder.h"
 
 #include <filesystem>

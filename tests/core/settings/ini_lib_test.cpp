@@ -1,9 +1,9 @@
-#include "settings/ini_lib.h"
+#include "core/settings/ini_lib.h"
 
-#include "host/plain_files.h"
+#include "core/host/plain_files.h"
+#include "core/values/text.h"
 #include "support/fake_message_box.h"
 #include "support/temporary_folder.h"
-#include "values/text.h"
 
 #include <gtest/gtest.h>
 #include <new>

@@ -1,4 +1,4 @@
-#include "settings/per_user_store.h"
+#include "core/settings/per_user_store.h"
 
 #include "support/failure_number.h"
 #include "support/fake_user_store.h"

@@ -1,7 +1,7 @@
 // Several threads and processes at one store and one settings file.
 
-#include "host/plain_files.h"
-#include "settings/file_user_store.h"
+#include "core/host/plain_files.h"
+#include "core/settings/file_user_store.h"
 #include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>

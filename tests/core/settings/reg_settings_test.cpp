@@ -1,4 +1,4 @@
-#include "settings/reg_settings.h"
+#include "core/settings/reg_settings.h"
 
 #include "support/fake_user_store.h"
 

@@ -1,4 +1,4 @@
-#include "shell/closing.h"
+#include "core/shell/closing.h"
 
 #include "shell_world.h"
 

@@ -1,4 +1,4 @@
-#include "shell/geometry.h"
+#include "core/shell/geometry.h"
 
 #include "shell_world.h"
 

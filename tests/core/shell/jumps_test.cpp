@@ -1,5 +1,5 @@
+#include "core/shell/jump_targets.h"
 #include "navigation_world.h"
-#include "shell/jump_list.h"
 
 // The jump list and the mini calendar behind it.
 namespace {
@@ -103,7 +103,7 @@ TEST_F(Jumps, HappenAtEnterAndAtNoOtherKey) {
 
 TEST_F(Jumps, KeepTheSizesThatAChangeOfViewGivesBack) {
     start();
-    grid::GridModel& grid = calendar.grid.msgSched;
+    table::GridModel& grid = calendar.grid.msgSched;
     grid.ColWidth(3, 2222);
     grid.RowHeight(2, 999);
     jump_to("Today + 1 month");

@@ -1,4 +1,4 @@
-#include "shell/menu_commands.h"
+#include "core/shell/menu_commands.h"
 
 #include "shell_world.h"
 
@@ -75,7 +75,7 @@ TEST_F(MenuCommands, OnlineOpensThePageOfTheTutorial) {
 }
 
 TEST_F(MenuCommands, ResetRowHeightGivesTheCurrentRowItsStandardHeight) {
-    grid::GridModel& grid = calendar.grid.msgSched;
+    table::GridModel& grid = calendar.grid.msgSched;
     grid.Row(4);
     grid.RowHeight(4, 1234);
     grid.RowHeight(5, 1234);
@@ -88,7 +88,7 @@ TEST_F(MenuCommands, ResetRowHeightGivesTheCurrentRowItsStandardHeight) {
 }
 
 TEST_F(MenuCommands, ResetColumnWidthPairsTheWeekdaysNumberWithTheColumns) {
-    grid::GridModel& grid = calendar.grid.msgSched;
+    table::GridModel& grid = calendar.grid.msgSched;
     for (int col = 2; col < 9; ++col)
         grid.ColWidth(col, 1000 + col);
     have_settings("[Settings]\nStdColWidth=1500\n1stday=2\n[DaysOff]\n1=1\n");

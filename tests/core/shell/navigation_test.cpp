@@ -1,4 +1,4 @@
-#include "shell/navigation.h"
+#include "core/shell/navigation.h"
 
 #include "navigation_world.h"
 
@@ -68,8 +68,8 @@ TEST_F(Navigation, ShowsTheActivitiesOfTheNewDays) {
 TEST_F(Navigation, TakesTheColoursOfHolidaysAlong) {
     files.content["/program/holidays.dat"] = "[Holidays]\n1/10/2024=Founding day\n";
     start();
-    const grid::GridModel& grid = calendar.grid.msgSched;
-    const grid::Colour holiday = grid.cell(1, 5).back_colour;
+    const table::GridModel& grid = calendar.grid.msgSched;
+    const table::Colour holiday = grid.cell(1, 5).back_colour;
     EXPECT_NE(holiday, grid.cell(1, 4).back_colour);
     EXPECT_EQ(title(5), "Founding day");
     navigation.cmdNext_Click();

@@ -92,7 +92,7 @@ private:
 class FakeDialogs : public shell::Dialogs {
 public:
     void show_frmHolidays() override { shown.emplace_back("frmHolidays"); }
-    void show_frmMiniCalendar(shell::JumpDates& dates) override {
+    void show_frmMiniCalendar(forms::JumpDates& dates) override {
         opened_on.push_back(dates.datCurrentNow);
         dates.bDateNowCancel = !pick;
         if (pick)
@@ -129,7 +129,7 @@ public:
     FakeActData data;
     FakeApplicationState state;
     FakeServer server{data, state};
-    shell::Calendar calendar{window, dialogs, platform(server)};
+    calendar::Calendar calendar{window, dialogs, platform(server)};
 };
 
 } // namespace support

@@ -1,4 +1,4 @@
-#include "shell/sizing.h"
+#include "core/shell/sizing.h"
 
 #include "shell_world.h"
 

@@ -1,4 +1,4 @@
-#include "values/text_forms.h"
+#include "core/values/text_forms.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "values/date_time.h"
+#include "core/values/date_time.h"
 
 #include "support/failure_number.h"
 

@@ -1,4 +1,4 @@
-#include "values/failure.h"
+#include "core/values/failure.h"
 
 #include <gtest/gtest.h>
 #include <set>

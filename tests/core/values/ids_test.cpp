@@ -1,4 +1,4 @@
-#include "values/ids.h"
+#include "core/values/ids.h"
 
 #include <gtest/gtest.h>
 

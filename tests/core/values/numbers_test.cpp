@@ -1,4 +1,4 @@
-#include "values/numbers.h"
+#include "core/values/numbers.h"
 
 #include "support/failure_number.h"
 

@@ -1,4 +1,4 @@
-#include "values/pattern.h"
+#include "core/values/pattern.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "values/text.h"
+#include "core/values/text.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "values/value.h"
+#include "core/values/value.h"
 
 #include "support/failure_number.h"
 

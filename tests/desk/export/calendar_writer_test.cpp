@@ -1,9 +1,9 @@
-#include "export/calendar_writer.h"
+#include "desk/export/calendar_writer.h"
 
-#include "import/import_file.h"
+#include "core/values/failure.h"
+#include "core/values/text.h"
+#include "desk/import/import_file.h"
 #include "support/temporary_database.h"
-#include "values/failure.h"
-#include "values/text.h"
 
 #include <gtest/gtest.h>
 

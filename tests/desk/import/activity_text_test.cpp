@@ -1,4 +1,4 @@
-#include "import/activity_text.h"
+#include "desk/import/activity_text.h"
 
 #include <gtest/gtest.h>
 

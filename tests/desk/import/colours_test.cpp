@@ -1,4 +1,4 @@
-#include "import/colours.h"
+#include "desk/import/colours.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
-#include "import/content_lines.h"
+#include "desk/import/content_lines.h"
 
-#include "values/failure.h"
+#include "core/values/failure.h"
 
 #include <gtest/gtest.h>
 

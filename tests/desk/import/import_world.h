@@ -1,11 +1,11 @@
 #pragma once
 
-#include "import/import_file.h"
-#include "store/contact_fields.h"
+#include "core/values/failure.h"
+#include "core/values/text.h"
+#include "desk/import/import_file.h"
+#include "desk/store/contact_fields.h"
 #include "support/temporary_database.h"
 #include "support/temporary_folder.h"
-#include "values/failure.h"
-#include "values/text.h"
 
 #include <algorithm>
 #include <filesystem>

@@ -1,4 +1,4 @@
-#include "import/local_zone.h"
+#include "desk/import/local_zone.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "import/report.h"
+#include "desk/import/report.h"
 
 #include <gtest/gtest.h>
 

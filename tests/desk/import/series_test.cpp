@@ -1,4 +1,4 @@
-#include "import/series.h"
+#include "desk/import/series.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
-#include "activity_dialog_proxy.h"
 #include "called_desk.h"
+#include "contract/activity_dialog_proxy.h"
 
 #include <QSignalSpy>
 
@@ -17,7 +17,7 @@ protected:
     void open(bool is_new) {
         on_bus.run([=, this] { desk.open_dialog(is_new); });
     }
-    const service::ActivityValues given{"C", "3/12/2024", "9:00:00 AM", "30", "Regarding", "H", "Anna Berg"};
+    const model::ActivityValues given{"C", "3/12/2024", "9:00:00 AM", "30", "Regarding", "H", "Anna Berg"};
     QDBusPendingReply<> fill() {
         return proxy.Fill("C", "3/12/2024", "9:00:00 AM", "30", "Regarding", "H", "Anna Berg");
     }

@@ -1,6 +1,6 @@
 #include "called_desk.h"
 
-#include "application_proxy.h"
+#include "contract/application_proxy.h"
 
 #include <QTemporaryFile>
 

@@ -1,6 +1,6 @@
 #include "called_desk.h"
 
-#include "aux_commands_proxy.h"
+#include "contract/aux_commands_proxy.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 #include "called_desk.h"
 
-#include "act/activity.h"
-#include "contact_view_proxy.h"
+#include "contract/contact_view_proxy.h"
+#include "core/act/activity.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
-#include "service/field_text.h"
+#include "desk/service/field_text.h"
 
-#include "act/activity.h"
+#include "core/act/activity.h"
 
 namespace {
 

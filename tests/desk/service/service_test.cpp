@@ -1,6 +1,6 @@
-#include "service/service.h"
+#include "desk/service/service.h"
 
-#include "application_proxy.h"
+#include "contract/application_proxy.h"
 #include "contract/names.h"
 #include "support/desk_on_bus.h"
 

@@ -1,4 +1,4 @@
-#include "store/store.h"
+#include "desk/store/store.h"
 
 #include <gtest/gtest.h>
 

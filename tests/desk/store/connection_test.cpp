@@ -1,4 +1,4 @@
-#include "store/connection.h"
+#include "desk/store/connection.h"
 
 #include "desk/store/expect_failure.h"
 #include "support/temporary_database.h"

@@ -1,6 +1,6 @@
+#include "core/values/failure.h"
 #include "desk/store/child_process.h"
 #include "support/temporary_database.h"
-#include "values/failure.h"
 
 #include <gtest/gtest.h>
 

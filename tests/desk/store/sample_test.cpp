@@ -1,6 +1,6 @@
-#include "store/sample.h"
+#include "desk/store/sample.h"
 
-#include "store/contact_fields.h"
+#include "desk/store/contact_fields.h"
 #include "support/temporary_database.h"
 
 #include <gtest/gtest.h>

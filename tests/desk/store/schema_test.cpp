@@ -1,4 +1,4 @@
-#include "store/schema.h"
+#include "desk/store/schema.h"
 
 #include "desk/store/expect_failure.h"
 #include "support/temporary_database.h"

@@ -1,7 +1,7 @@
-#include "store/sql.h"
+#include "desk/store/sql.h"
 
-#include "store/connection.h"
-#include "store/contact_fields.h"
+#include "desk/store/connection.h"
+#include "desk/store/contact_fields.h"
 #include "support/temporary_database.h"
 
 #include <gtest/gtest.h>

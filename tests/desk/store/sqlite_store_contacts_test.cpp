@@ -1,5 +1,5 @@
+#include "desk/store/contact_fields.h"
 #include "desk/store/expect_failure.h"
-#include "store/contact_fields.h"
 #include "support/temporary_database.h"
 
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-#include "store/toolbar_commands.h"
+#include "desk/store/toolbar_commands.h"
 
 #include "support/temporary_database.h"
 

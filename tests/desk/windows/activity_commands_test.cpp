@@ -1,9 +1,9 @@
-#include "windows/activity_commands.h"
+#include "desk/windows/activity_commands.h"
 
+#include "core/values/failure.h"
+#include "desk/windows/activity_dialog.h"
+#include "desk/windows/clear_dialog.h"
 #include "desk_fixture.h"
-#include "values/failure.h"
-#include "windows/activity_dialog.h"
-#include "windows/clear_dialog.h"
 
 #include <QComboBox>
 #include <QLineEdit>
@@ -59,7 +59,7 @@ TEST_F(ActivityCommandsTest, SchedulesWithTheShownContactAtTheNextHalfHour) {
 
 TEST_F(ActivityCommandsTest, WhatWasStoredIsShownWhenTheCommandHasFinished) {
     int changes = 0;
-    QObject::connect(&session, &Session::changed, [&] { ++changes; });
+    QObject::connect(&session, &OpenDatabase::changed, [&] { ++changes; });
     commands.edit(call, ActivityDialog::Tab::general, [&] { EXPECT_EQ(changes, 1); });
     retype(child<QLineEdit>(*dialog(), "regarding_edit"), "Other prices");
     press(Qt::Key_Return);

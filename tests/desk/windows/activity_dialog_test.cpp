@@ -1,9 +1,9 @@
-#include "windows/activity_dialog.h"
+#include "desk/windows/activity_dialog.h"
 
+#include "core/values/failure.h"
+#include "desk/windows/colour_box.h"
+#include "desk/windows/contact_chooser.h"
 #include "desk_fixture.h"
-#include "values/failure.h"
-#include "windows/colour_box.h"
-#include "windows/contact_chooser.h"
 
 #include <QCheckBox>
 #include <QComboBox>

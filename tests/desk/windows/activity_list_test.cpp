@@ -1,10 +1,10 @@
-#include "windows/activity_list.h"
+#include "desk/windows/activity_list.h"
 
+#include "core/values/failure.h"
+#include "desk/windows/date_field.h"
+#include "desk/windows/record_table.h"
+#include "desk/windows/rows.h"
 #include "desk_fixture.h"
-#include "values/failure.h"
-#include "windows/date_field.h"
-#include "windows/record_table.h"
-#include "windows/rows.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -116,9 +116,9 @@ TEST_F(ActivityListTest, AFilterSetFromOutsideShowsInTheBar) {
     ActivityList list(session, Scope::contact);
     list.show_contact(amber);
     show(list);
-    list.set_filter(filter_of({234, "6\\1/31/2024\\2/2/2024", anna}, session.locale()));
+    list.set_filter(model::filter_of({234, "6\\1/31/2024\\2/2/2024", anna}, session.locale()));
     EXPECT_EQ(ids(list), Ids{});
-    list.set_filter(filter_of({242, "6\\1/31/2024\\2/2/2024", anna}, session.locale()));
+    list.set_filter(model::filter_of({242, "6\\1/31/2024\\2/2/2024", anna}, session.locale()));
     EXPECT_EQ(ids(list), Ids{old_task});
     EXPECT_EQ(child<QPushButton>(list, "types_button")->text(), "&Types (1 of 3)");
     EXPECT_EQ(child<QComboBox>(list, "period_box")->currentText(), "Date range");
@@ -130,7 +130,7 @@ TEST_F(ActivityListTest, AFilterSetFromOutsideShowsInTheBar) {
 TEST_F(ActivityListTest, KeepsAFilterForSeveralUsersWhileOtherPartsOfItChange) {
     ActivityList list(session, Scope::everybody);
     show(list);
-    list.set_filter(filter_of({252, "1", anna + bert}, session.locale()));
+    list.set_filter(model::filter_of({252, "1", anna + bert}, session.locale()));
     EXPECT_EQ(child<QComboBox>(list, "user_box")->currentIndex(), -1);
     choose(list, "period_box", "Today");
     EXPECT_EQ(list.filter().users, anna + bert);

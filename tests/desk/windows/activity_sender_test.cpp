@@ -1,8 +1,8 @@
-#include "windows/activity_sender.h"
+#include "desk/windows/activity_sender.h"
 
+#include "core/values/failure.h"
 #include "desk_fixture.h"
 #include "support/fake_mail_program.h"
-#include "values/failure.h"
 
 #include <QDialogButtonBox>
 #include <QFileDialog>

@@ -1,7 +1,7 @@
-#include "windows/boxes.h"
+#include "desk/windows/boxes.h"
 
+#include "core/values/failure.h"
 #include "desk_fixture.h"
-#include "values/failure.h"
 
 #include <QLabel>
 #include <QMessageBox>

@@ -1,4 +1,4 @@
-#include "windows/clear_dialog.h"
+#include "desk/windows/clear_dialog.h"
 
 #include "desk_fixture.h"
 

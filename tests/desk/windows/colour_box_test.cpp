@@ -1,4 +1,4 @@
-#include "windows/colour_box.h"
+#include "desk/windows/colour_box.h"
 
 #include "desk_fixture.h"
 

@@ -1,6 +1,6 @@
-#include "windows/command_table.h"
+#include "desk/windows/command_table.h"
 
-#include "values/failure.h"
+#include "core/values/failure.h"
 
 #include <gtest/gtest.h>
 

@@ -1,14 +1,14 @@
-#include "application_proxy.h"
-#include "contact_view_proxy.h"
+#include "contract/application_proxy.h"
+#include "contract/contact_view_proxy.h"
 #include "contract/names.h"
+#include "desk/service/service.h"
+#include "desk/windows/activity_dialog.h"
+#include "desk/windows/clear_dialog.h"
+#include "desk/windows/desk_window.h"
+#include "desk/windows/open_toolbar_commands.h"
 #include "desk_fixture.h"
-#include "service/service.h"
 #include "support/fake_mail_program.h"
 #include "support/private_bus.h"
-#include "windows/activity_dialog.h"
-#include "windows/clear_dialog.h"
-#include "windows/main_window.h"
-#include "windows/open_toolbar_commands.h"
 
 #include <QComboBox>
 #include <QLineEdit>
@@ -73,7 +73,7 @@ protected:
 
     support::PrivateBus bus;
     support::FakeMailProgram mail_program;
-    MainWindow window{session, Import()};
+    DeskWindow window{session, Import()};
     OpenToolbarCommands toolbar{session};
     service::Service service{window.desk(), toolbar, values::english_us()};
     QDBusConnection caller = bus.connection();

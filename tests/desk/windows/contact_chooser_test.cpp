@@ -1,7 +1,7 @@
-#include "windows/contact_chooser.h"
+#include "desk/windows/contact_chooser.h"
 
+#include "desk/windows/record_table.h"
 #include "desk_fixture.h"
-#include "windows/record_table.h"
 
 #include <QPushButton>
 

@@ -1,7 +1,7 @@
-#include "windows/contact_form.h"
+#include "desk/windows/contact_form.h"
 
+#include "desk/store/contact_fields.h"
 #include "desk_fixture.h"
-#include "store/contact_fields.h"
 
 using windows::ContactForm;
 

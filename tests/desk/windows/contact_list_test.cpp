@@ -1,8 +1,8 @@
-#include "windows/contact_list.h"
+#include "desk/windows/contact_list.h"
 
+#include "core/values/failure.h"
+#include "desk/windows/record_table.h"
 #include "desk_fixture.h"
-#include "values/failure.h"
-#include "windows/record_table.h"
 
 using namespace windows;
 

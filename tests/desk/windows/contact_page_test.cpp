@@ -1,8 +1,8 @@
-#include "windows/contact_page.h"
+#include "desk/windows/contact_page.h"
 
+#include "core/values/failure.h"
+#include "desk/windows/activity_list.h"
 #include "desk_fixture.h"
-#include "values/failure.h"
-#include "windows/activity_list.h"
 
 #include <QLabel>
 #include <QLineEdit>

@@ -1,4 +1,4 @@
-#include "windows/conversions.h"
+#include "desk/windows/conversions.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
-#include "windows/database_commands.h"
+#include "desk/windows/database_commands.h"
 
+#include "core/values/failure.h"
 #include "desk_fixture.h"
-#include "values/failure.h"
 
 #include <QDir>
 #include <QFileDialog>

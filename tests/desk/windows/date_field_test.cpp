@@ -1,7 +1,7 @@
-#include "windows/date_field.h"
+#include "desk/windows/date_field.h"
 
+#include "core/values/failure.h"
 #include "desk_fixture.h"
-#include "values/failure.h"
 
 #include <QCalendarWidget>
 

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "desk/windows/open_database.h"
 #include "support/with_dialogs.h"
-#include "windows/session.h"
 
 #include <gtest/gtest.h>
 
@@ -102,5 +102,5 @@ protected:
     std::string amber, birch, cedar, dahlia;
     std::string friends, suppliers;
     std::string call, meeting, old_task, series;
-    windows::Session session;
+    windows::OpenDatabase session;
 };

@@ -1,4 +1,4 @@
-#include "windows/groups_tab.h"
+#include "desk/windows/groups_tab.h"
 
 #include "desk_fixture.h"
 

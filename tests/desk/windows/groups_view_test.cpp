@@ -1,7 +1,7 @@
-#include "windows/groups_view.h"
+#include "desk/windows/groups_view.h"
 
+#include "desk/windows/record_table.h"
 #include "desk_fixture.h"
-#include "windows/record_table.h"
 
 #include <QInputDialog>
 #include <QLineEdit>

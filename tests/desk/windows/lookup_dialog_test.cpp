@@ -1,4 +1,4 @@
-#include "windows/lookup_dialog.h"
+#include "desk/windows/lookup_dialog.h"
 
 #include "desk_fixture.h"
 

@@ -1,7 +1,7 @@
-#include "windows/lookup.h"
+#include "desk/windows/lookup.h"
 
+#include "core/values/failure.h"
 #include "desk_fixture.h"
-#include "values/failure.h"
 
 using windows::Lookup;
 

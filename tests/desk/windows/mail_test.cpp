@@ -1,4 +1,4 @@
-#include "windows/mail.h"
+#include "desk/windows/mail.h"
 
 #include "support/fake_mail_program.h"
 

@@ -1,7 +1,7 @@
-#include "windows/membership.h"
+#include "desk/windows/membership.h"
 
+#include "core/values/failure.h"
 #include "desk_fixture.h"
-#include "values/failure.h"
 
 using namespace windows;
 

@@ -1,7 +1,7 @@
+#include "desk/windows/activity_dialog.h"
+#include "desk/windows/clear_dialog.h"
+#include "desk/windows/desk_window.h"
 #include "desk_fixture.h"
-#include "windows/activity_dialog.h"
-#include "windows/clear_dialog.h"
-#include "windows/main_window.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -71,7 +71,7 @@ TEST_F(Mnemonics, AreDifferentInTheDialogThatClears) {
 }
 
 TEST_F(Mnemonics, AreDifferentInEachViewAndMenuOfTheWindow) {
-    MainWindow window(session, {});
+    DeskWindow window(session, {});
     window.show();
     for (const char* view : {"view_contact_list", "view_contact", "view_task_list", "view_groups"}) {
         child<QAction>(window, view)->trigger();

@@ -1,7 +1,7 @@
-#include "windows/notes_tab.h"
+#include "desk/windows/notes_tab.h"
 
+#include "desk/windows/record_table.h"
 #include "desk_fixture.h"
-#include "windows/record_table.h"
 
 #include <QPlainTextEdit>
 #include <QPushButton>

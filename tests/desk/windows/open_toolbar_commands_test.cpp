@@ -1,7 +1,7 @@
-#include "windows/open_toolbar_commands.h"
+#include "desk/windows/open_toolbar_commands.h"
 
+#include "core/values/failure.h"
 #include "desk_fixture.h"
-#include "values/failure.h"
 
 using windows::OpenToolbarCommands;
 

@@ -1,4 +1,4 @@
-#include "contact_desk/options.h"
+#include "apps/contact_desk/options.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "windows/record_model.h"
+#include "desk/windows/record_model.h"
 
 #include <QFont>
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-#include "windows/record_table.h"
+#include "desk/windows/record_table.h"
 
 #include "desk_fixture.h"
 

@@ -1,7 +1,7 @@
-#include "windows/recurrence_page.h"
+#include "desk/windows/recurrence_page.h"
 
+#include "core/values/failure.h"
 #include "desk_fixture.h"
-#include "values/failure.h"
 
 #include <QComboBox>
 #include <QLabel>

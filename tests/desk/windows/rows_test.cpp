@@ -1,4 +1,4 @@
-#include "windows/rows.h"
+#include "desk/windows/rows.h"
 
 #include "desk_fixture.h"
 

@@ -1,10 +1,10 @@
-#include "windows/running_desk.h"
+#include "desk/windows/running_desk.h"
 
+#include "core/values/failure.h"
+#include "desk/windows/activity_commands.h"
+#include "desk/windows/activity_list.h"
+#include "desk/windows/contact_page.h"
 #include "desk_fixture.h"
-#include "values/failure.h"
-#include "windows/activity_commands.h"
-#include "windows/activity_list.h"
-#include "windows/contact_page.h"
 
 #include <QLineEdit>
 
@@ -21,7 +21,7 @@ protected:
           desk(session, lookup, page, commands, activity_commands) {
         session.open(path);
     }
-    service::ContactView& view() { return desk.contact_view(); }
+    model::ContactView& view() { return desk.contact_view(); }
 
     Lookup lookup;
     ContactPage page;

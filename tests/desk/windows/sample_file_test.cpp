@@ -1,7 +1,7 @@
-#include "windows/sample_file.h"
+#include "desk/windows/sample_file.h"
 
+#include "core/values/failure.h"
 #include "desk_fixture.h"
-#include "values/failure.h"
 
 using windows::create_sample;
 

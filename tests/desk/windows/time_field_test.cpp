@@ -1,7 +1,7 @@
-#include "windows/time_field.h"
+#include "desk/windows/time_field.h"
 
+#include "core/values/failure.h"
 #include "desk_fixture.h"
-#include "values/failure.h"
 
 using values::DateTime;
 using windows::TimeField;

@@ -1,4 +1,4 @@
-#include "dialogs/dialogs.h"
+#include "ui/dialogs/form_opener.h"
 
 #include "core/shell/shell_world.h"
 #include "support/with_dialogs.h"

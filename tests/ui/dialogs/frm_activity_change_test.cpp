@@ -1,4 +1,4 @@
-#include "dialogs/frm_activity_change.h"
+#include "ui/dialogs/frm_activity_change.h"
 
 #include <QLabel>
 #include <QPushButton>

@@ -1,4 +1,4 @@
-#include "dialogs/frm_holidays.h"
+#include "ui/dialogs/frm_holidays.h"
 
 #include "core/shell/shell_world.h"
 #include "support/with_dialogs.h"

@@ -1,4 +1,4 @@
-#include "dialogs/frm_mini_calendar.h"
+#include "ui/dialogs/frm_mini_calendar.h"
 
 #include "support/platform_world.h"
 
@@ -46,7 +46,7 @@ protected:
     QColor title_color() { return form->grab().toImage().pixelColor(5, 4); }
 
     host::Guard guarded{box, application};
-    shell::JumpDates dates;
+    forms::JumpDates dates;
     std::unique_ptr<ui::frmMiniCalendar> form;
 };
 

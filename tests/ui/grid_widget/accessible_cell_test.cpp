@@ -1,4 +1,4 @@
-#include "grid_widget/accessible_cell.h"
+#include "ui/grid_widget/accessible_cell.h"
 
 #include "ui/grid_widget/sample_grid.h"
 

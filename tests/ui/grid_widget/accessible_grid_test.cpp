@@ -1,4 +1,4 @@
-#include "grid_widget/accessible_grid.h"
+#include "ui/grid_widget/accessible_grid.h"
 
 #include "ui/grid_widget/sample_grid.h"
 
@@ -185,7 +185,7 @@ TEST(AccessibleGrid, TellsNothingWhenNothingHasChanged) {
 // Hands to a list what it would tell a screen reader.
 class TellingWidget : public ui::GridWidget {
 public:
-    TellingWidget(grid::GridModel& model, std::vector<Told>& heard) : GridWidget(model), heard_(heard) {}
+    TellingWidget(table::GridModel& model, std::vector<Told>& heard) : GridWidget(model), heard_(heard) {}
 
 private:
     void tell(const ui::GridNews& news) override {

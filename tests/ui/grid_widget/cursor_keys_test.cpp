@@ -1,4 +1,4 @@
-#include "grid_widget/cursor_keys.h"
+#include "ui/grid_widget/cursor_keys.h"
 
 #include "ui/grid_widget/sample_grid.h"
 
@@ -8,17 +8,17 @@ namespace {
 
 constexpr int page = 5;
 
-void press(grid::GridModel& model, int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+void press(table::GridModel& model, int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
     EXPECT_TRUE(ui::move_cursor(model, key, modifiers, page));
 }
 
-void expect_at(const grid::GridModel& model, int row, int col) {
+void expect_at(const table::GridModel& model, int row, int col) {
     EXPECT_EQ(model.Row(), row);
     EXPECT_EQ(model.Col(), col);
 }
 
 TEST(MoveCursor, MovesByArrows) {
-    grid::GridModel model = sample_model();
+    table::GridModel model = sample_model();
     press(model, Qt::Key_Down);
     press(model, Qt::Key_Right);
     expect_at(model, 2, 3);
@@ -28,14 +28,14 @@ TEST(MoveCursor, MovesByArrows) {
 }
 
 TEST(MoveCursor, StaysOutOfTheTitles) {
-    grid::GridModel model = sample_model();
+    table::GridModel model = sample_model();
     press(model, Qt::Key_Up);
     press(model, Qt::Key_Left);
     expect_at(model, 1, 2);
 }
 
 TEST(MoveCursor, StaysInsideTheGrid) {
-    grid::GridModel model = sample_model();
+    table::GridModel model = sample_model();
     model.Row(39);
     model.Col(7);
     press(model, Qt::Key_Down);
@@ -44,7 +44,7 @@ TEST(MoveCursor, StaysInsideTheGrid) {
 }
 
 TEST(MoveCursor, PassesOverHiddenLines) {
-    grid::GridModel model = sample_model();
+    table::GridModel model = sample_model();
     model.ColWidth(3, 0);
     model.ColWidth(4, 0);
     press(model, Qt::Key_Right);
@@ -54,7 +54,7 @@ TEST(MoveCursor, PassesOverHiddenLines) {
 }
 
 TEST(MoveCursor, StaysWhereOnlyHiddenLinesFollow) {
-    grid::GridModel model = sample_model();
+    table::GridModel model = sample_model();
     model.Col(6);
     model.ColWidth(7, 0);
     press(model, Qt::Key_Right);
@@ -62,14 +62,14 @@ TEST(MoveCursor, StaysWhereOnlyHiddenLinesFollow) {
 }
 
 TEST(MoveCursor, EntersTheCellsFromATitle) {
-    grid::GridModel model = sample_model();
+    table::GridModel model = sample_model();
     model.Row(0);
     press(model, Qt::Key_Down);
     expect_at(model, 1, 2);
 }
 
 TEST(MoveCursor, MovesByPages) {
-    grid::GridModel model = sample_model();
+    table::GridModel model = sample_model();
     press(model, Qt::Key_PageDown);
     expect_at(model, 6, 2);
     press(model, Qt::Key_PageUp);
@@ -80,7 +80,7 @@ TEST(MoveCursor, MovesByPages) {
 }
 
 TEST(MoveCursor, GoesToTheEndsOfARow) {
-    grid::GridModel model = sample_model();
+    table::GridModel model = sample_model();
     model.ColWidth(2, 0);
     model.Row(5);
     press(model, Qt::Key_End);
@@ -90,7 +90,7 @@ TEST(MoveCursor, GoesToTheEndsOfARow) {
 }
 
 TEST(MoveCursor, GoesToTheCornersWithCtrl) {
-    grid::GridModel model = sample_model();
+    table::GridModel model = sample_model();
     press(model, Qt::Key_End, Qt::ControlModifier);
     expect_at(model, 39, 7);
     press(model, Qt::Key_Home, Qt::ControlModifier);
@@ -98,7 +98,7 @@ TEST(MoveCursor, GoesToTheCornersWithCtrl) {
 }
 
 TEST(MoveCursor, ExtendsTheSelectionWithShift) {
-    grid::GridModel model = sample_model();
+    table::GridModel model = sample_model();
     press(model, Qt::Key_Down, Qt::ShiftModifier);
     press(model, Qt::Key_Right, Qt::ShiftModifier);
     press(model, Qt::Key_Right, Qt::ShiftModifier);
@@ -108,7 +108,7 @@ TEST(MoveCursor, ExtendsTheSelectionWithShift) {
 }
 
 TEST(MoveCursor, DropsTheSelectionWithoutShift) {
-    grid::GridModel model = sample_model();
+    table::GridModel model = sample_model();
     press(model, Qt::Key_PageDown, Qt::ShiftModifier);
     press(model, Qt::Key_Down);
     expect_at(model, 2, 2);
@@ -117,13 +117,13 @@ TEST(MoveCursor, DropsTheSelectionWithoutShift) {
 }
 
 TEST(MoveCursor, LeavesOtherKeysAlone) {
-    grid::GridModel model = sample_model();
+    table::GridModel model = sample_model();
     EXPECT_FALSE(ui::move_cursor(model, Qt::Key_A, Qt::NoModifier, page));
     expect_at(model, 1, 2);
 }
 
 TEST(MoveCursor, DoesNothingInAGridOfTitlesOnly) {
-    grid::GridModel model;
+    table::GridModel model;
     for (const int key : {Qt::Key_Up, Qt::Key_Down, Qt::Key_Home, Qt::Key_End, Qt::Key_PageDown})
         press(model, key);
     expect_at(model, 0, 0);

@@ -1,4 +1,4 @@
-#include "grid_widget/grid_widget.h"
+#include "ui/grid_widget/grid_widget.h"
 
 #include "ui/grid_widget/sample_grid.h"
 

@@ -1,4 +1,4 @@
-#include "grid_widget/line_sizer.h"
+#include "ui/grid_widget/line_sizer.h"
 
 #include "ui/grid_widget/sample_grid.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "grid/grid_model.h"
-#include "grid_widget/grid_widget.h"
+#include "core/table/grid_model.h"
+#include "ui/grid_widget/grid_widget.h"
 
 #include <QImage>
 #include <QTest>
@@ -11,8 +11,8 @@
 
 // A model of 40 rows and 8 columns, of which one row and two columns are titles. Columns are 100 pixels wide, rows
 // 40 high, the title row 20.
-inline grid::GridModel sample_model() {
-    grid::GridModel model;
+inline table::GridModel sample_model() {
+    table::GridModel model;
     model.Rows(40);
     model.Cols(8);
     model.FixedCols(2);
@@ -25,7 +25,7 @@ inline grid::GridModel sample_model() {
     return model;
 }
 
-inline void write(grid::GridModel& model, int row, int col, const std::string& text) {
+inline void write(table::GridModel& model, int row, int col, const std::string& text) {
     const int row_before = model.Row(), col_before = model.Col();
     model.Row(row);
     model.Col(col);
@@ -36,7 +36,7 @@ inline void write(grid::GridModel& model, int row, int col, const std::string& t
 
 // The model in a window of 640 by 400 pixels, shown and with the focus.
 struct ShownGrid {
-    grid::GridModel model = sample_model();
+    table::GridModel model = sample_model();
     std::unique_ptr<ui::GridWidget> widget = std::make_unique<ui::GridWidget>(model);
 
     ShownGrid() { show(); }

@@ -1,9 +1,9 @@
-#include "adapters/qt/message_box.h"
-#include "main_window/frm_main.h"
-#include "orvanta/desk_server.h"
+#include "adapters/qt/qt_message_box.h"
+#include "apps/orvanta/desk_server.h"
 #include "support/desk_on_bus.h"
 #include "support/platform_world.h"
 #include "support/temporary_database.h"
+#include "ui/main_window/frm_main.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -67,7 +67,7 @@ protected:
         QEventLoop outer; // as the program's own
         QTimer poll;
         QObject::connect(&poll, &QTimer::timeout, [&] {
-            if (desk::command_waits(*link) && meanwhile && !commands().empty())
+            if (bus::command_waits(*link) && meanwhile && !commands().empty())
                 std::exchange(meanwhile, nullptr)();
         });
         QTimer::singleShot(0, &window, [&] {
@@ -103,9 +103,9 @@ protected:
     std::string ann, chris, meeting, series;
     support::PrivateBus bus;
     std::unique_ptr<support::DeskOnBus> desk = std::make_unique<support::DeskOnBus>(bus, database.path());
-    std::shared_ptr<desk::Link> link = desk::make_link(bus.connection());
+    std::shared_ptr<bus::Link> link = bus::make_link(bus.connection());
     apps::DeskServer server{link, values::english_us()};
-    std::unique_ptr<act::EventControl> real_events = desk::make_event_control(link);
+    std::unique_ptr<act::EventControl> real_events = bus::make_event_control(link);
     std::unique_ptr<host::MessageBox> real_box = qt::make_message_box();
     ui::frmMain window{platform(server, *real_box, *real_events)};
     ui::GridWidget* grid = window.findChild<ui::GridWidget*>("msgSched");
@@ -139,7 +139,7 @@ TEST_F(CommandWait, ShowsWhatWasTypedInTheDialogOnceItHasClosed) {
 
 TEST_F(CommandWait, TakesNoInputAndDoesNotCarryItOutAfterwards) {
     auto* cmdNext = window.findChild<QToolButton*>("cmdNext");
-    grid::GridModel& msgSched = window.calendar().grid.msgSched;
+    table::GridModel& msgSched = window.calendar().grid.msgSched;
     const DateTime week = window.calendar().grid.layout.StartDate;
     double_click_and(9, [&] {
         const int row = msgSched.Row(), col = msgSched.Col();
@@ -249,7 +249,7 @@ TEST_F(CommandWait, IsAbandonedByARequestToEndAndTheCalendarEndsWithItsStateSave
     double_click_and(9, [&] {
         window.unload_at_once();
         EXPECT_EQ(program.ends, 0);
-        desk::abandon_command(*link);
+        bus::abandon_command(*link);
     });
     wait_for_end();
     EXPECT_EQ(stored("WeeklyView"), "1");
@@ -264,7 +264,7 @@ TEST_F(CommandWait, ThatIsAbandonedLeavesNoTraceOfATemporaryInstance) {
     double_click_and(11, [&] {
         EXPECT_EQ(database.store().activities({}).size(), 3U);
         window.unload_at_once();
-        desk::abandon_command(*link);
+        bus::abandon_command(*link);
     });
     wait_for_end();
     EXPECT_EQ(database.store().activities({}).size(), 2U);

@@ -1,4 +1,4 @@
-#include "main_window/frm_main.h"
+#include "ui/main_window/frm_main.h"
 
 #include "window_world.h"
 

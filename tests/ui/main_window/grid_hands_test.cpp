@@ -1,4 +1,4 @@
-#include "main_window/grid_hands.h"
+#include "ui/main_window/grid_hands.h"
 
 #include "window_world.h"
 

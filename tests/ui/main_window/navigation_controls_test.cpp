@@ -1,4 +1,4 @@
-#include "main_window/frm_main.h"
+#include "ui/main_window/frm_main.h"
 
 #include "window_world.h"
 
@@ -16,9 +16,9 @@
 namespace {
 
 // Remembers the pointers that stood over the grid while it changed.
-class PointerWatch : private grid::GridObserver {
+class PointerWatch : private table::GridObserver {
 public:
-    PointerWatch(grid::GridModel& grid, const QWidget& viewport) : grid_(grid), viewport_(viewport) {
+    PointerWatch(table::GridModel& grid, const QWidget& viewport) : grid_(grid), viewport_(viewport) {
         grid_.add_observer(*this);
     }
     ~PointerWatch() { grid_.remove_observer(*this); }
@@ -26,11 +26,11 @@ public:
     bool saw_hourglass = false;
 
 private:
-    void grid_changed(grid::GridChange) override {
+    void grid_changed(table::GridChange) override {
         saw_hourglass = saw_hourglass || viewport_.cursor().shape() == Qt::WaitCursor;
     }
 
-    grid::GridModel& grid_;
+    table::GridModel& grid_;
     const QWidget& viewport_;
 };
 

@@ -1,4 +1,4 @@
-#include "main_window/window_face.h"
+#include "ui/main_window/window_face.h"
 
 #include "window_world.h"
 

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "main_window/frm_main.h"
 #include "support/half_real_server.h"
 #include "support/platform_world.h"
 #include "support/temporary_database.h"
+#include "ui/main_window/frm_main.h"
 
 #include <QComboBox>
 #include <QCoreApplication>

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "core/act/application.h"
+
+#include <QDBusConnection>
+
+#include <memory>
+
+// The running contact desk, reached over D-Bus. Each call waits for at most two seconds and takes no events
+// meanwhile; every error on the way becomes a values::Failure with 440 and a sentence for the user.
+//
+// Command alone waits as long as the desk's dialog is open. The program's windows repaint meanwhile, but what the
+// user does to them is thrown away. The desk's events that come during the wait are kept and delivered from the
+// event loop after Command has returned. The wait ends with 440 at once when the desk dies. Closing the desk by
+// Command returns when it has gone.
+namespace bus {
+
+// What the objects below share: the way to the desk, and whether a command waits.
+class Link;
+std::shared_ptr<Link> make_link(const QDBusConnection& bus);
+// Whether a command waits right now, for who drives the program from outside its procedures.
+bool command_waits(const Link& link);
+// A command that waits returns as if its dialog had been closed, which stays open: for a program that has to end.
+void abandon_command(Link& link);
+
+// Both fail with 429 when the desk isn't running.
+std::unique_ptr<act::Application> make_application(std::shared_ptr<Link> link);
+std::unique_ptr<act::AuxCommands> make_aux_commands(std::shared_ptr<Link> link);
+
+// Listens from its making on, whether the desk is running or not. A desk that dies, and a bus that does, count as
+// OnActUserWantsToClose; a desk that tells its end and then goes gives that event once.
+std::unique_ptr<act::EventControl> make_event_control(std::shared_ptr<Link> link);
+
+} // namespace bus

@@ -1,0 +1,68 @@
+#include "adapters/qt/qt_files.h"
+
+#include "adapters/qt/file_lock.h"
+#include "adapters/qt/file_state.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+
+namespace qt {
+
+namespace {
+
+constexpr int lock_milliseconds = 5000;
+
+// The file behind the links, so that a link stays one.
+QString target_of(const QString& path) {
+    const QFileInfo info(path);
+    return info.exists() ? info.canonicalFilePath() : path;
+}
+
+// Also for the superuser, who could write it all the same.
+bool is_read_only(const QFileInfo& file) {
+    return (file.permissions() & (QFile::WriteOwner | QFile::WriteGroup | QFile::WriteOther)) == 0;
+}
+
+class QtFiles : public host::Files {
+public:
+    bool exists(const std::string& path) const override {
+        return !path.empty() && QFileInfo::exists(QString::fromStdString(path));
+    }
+
+    std::optional<host::FileStamp> stamp(const std::string& path) const override {
+        const std::optional<FileState> state = file_state(path);
+        return state ? std::optional(state->stamp) : std::nullopt;
+    }
+
+    std::optional<host::FileContent> read(const std::string& path, std::size_t most) const override {
+        const std::optional<FileState> state = file_state(path);
+        QFile file(QString::fromStdString(path));
+        if (!state || state->stamp.size > most || !file.open(QIODevice::ReadOnly))
+            return std::nullopt;
+        const QByteArray bytes = file.read(static_cast<qint64>(most));
+        if (file.error() != QFileDevice::NoError || !file.atEnd())
+            return std::nullopt;
+        return host::FileContent{.bytes = bytes.toStdString(), .stamp = state->stamp, .settled = state->settled};
+    }
+
+    bool replace(const std::string& path, const std::string& bytes) override {
+        const QString target = target_of(QString::fromStdString(path));
+        const QFileInfo info(target);
+        if (info.exists() && (is_read_only(info) || !file_state(target.toStdString())))
+            return false;
+        QSaveFile file(target);
+        return file.open(QIODevice::WriteOnly) &&
+               file.write(bytes.data(), static_cast<qint64>(bytes.size())) >= 0 && file.commit();
+    }
+
+    std::unique_ptr<host::FileLock> lock(const std::string& path) override {
+        return take_lock(target_of(QString::fromStdString(path)) + ".lock", lock_milliseconds);
+    }
+};
+
+} // namespace
+
+std::unique_ptr<host::Files> make_files() { return std::make_unique<QtFiles>(); }
+
+} // namespace qt

@@ -1,0 +1,94 @@
+#pragma once
+
+#include "adapters/records/cursor.h"
+#include "core/act/activity.h"
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <set>
+#include <string>
+#include <vector>
+
+namespace records {
+
+// The list of activities over a store. A change that Update hasn't stored is given up by the next Edit or Add and
+// by every move; the contacts that are set meanwhile belong to it.
+class ActivityTable final : public act::Activity {
+public:
+    explicit ActivityTable(std::shared_ptr<SharedStore> session);
+    ~ActivityTable() override;
+
+    void Rebuild() override { move_to_first(); }
+    void MoveFirst() override { move_to_first(); }
+    void MoveNext() override;
+    void SkipToRecurring(act::DateTime from, act::DateTime to) override;
+    void SkipToEdited(act::DateTime since) override;
+    std::optional<std::string> IdsNoLongerListed(const std::string& ids, std::int64_t moment) override {
+        return cursor_.ids_no_longer_listed(ids, moment);
+    }
+    bool isEOF() const override { return cursor_.is_at_end(); }
+    bool Goto(const std::string& id) override;
+
+    void SetDateScope(act::DateTime from, act::DateTime to) override;
+    void ClearDateScope() override;
+    void SetTypeFilter(int type) override;
+    void ClearTypeFilter() override;
+    void SetPriorityFilter(int priority) override;
+    void ClearPriorityFilter() override;
+    void SetClearedFilter() override;
+    void ClearClearedFilter() override;
+
+    act::Value Data(int field) const override;
+    void Data(int field, const act::Value& value) override;
+    bool HasDetails() const override;
+
+    void Edit() override;
+    void Add() override;
+    std::string Update() override;
+    void Delete() override;
+
+    bool isRecurring() const override { return entry().recurring; }
+    int recurringType() const override;
+    int GetRecurringFrequency() const override;
+    act::DateTime GetRecurringUntilDate() const override;
+    int GetDaysOfWeekBits() const override;
+    int GetDaysOfMonthBits() const override;
+    int GetWeeksOfMonthBits() const override;
+    act::ExceptionInfo& ExceptionInfo() override;
+    void RecurringChangeMode(bool only_this) override { only_this_ = only_this; }
+
+    std::string FirstScheduledWith() override;
+    std::string NextScheduledWith() override;
+    void FirstScheduledWith(const std::string& contact) override;
+    void NextScheduledWith(const std::string& contact) override;
+
+private:
+    void move_to_first();
+    void set_filters(const ListFilters& filters);
+    void give_up_change();
+    const store::ActivityEntry& entry() const; // fails with 91 where there is no record
+    const store::ActivityRow& row() const;
+    store::Activity stored() const; // the current record as the store has it; fails with 440 when it is gone
+    std::string store_draft();
+    // Stores something of the current record beside its Update, which doesn't take it for another's change.
+    void store_at_once(const std::string& id, const std::function<void()>& write);
+    std::string scheduled_with();
+    void schedule_with(const std::string& contact);
+
+    class Exceptions;
+
+    std::shared_ptr<SharedStore> session_;
+    mutable Cursor cursor_; // it looks up where it stands when it is asked
+    std::unique_ptr<Exceptions> exceptions_;
+
+    std::optional<store::Activity> draft_; // between Edit or Add and Update
+    std::set<int> written_;                // the fields of the draft
+    mutable store::ActivityRow draft_row_; // the draft as it is read
+    bool only_this_ = false;
+
+    std::size_t contact_place_ = 0; // of the walk over the contacts
+    std::vector<std::string> contacts_;
+};
+
+} // namespace records

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "core/act/application.h"
+#include "core/values/locale.h"
+#include "desk/store/store.h"
+
+#include <optional>
+#include <set>
+#include <string>
+
+namespace model {
+
+using values::DateTime;
+
+enum class Period { all, today, past, future, range };
+
+// Which activities a list shows: those of certain types and priorities, of a period, of certain users, with or
+// without the cleared ones.
+struct ActivityFilter {
+    std::set<store::ActivityType> types{store::ActivityType::call, store::ActivityType::meeting,
+                                        store::ActivityType::to_do};
+    std::set<store::Priority> priorities{store::Priority::high, store::Priority::medium, store::Priority::low};
+    bool with_cleared = false;
+    Period period = Period::all;
+    DateTime from; // first and last day of Period::range, both inside
+    DateTime to;
+    std::string users; // ids joined; empty for every user
+
+    bool operator==(const ActivityFilter&) const = default;
+};
+
+// The filter as other programs read and set it. The mask: 2 for the cleared ones too; 4 calls, 8 meetings, 16
+// to-dos; 32 high, 64 medium, 128 low priority. The dates: "1" all, "2" today, "3" past, "4" today and future,
+// "6\<first day>\<last day>" in short dates. The users as above.
+act::ListFilter codes_of(const ActivityFilter& filter, const values::Locale& locale);
+// Fails with 440 when the dates can't be read.
+ActivityFilter filter_of(const act::ListFilter& codes, const values::Locale& locale);
+
+// The activities of the store that pass, those of a contact alone where one is given, by start and then by id. A
+// series is in a period when its run, from its first date to its last, meets the period.
+std::vector<store::Activity> filtered(store::Store& store, const ActivityFilter& filter, DateTime today,
+                                      const std::optional<std::string>& contact);
+
+} // namespace model

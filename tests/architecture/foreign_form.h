@@ -1,0 +1,3 @@
+#pragma once
+
+#include "ui_frmMain.h"

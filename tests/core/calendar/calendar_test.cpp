@@ -1,0 +1,26 @@
+#include "core/calendar/calendar.h"
+
+#include "core/shell/shell_world.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+TEST(Calendar, HearsTheEventsOfACTForAsLongAsItLives) {
+    support::PlatformWorld world;
+    support::FakeMainWindow window;
+    support::FakeDialogs dialogs;
+    support::FakeActData data;
+    support::FakeApplicationState state;
+    support::FakeServer server{data, state};
+    const support::FakeEventControl& events = world.events;
+    {
+        const calendar::Calendar calendar(window, dialogs, world.platform(server));
+        EXPECT_TRUE(events.OnDatabaseClose);
+        EXPECT_TRUE(events.OnActUserWantsToClose);
+    }
+    EXPECT_FALSE(events.OnDatabaseClose);
+    EXPECT_FALSE(events.OnActUserWantsToClose);
+}
+
+} // namespace

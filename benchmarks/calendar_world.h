@@ -19,20 +19,20 @@ public:
     // Shows the week that holds the day.
     CalendarWorld(std::string database, const std::string& settings_file, values::DateTime day)
         : database_(std::move(database)) {
-        ini.SettingsFile = settings_file;
-        session.Create_Database();
-        users.Initialize_Users(false);
-        users.map_users();
-        calendar.layout.NumDays = 7;
+        settings.ini.SettingsFile = settings_file;
+        act.session.Create_Database();
+        act.users.Initialize_Users(false);
+        act.users.map_users();
+        calendar.layout.NumDays(7);
         calendar.layout.Initialize_Dates(day);
-        calendar.Setup_Calendar(calendar.layout.StartDate, calendar.layout.EndDate);
+        calendar.Setup_Calendar(calendar.layout.StartDate(), calendar.layout.EndDate());
     }
 
     // A full refresh up to the filled slots: while every day is a day off, nothing is drawn.
     void fill() {
-        calendar.layout.DaysOff = "1234567";
+        calendar.layout.DaysOff("1234567");
         engine.refresh.Refresh_Data();
-        calendar.layout.DaysOff.clear();
+        calendar.layout.DaysOff("");
     }
     void draw() { calendar.rendering.Display_Changes(""); } // what was filled since it was last drawn
 
@@ -49,26 +49,28 @@ private:
     support::FakeServer desk_{desk_data_, desk_state_};
     support::FakeMessageBox box_;
     host::ApplicationInfo application_{.title = "Orvanta", .major = 1, .support_address = ""};
-    host::Guard guarded_{box_, application_};
     std::unique_ptr<host::Files> files_ = qt::make_files();
     support::FakeUserStore user_values_;
-    settings::PerUserStore user_store_{user_values_};
     support::FakeWindow window_;
+    support::FakeShell shell_;
     support::FakeFolders folders_;
     support::FakeTimer timer_;
-    const values::Locale& locale_ = values::english_us();
-    const bool is_loading_ = false;
 
 public:
     support::FakeClock clock;
-    settings::IniLib ini{*files_, guarded_};
-    act::Session session{*this, guarded_};
-    act::ListPopulator lists{session, guarded_};
-    act::UserList users{session, lists, ini, guarded_};
-    grid::CalendarGrid calendar{users, folders_,
-                                grid::Surroundings{ini, user_store_, locale_, clock, window_, guarded_}};
-    engine::CalendarEngine engine{engine::Surroundings{session, users, lists, calendar, ini, locale_, clock,
-                                                       timer_, box_, window_, guarded_, is_loading_}};
+    const host::Platform here{{.application = application_,
+                               .locale = values::english_us(),
+                               .clock = clock,
+                               .box = box_,
+                               .shell = shell_,
+                               .files = *files_,
+                               .folders = folders_,
+                               .user_store = user_values_},
+                              window_};
+    settings::Settings settings{here};
+    act::Connection act{here, settings, *this};
+    grid::CalendarGrid calendar{here, settings, act.users};
+    engine::CalendarEngine engine{here, settings, act, calendar, timer_};
     // Boxes that were shown: a run with one of them measured something else.
     std::size_t failures() const { return box_.shown.size(); }
 };

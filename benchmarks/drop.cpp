@@ -89,7 +89,7 @@ public:
     double drop() {
         const Cell from = activity_cell();
         const grid::Layout& layout = window_.calendar().grid.layout;
-        const int col = from.col + 1 < layout.FixedCols + layout.NumDays ? from.col + 1 : layout.FixedCols;
+        const int col = from.col + 1 < layout.FixedCols() + layout.NumDays() ? from.col + 1 : layout.FixedCols();
         const QPoint source = middle(from), target = middle({from.row, col});
         send(QEvent::MouseButtonPress, source, Qt::LeftButton, Qt::LeftButton);
         send(QEvent::MouseMove, target, Qt::NoButton, Qt::LeftButton);
@@ -139,7 +139,7 @@ private:
         for (int row = 1; row < layout.Cells.rows() && id_.empty(); ++row) {
             int occupied = 0;
             const grid::clsMsgSchedCell* found = nullptr;
-            for (int col = layout.FixedCols; col < layout.Cells.cols(); ++col) {
+            for (int col = layout.FixedCols(); col < layout.Cells.cols(); ++col) {
                 const grid::clsMsgSchedCell& cell = layout.Cells(row, col);
                 if (cell.IsOccupied() || !cell.DependsOnActivity().empty()) {
                     ++occupied;
@@ -162,7 +162,7 @@ private:
 
     support::HalfRealServer server_;
     std::unique_ptr<store::Store> store_;
-    mutable ui::frmMain window_{platform(server_)};
+    mutable ui::frmMain window_{outside(server_)};
     ui::GridWidget* grid_ = nullptr;
     std::string id_;
 };

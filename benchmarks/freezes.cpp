@@ -112,7 +112,7 @@ private:
     WatchedApplication& application_;
     support::TemporaryDatabase database_;
     support::HalfRealServer server_{database_.path()};
-    ui::frmMain window_{platform(server_)};
+    ui::frmMain window_{outside(server_)};
 };
 
 } // namespace

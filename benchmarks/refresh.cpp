@@ -68,7 +68,7 @@ public:
     }
     bool is_shown_where_it_was_moved(bench::CalendarWorld& world) const {
         const grid::Layout& layout = world.calendar.layout;
-        for (int slot = 0; slot < layout.SlotsCount; ++slot) {
+        for (int slot = 0; slot < layout.SlotsCount(); ++slot) {
             const grid::clsMsgSchedSlot& one = layout.Slots(slot, layout.GetDayCol(start_));
             for (int index = 0; index < one.record_count(); ++index)
                 if (one.record(index).InUse && one.record(index).ActivityID == id_ &&
@@ -116,7 +116,7 @@ Result measure(const std::string& database, const support::TemporaryFolder& fold
     }
     changing.emplace(database, settings, day);
     changing->calendar.selection.SelectedCell =
-        changing->calendar.layout.Cells.reference(1, changing->calendar.layout.FixedCols);
+        changing->calendar.layout.Cells.reference(1, changing->calendar.layout.FixedCols());
     changing->clock.time = store::wall_clock().plus_minutes(1); // behind the moment when the database was filled
     Mover mover(database, changing->clock);
     for (int run = 0; run <= bench::runs; ++run) {
@@ -125,7 +125,7 @@ Result measure(const std::string& database, const support::TemporaryFolder& fold
         const double again = bench::measured([&] { engine.refresh.Refresh_Data(); });
         changing->clock.time = changing->clock.time.plus_minutes(1);
         mover.move();
-        const double changed = bench::measured([&] { engine.quick_refresh.Add_New(engine.refresh.LastRefresh); });
+        const double changed = bench::measured([&] { engine.quick_refresh.Add_New(engine.placing.LastRefresh); });
         if (!mover.is_shown_where_it_was_moved(*changing))
             give_up("A quick refresh missed the change");
         if (run > 0) {

@@ -1,17 +1,12 @@
 #pragma once
 
-#include "core/act/session.h"
-#include "core/act/user_list.h"
+#include "core/act/connection.h"
 #include "core/grid/calendar_grid.h"
-#include "core/host/application_info.h"
-#include "core/host/guard.h"
-#include "core/settings/ini_lib.h"
-#include "core/settings/per_user_store.h"
-#include "core/values/locale.h"
 #include "support/fake_act_server.h"
 #include "support/fake_clock.h"
 #include "support/fake_folders.h"
 #include "support/fake_message_box.h"
+#include "support/fake_shell.h"
 #include "support/fake_user_store.h"
 #include "support/fake_window.h"
 #include "support/memory_files.h"
@@ -25,7 +20,16 @@ namespace support {
 // 2024, 9:00; the settings file is empty and the locale American.
 class GridWorld {
 public:
-    explicit GridWorld(const values::Locale& locale = values::english_us()) : surroundings_locale(locale) {
+    explicit GridWorld(const values::Locale& locale = values::english_us())
+        : here{{.application = application,
+                .locale = locale,
+                .clock = clock,
+                .box = box,
+                .shell = shell,
+                .files = files,
+                .folders = folders,
+                .user_store = user_values},
+               window} {
         ini.SettingsFile = "/program/Orvanta.ini";
     }
 
@@ -48,33 +52,33 @@ public:
         users.Initialize_Users(false);
         users.map_users();
         grid::Layout& layout = calendar.layout;
-        layout.NumDays = days;
-        layout.OneRowPerUser = one_row_per_user;
-        layout.FixedCols = one_row_per_user ? 2 : 1;
+        layout.NumDays(days);
+        layout.OneRowPerUser(one_row_per_user);
         layout.Initialize_Dates(date);
-        calendar.Setup_Calendar(layout.StartDate, layout.EndDate);
+        calendar.Setup_Calendar(layout.StartDate(), layout.EndDate());
     }
 
     FakeMessageBox box;
     host::ApplicationInfo application{
         .title = "Orvanta", .major = 1, .minor = 0, .revision = 0, .support_address = "help@example.org"};
-    host::Guard guarded{box, application};
     MemoryFiles files;
-    settings::IniLib ini{files, guarded};
     FakeUserStore user_values;
-    settings::PerUserStore user_store{user_values};
     FakeClock clock{values::DateTime::of(2024, 1, 10, 9, 0)};
     FakeWindow window;
+    FakeShell shell;
     FakeFolders folders;
+    const host::Platform here;
+    const host::Guard& guarded = here.guarded;
+    settings::Settings settings{here};
+    settings::IniLib& ini = settings.ini;
+    settings::PerUserStore& user_store = settings.user_store;
     FakeActData act_data;
     FakeApplicationState application_state;
     FakeServer server{act_data, application_state};
-    act::Session session{server, guarded};
-    act::ListPopulator lists{session, guarded};
-    act::UserList users{session, lists, ini, guarded};
-    const values::Locale& surroundings_locale;
-    grid::CalendarGrid calendar{users, folders,
-                                grid::Surroundings{ini, user_store, surroundings_locale, clock, window, guarded}};
+    act::Connection act{here, settings, server};
+    act::Session& session = act.session;
+    act::UserList& users = act.users;
+    grid::CalendarGrid calendar{here, settings, users};
 };
 
 } // namespace support

@@ -33,22 +33,32 @@ public:
         return lines;
     }
 
-    calendar::Platform platform(act::Server& server) { return platform(server, box, events); }
-    // With a box and events that are real ones.
-    calendar::Platform platform(act::Server& server, host::MessageBox& box, act::EventControl& events) {
+    host::Machine machine() {
         return {.application = application,
                 .locale = values::english_us(),
-                .box = box,
                 .clock = clock,
-                .tmrRefresh = tmrRefresh,
-                .tmr2 = tmr2,
+                .box = box,
                 .shell = shell,
-                .user_store = user_store,
                 .files = files,
                 .folders = folders,
+                .user_store = user_store};
+    }
+    calendar::Outside outside(act::Server& server) { return outside(server, box, events); }
+    // With a box and events that are real ones.
+    calendar::Outside outside(act::Server& server, host::MessageBox& one_box, act::EventControl& events) {
+        return {.machine = {.application = application,
+                            .locale = values::english_us(),
+                            .clock = clock,
+                            .box = one_box,
+                            .shell = shell,
+                            .files = files,
+                            .folders = folders,
+                            .user_store = user_store},
                 .program = program,
                 .server = server,
-                .ActEvent1 = events};
+                .ActEvent1 = events,
+                .tmrRefresh = tmrRefresh,
+                .tmr2 = tmr2};
     }
 
     FakeMessageBox box;

@@ -18,8 +18,6 @@ constexpr int tick_milliseconds = 1;
 constexpr int longest_wait = 120'000; // milliseconds for one dialog of the desk
 constexpr unsigned knocking_seed = 7;
 
-calendar::Platform with(const calendar::Platform& platform) { return platform; }
-
 std::function<void(const std::string&)> teller(const RandomHand& hand) {
     const char* log = std::getenv("ORVANTA_WALK_LOG");
     if (!log)
@@ -35,19 +33,20 @@ std::function<void(const std::string&)> teller(const RandomHand& hand) {
 OpenCalendar::OpenCalendar(const QDBusConnection& bus, const std::string& folder)
     : link_(bus::make_link(bus)), user_store_(*files_, folder + "/user-store.ini"), shell_(bus, user_values_),
       folders_(qt::make_folders(folder, folder)), server_(link_, locale_),
-      ActEvent1_(bus::make_event_control(link_)), window_(with({.application = host::application_info(),
-                                                                .locale = locale_,
-                                                                .box = *box_,
-                                                                .clock = *clock_,
-                                                                .tmrRefresh = *tmrRefresh_,
-                                                                .tmr2 = *tmr2_,
-                                                                .shell = shell_,
-                                                                .user_store = user_store_,
-                                                                .files = *files_,
-                                                                .folders = *folders_,
-                                                                .program = process_,
-                                                                .server = server_,
-                                                                .ActEvent1 = *ActEvent1_})) {}
+      ActEvent1_(bus::make_event_control(link_)),
+      window_(calendar::Outside{.machine = {.application = host::application_info(),
+                                            .locale = locale_,
+                                            .clock = *clock_,
+                                            .box = *box_,
+                                            .shell = shell_,
+                                            .files = *files_,
+                                            .folders = *folders_,
+                                            .user_store = user_store_},
+                                .program = process_,
+                                .server = server_,
+                                .ActEvent1 = *ActEvent1_,
+                                .tmrRefresh = *tmrRefresh_,
+                                .tmr2 = *tmr2_}) {}
 
 Walker::Walker(const QDBusConnection& bus, DeskProcess& desk, const std::string& database,
                const std::string& folder, unsigned seed, long events)

@@ -41,19 +41,19 @@ int main(int argc, char** argv) {
     apps::DeskServer server(link, locale);
     const auto ActEvent1 = bus::make_event_control(link);
 
-    ui::frmMain window({.application = info,
-                        .locale = locale,
-                        .box = *box,
-                        .clock = *clock,
-                        .tmrRefresh = *tmrRefresh,
-                        .tmr2 = *tmr2,
-                        .shell = *shell,
-                        .user_store = *user_store,
-                        .files = *files,
-                        .folders = *folders,
+    ui::frmMain window({.machine = {.application = info,
+                                    .locale = locale,
+                                    .clock = *clock,
+                                    .box = *box,
+                                    .shell = *shell,
+                                    .files = *files,
+                                    .folders = *folders,
+                                    .user_store = *user_store},
                         .program = process,
                         .server = server,
-                        .ActEvent1 = *ActEvent1});
+                        .ActEvent1 = *ActEvent1,
+                        .tmrRefresh = *tmrRefresh,
+                        .tmr2 = *tmr2});
     std::unique_ptr<qt::EndRequests> end_requests;
     const auto load = [&] {
         window.load();

@@ -88,7 +88,7 @@ class EventControl {
 public:
     virtual ~EventControl() = default;
     virtual int Open_Databases(int argument) = 0; // 0 also when the application can't be reached
-    virtual bool Communication_Failed() = 0; // meaningful after Open_Databases gave 0
+    virtual bool Communication_Failed() = 0;      // meaningful after Open_Databases gave 0
     virtual void Disconnect() = 0;
     std::function<void()> OnDatabaseClose;
     std::function<void()> OnActUserWantsToClose;

@@ -11,8 +11,8 @@ namespace act {
 class Server {
 public:
     virtual ~Server() = default;
-    virtual std::unique_ptr<Application> create_application() = 0; // "ACTOLE.APPOBJECT"
-    virtual std::unique_ptr<Database> create_database() = 0; // "ACTOLE.DATABASE"
+    virtual std::unique_ptr<Application> create_application() = 0;  // "ACTOLE.APPOBJECT"
+    virtual std::unique_ptr<Database> create_database() = 0;        // "ACTOLE.DATABASE"
     virtual std::unique_ptr<AuxCommands> create_aux_commands() = 0; // "ACTOLE.AUXCMDS"
 };
 

@@ -9,37 +9,20 @@
 
 namespace engine {
 
-// What the engine needs of its surroundings.
-struct Surroundings {
-    act::Session& session;
-    const act::UserList& users;
-    act::ListPopulator& lists;
-    grid::CalendarGrid& grid;
-    const settings::IniLib& settings;
-    const values::Locale& locale;
-    const host::Clock& clock;
-    host::Timer& tmrRefresh;
-    host::MessageBox& box;
-    host::Window& window;
-    const host::Guard& guarded;
-    const bool& bLoading; // true until the window has first been shown
-};
-
 // The road from the activity list to the grid, put together.
 class CalendarEngine {
 public:
-    explicit CalendarEngine(const Surroundings& here)
-        : cell_text(here.session, here.lists, here.grid.layout, here.settings, here.locale, here.guarded),
-          placing(here.session, here.users, cell_text, here.grid.layout, here.settings, here.locale, here.guarded),
-          recurring(here.session, here.users, placing, here.grid.layout, here.locale, here.guarded),
-          refresh(here.session, here.users, here.grid, placing, recurring, here.settings, here.locale, here.clock,
-                  here.window, here.guarded, here.bLoading),
-          quick_refresh(here.session, here.users, here.grid, placing, recurring, refresh, here.settings,
-                        here.locale, here.clock, here.window, here.guarded),
-          refresh_timer(quick_refresh, refresh, here.settings, here.tmrRefresh, here.box, here.guarded) {}
+    CalendarEngine(const host::Platform& here, const settings::Settings& settings, act::Connection& connection,
+                   grid::CalendarGrid& calendar_grid, host::Timer& tmrRefresh)
+        : act(connection), grid(calendar_grid), cell_text(here, settings, act, grid.layout),
+          placing(here, settings, act, grid.layout, cell_text), recurring(here, act, grid.layout, placing),
+          refresh(here, settings, act, grid, recurring), quick_refresh(here, settings, act, grid, recurring),
+          refresh_timer(here, settings, tmrRefresh, quick_refresh, placing) {}
     CalendarEngine(const CalendarEngine&) = delete; // its parts point to each other
     CalendarEngine& operator=(const CalendarEngine&) = delete;
 
+    act::Connection& act;
+    grid::CalendarGrid& grid;
     CellText cell_text;
     Placing placing;
     Recurring recurring;

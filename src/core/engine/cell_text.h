@@ -1,11 +1,7 @@
 #pragma once
 
-#include "core/act/populate_lists.h"
-#include "core/act/session.h"
+#include "core/act/connection.h"
 #include "core/grid/layout.h"
-#include "core/host/guard.h"
-#include "core/settings/ini_lib.h"
-#include "core/values/locale.h"
 
 #include <array>
 #include <string>
@@ -21,10 +17,9 @@ inline constexpr std::array<std::string_view, 3> Priorities = {"High", "Medium",
 // activity.
 class CellText {
 public:
-    CellText(act::Session& session, act::ListPopulator& lists, const grid::Layout& layout,
-             const settings::IniLib& settings, const values::Locale& locale, const host::Guard& guarded)
-        : session_(session), lists_(lists), layout_(layout), settings_(settings), locale_(locale),
-          guarded_(guarded) {}
+    CellText(const host::Platform& here, const settings::Settings& settings, act::Connection& act,
+             const grid::Layout& layout)
+        : here_(here), settings_(settings), act_(act), layout_(layout) {}
 
     int DisplayContactField = 26; // the contact field with which the text begins
 
@@ -45,12 +40,10 @@ private:
     std::string value_of(const ExtraField& field);
     std::string activity_value(int field);
 
-    act::Session& session_;
-    act::ListPopulator& lists_;
+    const host::Platform& here_;
+    const settings::Settings& settings_;
+    act::Connection& act_;
     const grid::Layout& layout_;
-    const settings::IniLib& settings_;
-    const values::Locale& locale_;
-    const host::Guard& guarded_;
     std::vector<ExtraField> extra_fields_;
 };
 

@@ -16,7 +16,7 @@ std::string_view flag(bool on) { return on ? "1" : "0"; }
 } // namespace
 
 void Placing::read_settings() {
-    slots_.read(layout_.slot_times(), layout_.SlotsCount);
+    slots_.read(layout_.slot_times(), layout_.SlotsCount());
     cell_text_.read_settings();
     user_colours_.clear();
     last_ = {};
@@ -25,14 +25,30 @@ void Placing::read_settings() {
 }
 
 void Placing::Treat_Activity(DateTime date, int duration, bool recurring) {
-    guarded_("in modRefresh: Sub Treat_Activity - Line # ", [&](host::Step& step) {
+    here_.guarded("in modRefresh: Sub Treat_Activity - Line # ", [&](host::Step& step) {
         namespace field = act::activity_field;
-        const act::Activity& activity = *session_.ActActivity;
+        const act::Activity& activity = *act_.session.ActActivity;
+        const auto text = [&](int number) { return values::text_of(activity.Data(number), here_.locale); };
         step = 10;
         const int col = layout_.GetDayCol(date);
         step = 20;
-        if (last_.id.empty() || values::text_of(activity.Data(field::id), locale_) != last_.id)
-            last_ = read_current(step);
+        if (last_.id.empty() || text(field::id) != last_.id) {
+            Shared fresh{.own_colour = text(field::colour)};
+            if (!values::is_numeric(fresh.own_colour))
+                fresh.own_colour = "0";
+            step = 30;
+            fresh.contact = text(field::contact);
+            step = 40;
+            fresh.type = std::to_string(values::int16_of(activity.Data(field::type)) + 1);
+            step = 50;
+            fresh.id = text(field::id);
+            step = 60;
+            fresh.cleared = text(field::cleared) == "1";
+            fresh.user = text(field::scheduled_for);
+            step = 70;
+            fresh.has_details = activity.HasDetails();
+            last_ = std::move(fresh);
+        }
         step = 80;
         const std::optional<int> slot = slots_.slot_of(date);
         if (!slot)
@@ -53,31 +69,18 @@ void Placing::Treat_Activity(DateTime date, int duration, bool recurring) {
         }
         step = 140;
         layout_.Slots(*slot, col)
-            .SetCell(last_.id, last_.contact, flag(recurring), flag(last_.cleared), "", last_.colour, last_.type,
-                     last_.text, last_.sort_text, flag(last_.has_details), further_slots);
+            .SetCell({.ActivityID = last_.id,
+                      .ContactID = last_.contact,
+                      .Recurring = flag(recurring),
+                      .Cleared = flag(last_.cleared),
+                      .BackColor = "",
+                      .ForeColor = last_.colour,
+                      .Type = last_.type,
+                      .Text = last_.text,
+                      .Detail = last_.sort_text,
+                      .HasDetails = flag(last_.has_details),
+                      .GoesBeyond = further_slots});
     });
-}
-
-Placing::Shared Placing::read_current(host::Step& step) const {
-    namespace field = act::activity_field;
-    const act::Activity& activity = *session_.ActActivity;
-    const auto text = [&](int number) { return values::text_of(activity.Data(number), locale_); };
-    Shared shared;
-    shared.own_colour = text(field::colour);
-    if (!values::is_numeric(shared.own_colour))
-        shared.own_colour = "0";
-    step = 30;
-    shared.contact = text(field::contact);
-    step = 40;
-    shared.type = std::to_string(values::int16_of(activity.Data(field::type)) + 1);
-    step = 50;
-    shared.id = text(field::id);
-    step = 60;
-    shared.cleared = text(field::cleared) == "1";
-    shared.user = text(field::scheduled_for);
-    step = 70;
-    shared.has_details = activity.HasDetails();
-    return shared;
 }
 
 std::string Placing::colour_of(const std::string& own_colour, const std::string& user_id) {
@@ -90,7 +93,7 @@ std::string Placing::colour_of(const std::string& own_colour, const std::string&
         const std::string& name = user_name(user_id);
         const auto [place, is_new] = user_colours_.try_emplace(name);
         if (is_new)
-            place->second = read(settings_, settings::keys::user_color(name));
+            place->second = read(settings_.ini, settings::keys::user_color(name));
         return std::to_string(values::to_int32(place->second));
     }
     }
@@ -99,14 +102,14 @@ std::string Placing::colour_of(const std::string& own_colour, const std::string&
 
 const std::string& Placing::user_name(const std::string& user_id) const {
     static const std::string nobody;
-    const auto found = users_.UserIdToName.find(user_id);
-    return found == users_.UserIdToName.end() ? nobody : found->second;
+    const auto found = act_.users.UserIdToName.find(user_id);
+    return found == act_.users.UserIdToName.end() ? nobody : found->second;
 }
 
 std::string Placing::start_text(const values::Value& start) {
     const auto* date = std::get_if<DateTime>(&start);
     if (!date)
-        return values::text_of(start, locale_);
+        return values::text_of(start, here_.locale);
     const DateTime day = date->date(), time = date->time();
     if (day == DateTime() || time == DateTime())
         return date_text(*date);
@@ -116,7 +119,7 @@ std::string Placing::start_text(const values::Value& start) {
 const std::string& Placing::date_text(DateTime date) {
     const auto [place, is_new] = date_texts_.try_emplace(date.seconds());
     if (is_new)
-        place->second = values::default_text(date, locale_);
+        place->second = values::default_text(date, here_.locale);
     return place->second;
 }
 

@@ -1,14 +1,10 @@
 #pragma once
 
-#include "core/act/session.h"
-#include "core/act/user_list.h"
+#include "core/act/connection.h"
 #include "core/engine/cell_text.h"
 #include "core/engine/displayed_ids.h"
 #include "core/engine/slot_table.h"
 #include "core/grid/layout.h"
-#include "core/host/guard.h"
-#include "core/settings/ini_lib.h"
-#include "core/values/locale.h"
 #include "core/values/value.h"
 
 #include <cstdint>
@@ -25,11 +21,11 @@ enum class ActyColors { own = 0, fixed = 1, of_user = 2 };
 // Puts single occurrences into the slots of the grid.
 class Placing {
 public:
-    Placing(act::Session& session, const act::UserList& users, CellText& cell_text, grid::Layout& layout,
-            const settings::IniLib& settings, const values::Locale& locale, const host::Guard& guarded)
-        : session_(session), users_(users), cell_text_(cell_text), layout_(layout), settings_(settings),
-          locale_(locale), guarded_(guarded) {}
+    Placing(const host::Platform& here, const settings::Settings& settings, act::Connection& act,
+            grid::Layout& layout, CellText& cell_text)
+        : here_(here), settings_(settings), act_(act), layout_(layout), cell_text_(cell_text) {}
 
+    DateTime LastRefresh; // when the last refresh of any kind began
     // Read at each full refresh.
     int ShowActyColorsMode = 0; // as ActyColors
     std::string FixedActyColor = "&H0";
@@ -50,24 +46,23 @@ public:
 private:
     // What an activity's occurrences have in common, as its slots get it.
     struct Shared {
-        std::string id, contact, user, own_colour, type;
-        bool cleared = false, has_details = false;
+        std::string own_colour{}, contact{}, type{}, id{};
+        bool cleared = false;
+        std::string user{};
+        bool has_details = false;
         // Composed once an occurrence has found its slot, empty before.
-        std::string colour, text, sort_text;
+        std::string colour{}, text{}, sort_text{};
     };
-    Shared read_current(host::Step& step) const;
     std::string colour_of(const std::string& own_colour, const std::string& user_id);
     const std::string& user_name(const std::string& user_id) const;
     std::string start_text(const values::Value& start);
     const std::string& date_text(DateTime date);
 
-    act::Session& session_;
-    const act::UserList& users_;
-    CellText& cell_text_;
+    const host::Platform& here_;
+    const settings::Settings& settings_;
+    act::Connection& act_;
     grid::Layout& layout_;
-    const settings::IniLib& settings_;
-    const values::Locale& locale_;
-    const host::Guard& guarded_;
+    CellText& cell_text_;
     SlotTable slots_;
     Shared last_; // of the last activity, since the occurrences of a series follow one another
     std::unordered_map<std::string, std::string> user_colours_; // by name, as far as they were needed

@@ -23,13 +23,13 @@ std::string mark_of(int row, int col) { return "|" + std::to_string(row) + "," +
 } // namespace
 
 void QuickRefresh::Add_New(DateTime since) {
-    guarded_("in modRefresh: Sub Add_New - Line # ", [&](host::Step& step) {
+    here_.guarded("in modRefresh: Sub Add_New - Line # ", [&](host::Step& step) {
         step = 10;
-        refresh_.LastRefresh = clock_.now();
+        placing_.LastRefresh = here_.clock.now();
         step = 20;
-        window_.show_hourglass();
+        here_.window.show_hourglass();
         step = 30;
-        const auto look = session_.ActDatabase->One_Look();
+        const auto look = act_.session.ActDatabase->One_Look();
         std::string treated; // marks of the cells that were cleared
         for (const std::string& id : values::ids_in(Find_New(since))) {
             step = 40;
@@ -46,7 +46,7 @@ void QuickRefresh::Add_New(DateTime since) {
             Refresh_Activity(id, clear_selected);
         }
         step = 60;
-        window_.show_default_pointer();
+        here_.window.show_default_pointer();
     });
 }
 
@@ -63,10 +63,10 @@ void QuickRefresh::clear_cell_of(const std::string& id, std::string& treated) {
 }
 
 std::string QuickRefresh::Find_New(DateTime since) {
-    return guarded_("in modRefresh: Function Find_New - Line # ", [&](host::Step& step) {
+    return here_.guarded("in modRefresh: Function Find_New - Line # ", [&](host::Step& step) {
         step = 10;
         std::string changed;
-        act::Activity& activity = *session_.ActActivity;
+        act::Activity& activity = *act_.session.ActActivity;
         step = 20;
         activity.Rebuild();
         step = 30;
@@ -82,7 +82,7 @@ std::string QuickRefresh::Find_New(DateTime since) {
             if (activity.isEOF())
                 break;
             const std::string id = text(activity, field::id);
-            const auto edited = values::date_of(activity.Data(field::edited), locale_);
+            const auto edited = values::date_of(activity.Data(field::edited), here_.locale);
             if (edited && *edited > since)
                 changed = id;
             if (missing)
@@ -93,17 +93,17 @@ std::string QuickRefresh::Find_New(DateTime since) {
 }
 
 void QuickRefresh::Refresh_Activity(std::string id, bool clear_selected) {
-    guarded_("in modRefresh: Sub Refresh_Activity - Line # ", [&](host::Step& step) {
+    here_.guarded("in modRefresh: Sub Refresh_Activity - Line # ", [&](host::Step& step) {
         step = 10;
         if (clear_selected)
             grid_.selection.selected().Clear();
         step = 20;
         placing_.read_settings();
         step = 30;
-        session_.ActActivity = session_.ActDatabase->Activity();
-        act::Activity& activity = *session_.ActActivity;
+        act_.session.ActActivity = act_.session.ActDatabase->Activity();
+        act::Activity& activity = *act_.session.ActActivity;
         step = 40;
-        const auto look = session_.ActDatabase->One_Look();
+        const auto look = act_.session.ActDatabase->One_Look();
         activity.Rebuild();
         step = 50;
         activity.Goto(id);
@@ -120,12 +120,12 @@ void QuickRefresh::Refresh_Activity(std::string id, bool clear_selected) {
 }
 
 void QuickRefresh::place_single(act::Activity& activity) {
-    const auto date = values::date_of(activity.Data(field::date), locale_);
-    if (!date || !recurrence::InRange(*date, {grid_.layout.StartDate, grid_.layout.EndDate}))
+    const auto date = values::date_of(activity.Data(field::date), here_.locale);
+    if (!date || !recurrence::InRange(*date, {grid_.layout.StartDate(), grid_.layout.EndDate()}))
         return;
-    if (!passes_filters(activity) || !users_.passes_filter(text(activity, field::scheduled_for)))
+    if (!passes_filters(activity) || !act_.users.passes_filter(text(activity, field::scheduled_for)))
         return;
-    const DateTime start = values::to_date(text(activity, field::start), locale_);
+    const DateTime start = values::to_date(text(activity, field::start), here_.locale);
     placing_.Treat_Activity(start, values::int16_of(activity.Data(field::duration)), false);
 }
 
@@ -133,12 +133,12 @@ bool QuickRefresh::passes_filters(const act::Activity& activity) const {
     namespace keys = settings::keys;
     std::string types, priorities;
     for (int number = 0; number <= 2; ++number) {
-        if (is_one(settings_, keys::filter_type(number)))
+        if (is_one(settings_.ini, keys::filter_type(number)))
             types += std::to_string(number);
-        if (is_one(settings_, keys::filter_priority(number)))
+        if (is_one(settings_.ini, keys::filter_priority(number)))
             priorities += std::to_string(number);
     }
-    const bool with_cleared = is_one(settings_, keys::filter_show_cleared);
+    const bool with_cleared = is_one(settings_.ini, keys::filter_show_cleared);
     const std::string cleared = text(activity, field::cleared);
     return values::contains(priorities, text(activity, field::priority)) &&
            values::contains(types, text(activity, field::type)) &&
@@ -146,23 +146,23 @@ bool QuickRefresh::passes_filters(const act::Activity& activity) const {
 }
 
 void QuickRefresh::place_series(act::Activity& activity) {
-    if (!users_.passes_filter(text(activity, field::scheduled_for)))
+    if (!act_.users.passes_filter(text(activity, field::scheduled_for)))
         return;
-    const auto start = values::date_of(activity.Data(field::start), locale_);
-    if (!start || recurrence::Form_Dat(*start) > grid_.layout.EndDate)
+    const auto start = values::date_of(activity.Data(field::start), here_.locale);
+    if (!start || recurrence::Form_Dat(*start) > grid_.layout.EndDate())
         return;
-    if (activity.GetRecurringUntilDate() < grid_.layout.StartDate)
+    if (activity.GetRecurringUntilDate() < grid_.layout.StartDate())
         return;
     recurring_.treat_series(*start, values::int16_of(activity.Data(field::duration)));
 }
 
-void QuickRefresh::Ask_Refresh(bool changed, const std::string& second_id, int row, int col) {
-    guarded_("in modRefresh: Sub Ask_Refresh - Line # ", [&](host::Step& step) {
+void QuickRefresh::Ask_Refresh(const Touched& touched) {
+    here_.guarded("in modRefresh: Sub Ask_Refresh - Line # ", [&](host::Step& step) {
         step = 10;
-        window_.bring_to_front();
+        here_.window.bring_to_front();
         step = 20;
-        if (!changed) {
-            Add_New(refresh_.LastRefresh);
+        if (!touched.selected) {
+            Add_New(placing_.LastRefresh);
             return;
         }
         step = 30;
@@ -172,17 +172,18 @@ void QuickRefresh::Ask_Refresh(bool changed, const std::string& second_id, int r
         // The slot's number is the flag, so a cell in the first slot isn't cleared.
         Refresh_Activity(cell.ActivityID(), cell.Slot() != 0);
         step = 50;
-        if (second_id.empty())
+        if (touched.second_id.empty())
             return;
-        grid_.selection.SelectedCell = grid_.layout.Cells.reference(row, col);
+        grid_.selection.SelectedCell =
+            grid_.layout.Cells.reference(touched.second_place.row, touched.second_place.col);
         step = 60;
-        Refresh_Activity(second_id, true);
+        Refresh_Activity(touched.second_id, true);
     });
 }
 
 std::string QuickRefresh::AddOtherIDs(std::string ids) {
-    return guarded_("in modRefresh: Function AddOtherIDs - Line # ", [&](host::Step& step) {
-        act::Activity& activity = *session_.ActActivity;
+    return here_.guarded("in modRefresh: Function AddOtherIDs - Line # ", [&](host::Step& step) {
+        act::Activity& activity = *act_.session.ActActivity;
         step = 10;
         std::string contact = activity.FirstScheduledWith();
         do {
@@ -196,7 +197,7 @@ std::string QuickRefresh::AddOtherIDs(std::string ids) {
 }
 
 void QuickRefresh::Erase_Slot(std::string_view id) {
-    guarded_("in frmMain: Sub Erase_Slot - Line # ", [&](host::Step& step) {
+    here_.guarded("in frmMain: Sub Erase_Slot - Line # ", [&](host::Step& step) {
         step = 10;
         for (const grid::clsMsgSchedCell& cell : grid_.layout.Cells) {
             if (!cell.ActivityID().starts_with(id))
@@ -211,7 +212,7 @@ void QuickRefresh::Erase_Slot(std::string_view id) {
 }
 
 std::string QuickRefresh::text(const act::Activity& activity, int number) const {
-    return values::text_of(activity.Data(number), locale_);
+    return values::text_of(activity.Data(number), here_.locale);
 }
 
 } // namespace engine

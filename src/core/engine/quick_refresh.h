@@ -1,15 +1,10 @@
 #pragma once
 
-#include "core/act/session.h"
-#include "core/act/user_list.h"
+#include "core/act/connection.h"
 #include "core/engine/placing.h"
 #include "core/engine/recurring.h"
 #include "core/engine/refresh.h"
 #include "core/grid/calendar_grid.h"
-#include "core/host/guard.h"
-#include "core/host/window.h"
-#include "core/settings/ini_lib.h"
-#include "core/values/locale.h"
 
 #include <string>
 #include <string_view>
@@ -19,13 +14,10 @@ namespace engine {
 // The cheaper ways to bring the grid up to date between two full refreshes.
 class QuickRefresh {
 public:
-    QuickRefresh(act::Session& session, const act::UserList& users, grid::CalendarGrid& grid, Placing& placing,
-                 Recurring& recurring, Refresh& refresh, const settings::IniLib& settings,
-                 const values::Locale& locale, const host::Clock& clock, host::Window& window,
-                 const host::Guard& guarded)
-        : session_(session), users_(users), grid_(grid), placing_(placing), recurring_(recurring),
-          refresh_(refresh), settings_(settings), locale_(locale), clock_(clock), window_(window),
-          guarded_(guarded) {}
+    QuickRefresh(const host::Platform& here, const settings::Settings& settings, act::Connection& act,
+                 grid::CalendarGrid& grid, Recurring& recurring)
+        : here_(here), settings_(settings), act_(act), grid_(grid), placing_(recurring.placing()),
+          recurring_(recurring) {}
 
     // The quick refresh: what changed or vanished since then is read again. Callers pass LastRefresh.
     void Add_New(DateTime since);
@@ -35,9 +27,16 @@ public:
     // Reads one activity again, from a new list without filters and scope. The selected cell can be cleared
     // first.
     void Refresh_Activity(std::string id, bool clear_selected);
-    // After a command that may have changed something: the selected activity is read again where the caller
-    // knows of a change, and then a second one, which becomes the selected cell; else a quick refresh finds out.
-    void Ask_Refresh(bool changed, const std::string& second_id, int row, int col);
+    // What a command may have changed: the activity of the selected cell, and then a second one at a place of its
+    // own, none where its id is empty. Nothing is known where neither is.
+    struct Touched {
+        bool selected = false;
+        std::string second_id{};
+        table::Place second_place{};
+    };
+    // After a command: the activity of the selected cell is read again where it was touched, and then the second
+    // one, whose place becomes the selected cell; else a quick refresh finds out.
+    void Ask_Refresh(const Touched& touched);
     // The contacts with whom the current activity is scheduled, appended to a list of ids that may hold them.
     std::string AddOtherIDs(std::string ids);
     // Takes the first cell that shows the activity off the grid, and its id out of DisplayedIDs.
@@ -50,17 +49,12 @@ private:
     void place_series(act::Activity& activity);
     std::string text(const act::Activity& activity, int field) const;
 
-    act::Session& session_;
-    const act::UserList& users_;
+    const host::Platform& here_;
+    const settings::Settings& settings_;
+    act::Connection& act_;
     grid::CalendarGrid& grid_;
     Placing& placing_;
     Recurring& recurring_;
-    Refresh& refresh_;
-    const settings::IniLib& settings_;
-    const values::Locale& locale_;
-    const host::Clock& clock_;
-    host::Window& window_;
-    const host::Guard& guarded_;
 };
 
 } // namespace engine

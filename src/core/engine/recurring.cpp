@@ -6,27 +6,27 @@
 namespace engine {
 
 void Recurring::Treat_Recurring() {
-    guarded_("in modRefresh: Sub Treat_Recurring - Line # ", [&](host::Step& step) {
+    here_.guarded("in modRefresh: Sub Treat_Recurring - Line # ", [&](host::Step& step) {
         namespace field = act::activity_field;
-        act::Activity& activity = *session_.ActActivity;
+        act::Activity& activity = *act_.session.ActActivity;
         step = 10;
         activity.ClearDateScope();
         step = 20;
         activity.MoveFirst();
         step = 30;
-        const auto skip = [&] { activity.SkipToRecurring(layout_.StartDate, layout_.EndDate); };
+        const auto skip = [&] { activity.SkipToRecurring(layout_.StartDate(), layout_.EndDate()); };
         for (skip(); !activity.isEOF(); activity.MoveNext(), skip()) {
             if (!activity.isRecurring())
                 continue;
             step = 40;
-            if (!users_.passes_filter(values::text_of(activity.Data(field::scheduled_for), locale_)))
+            if (!act_.users.passes_filter(values::text_of(activity.Data(field::scheduled_for), here_.locale)))
                 continue;
             step = 50;
-            const auto start = values::date_of(activity.Data(field::start), locale_);
-            if (!start || *start > layout_.EndDate)
+            const auto start = values::date_of(activity.Data(field::start), here_.locale);
+            if (!start || *start > layout_.EndDate())
                 continue;
             step = 60;
-            if (activity.GetRecurringUntilDate() < layout_.StartDate)
+            if (activity.GetRecurringUntilDate() < layout_.StartDate())
                 continue;
             step = 70;
             treat_series(*start, values::int16_of(activity.Data(field::duration)));
@@ -36,7 +36,7 @@ void Recurring::Treat_Recurring() {
 }
 
 void Recurring::treat_series(DateTime start, int duration) {
-    switch (session_.ActActivity->recurringType()) {
+    switch (act_.session.ActActivity->recurringType()) {
     case 1:
         return Treat_Daily(start, duration);
     case 2:
@@ -67,8 +67,8 @@ void Recurring::Treat_Monthly(DateTime start, int duration) {
 }
 
 void Recurring::treat(std::string_view place, Walk walk, DateTime start, int duration) {
-    guarded_(place, [&](host::Step& step) {
-        act::Activity& activity = *session_.ActActivity;
+    here_.guarded(place, [&](host::Step& step) {
+        act::Activity& activity = *act_.session.ActActivity;
         step = 10;
         const recurrence::Rule rule{.start = start,
                                     .frequency = activity.GetRecurringFrequency(),
@@ -77,20 +77,20 @@ void Recurring::treat(std::string_view place, Walk walk, DateTime start, int dur
                                     .weeks_of_month = activity.GetWeeksOfMonthBits(),
                                     .days_of_month = activity.GetDaysOfMonthBits()};
         step = 20;
-        walk(rule, {layout_.StartDate, layout_.EndDate},
+        walk(rule, {layout_.StartDate(), layout_.EndDate()},
              {.Exception = [this](DateTime date) { return Exception(date); },
               .occurrence = [&](DateTime date) { placing_.Treat_Activity(date, duration, true); }});
     });
 }
 
 bool Recurring::Exception(DateTime date) {
-    return guarded_("in modRefresh: Function Exception - Line # ", [&](host::Step& step) {
+    return here_.guarded("in modRefresh: Function Exception - Line # ", [&](host::Step& step) {
         step = 10;
-        const act::ExceptionInfo& exceptions = session_.ActActivity->ExceptionInfo();
+        const act::ExceptionInfo& exceptions = act_.session.ActActivity->ExceptionInfo();
         step = 20;
         for (int index = 1; index <= exceptions.Count(); ++index) {
             const values::Value value = exceptions.value(index);
-            const auto exception = values::date_of(value, locale_);
+            const auto exception = values::date_of(value, here_.locale);
             if (!exception)
                 throw values::Failure(values::FailureNumber::type_mismatch);
             if (recurrence::Form_Dat(*exception) == recurrence::Form_Dat(date))

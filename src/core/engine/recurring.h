@@ -1,12 +1,9 @@
 #pragma once
 
-#include "core/act/session.h"
-#include "core/act/user_list.h"
+#include "core/act/connection.h"
 #include "core/engine/placing.h"
 #include "core/grid/layout.h"
-#include "core/host/guard.h"
 #include "core/recurrence/starts.h"
-#include "core/values/locale.h"
 
 #include <string_view>
 
@@ -15,10 +12,10 @@ namespace engine {
 // Expands the series of the activity list into the shown dates.
 class Recurring {
 public:
-    Recurring(act::Session& session, const act::UserList& users, Placing& placing, const grid::Layout& layout,
-              const values::Locale& locale, const host::Guard& guarded)
-        : session_(session), users_(users), placing_(placing), layout_(layout), locale_(locale),
-          guarded_(guarded) {}
+    Recurring(const host::Platform& here, act::Connection& act, const grid::Layout& layout, Placing& placing)
+        : here_(here), act_(act), layout_(layout), placing_(placing) {}
+
+    Placing& placing() { return placing_; }
 
     // Every series of the list, with its filters and without its date scope. The list is at its end afterwards.
     void Treat_Recurring();
@@ -37,12 +34,10 @@ private:
     using Walk = void (*)(const recurrence::Rule&, const recurrence::ShownDates&, const recurrence::Visitor&);
     void treat(std::string_view place, Walk walk, DateTime start, int duration);
 
-    act::Session& session_;
-    const act::UserList& users_;
-    Placing& placing_;
+    const host::Platform& here_;
+    act::Connection& act_;
     const grid::Layout& layout_;
-    const values::Locale& locale_;
-    const host::Guard& guarded_;
+    Placing& placing_;
 };
 
 } // namespace engine

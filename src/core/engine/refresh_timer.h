@@ -3,9 +3,7 @@
 #include "core/engine/quick_refresh.h"
 #include "core/engine/refresh.h"
 #include "core/host/clock.h"
-#include "core/host/guard.h"
-#include "core/host/message_box.h"
-#include "core/settings/ini_lib.h"
+#include "core/settings/settings.h"
 
 #include <cstdint>
 
@@ -14,10 +12,10 @@ namespace engine {
 // Refreshes by itself every so often, after a question if the user wants to be asked.
 class RefreshTimer {
 public:
-    RefreshTimer(QuickRefresh& quick_refresh, const Refresh& refresh, const settings::IniLib& settings,
-                 host::Timer& tmrRefresh, host::MessageBox& box, const host::Guard& guarded)
-        : quick_refresh_(quick_refresh), refresh_(refresh), settings_(settings), tmrRefresh_(tmrRefresh),
-          box_(box), guarded_(guarded) {}
+    RefreshTimer(const host::Platform& here, const settings::Settings& settings, host::Timer& tmrRefresh,
+                 QuickRefresh& quick_refresh, const Placing& placing)
+        : here_(here), settings_(settings), tmrRefresh_(tmrRefresh), quick_refresh_(quick_refresh),
+          placing_(placing) {}
 
     // The period in milliseconds. The settings dialog changes it while the timer runs, or doesn't.
     std::int32_t AutoRefresh = 0;
@@ -27,12 +25,11 @@ public:
     void tmrRefresh_Timer(); // once a minute
 
 private:
-    QuickRefresh& quick_refresh_;
-    const Refresh& refresh_;
-    const settings::IniLib& settings_;
+    const host::Platform& here_;
+    const settings::Settings& settings_;
     host::Timer& tmrRefresh_;
-    host::MessageBox& box_;
-    const host::Guard& guarded_;
+    QuickRefresh& quick_refresh_;
+    const Placing& placing_;
     std::int32_t elapsed_ = 0; // milliseconds since the last refresh or question
 };
 

@@ -12,72 +12,72 @@ using values::Failure;
 using values::FailureNumber;
 
 void DaysOff::Form_Load() {
-    const bool is_complete = need_.guarded("in frmHolidays: Sub Form_Load - Line # ", [&](host::Step& step) {
+    const bool is_complete = here_.guarded("in frmHolidays: Sub Form_Load - Line # ", [&](host::Step& step) {
         step = 10;
         bLoading = true;
         changed = false;
         step = 20;
-        for (const std::string& line : need_.file.lines(need_.background.HolidaysFile))
+        for (const std::string& line : file_.lines())
             list_.append(line);
         step = 30;
-        need_.form.set_dtpHol(need_.clock.today());
+        form_.set_dtpHol(here_.clock.today());
         step = 40;
         for (int weekday = 1; weekday <= 7; ++weekday)
-            need_.form.set_chkday(weekday, is_stored(weekday));
+            form_.set_chkday(weekday, is_stored(weekday));
         step = 50;
-        need_.form.show_first_tab();
+        form_.show_first_tab();
         bLoading = false;
         return true;
     });
-    need_.form.fill_lvwHol(list_.holidays());
-    need_.form.set_cmdOK_enabled(is_complete);
+    form_.fill_lvwHol(list_.holidays());
+    form_.set_cmdOK_enabled(is_complete);
 }
 
 void DaysOff::Form_Unload() {
-    need_.guarded("in frmHolidays: Sub Form_Unload - Line # ", [&](host::Step& step) {
+    here_.guarded("in frmHolidays: Sub Form_Unload - Line # ", [&](host::Step& step) {
         step = 10;
         if (changed) // whatever the answer
-            need_.box.show({.text = "You will need to restart the program for the changes to take effect.",
-                            .title = need_.application.title,
+            here_.box.show({.text = "You will need to restart the program for the changes to take effect.",
+                            .title = here_.application.title,
                             .icon = host::Icon::information,
                             .buttons = host::Buttons::cancel_try_continue});
     });
 }
 
 void DaysOff::cmdOK_Click() {
-    need_.guarded("in frmHolidays: Sub cmdOK_Click - Line # ", [&](host::Step& step) {
+    here_.guarded("in frmHolidays: Sub cmdOK_Click - Line # ", [&](host::Step& step) {
         step = 10;
-        need_.file.write(need_.background.HolidaysFile, list_.holidays());
+        file_.write(list_.holidays());
         step = 20;
-        need_.background.Holidays = need_.file.Get_Holidays(need_.background.HolidaysFile);
+        file_.Holidays = file_.Get_Holidays();
         step = 30;
         for (int weekday = 1; weekday <= 7; ++weekday)
             store(weekday);
         step = 40;
-        need_.form.unload();
+        form_.unload();
     });
 }
 
 void DaysOff::cmdCancel_Click() {
-    need_.guarded("in frmHolidays: Sub cmdCancel_Click - Line # ", [&](host::Step& step) {
+    here_.guarded("in frmHolidays: Sub cmdCancel_Click - Line # ", [&](host::Step& step) {
         step = 10;
-        need_.form.unload();
+        form_.unload();
     });
 }
 
 void DaysOff::cmdAdd_Click() {
-    need_.guarded("in frmHolidays: Sub cmdAdd_Click - Line # ", [&](host::Step& step) {
+    here_.guarded("in frmHolidays: Sub cmdAdd_Click - Line # ", [&](host::Step& step) {
         step = 10;
-        const values::DateTime date = need_.form.dtpHol();
-        if (list_.has_read(values::short_date(date, need_.locale)))
+        const values::DateTime date = form_.dtpHol();
+        if (list_.has_read(values::short_date(date, here_.locale)))
             return;
         step = 20;
-        need_.form.show_frmDescr(sDescr);
+        form_.show_frmDescr(sDescr);
         step = 30;
         if (!sDescr.empty()) {
             step = 40;
-            const std::size_t place = list_.insert(date, sDescr, need_.locale);
-            need_.form.insert_into_lvwHol(place, list_.holidays()[place]);
+            const std::size_t place = list_.insert(date, sDescr, here_.locale);
+            form_.insert_into_lvwHol(place, list_.holidays()[place]);
         }
         step = 50;
         changed = true;
@@ -85,23 +85,23 @@ void DaysOff::cmdAdd_Click() {
 }
 
 void DaysOff::cmdDelete_Click() {
-    need_.guarded("in frmHolidays: Sub cmdDelete_Click - Line # ", [&](host::Step& step) {
+    here_.guarded("in frmHolidays: Sub cmdDelete_Click - Line # ", [&](host::Step& step) {
         step = 10;
-        const std::optional<std::size_t> place = need_.form.selected_in_lvwHol();
+        const std::optional<std::size_t> place = form_.selected_in_lvwHol();
         if (!place)
             throw Failure(FailureNumber::object_not_set);
         if (list_.holidays()[*place].date.empty())
             return;
         step = 20;
-        const host::Answer answer = need_.box.show({.text = "Do you really want to delete this item?",
-                                                    .title = need_.application.title,
+        const host::Answer answer = here_.box.show({.text = "Do you really want to delete this item?",
+                                                    .title = here_.application.title,
                                                     .icon = host::Icon::critical,
                                                     .buttons = host::Buttons::yes_no,
                                                     .second_is_default = true});
         step = 30;
         if (answer == host::Answer::yes) {
             list_.remove(*place);
-            need_.form.remove_from_lvwHol(*place);
+            form_.remove_from_lvwHol(*place);
         }
         step = 40;
         changed = true;
@@ -109,7 +109,7 @@ void DaysOff::cmdDelete_Click() {
 }
 
 void DaysOff::chkday_Click(int) {
-    need_.guarded("in frmHolidays: Sub chkday_Click - Line # ", [&](host::Step& step) {
+    here_.guarded("in frmHolidays: Sub chkday_Click - Line # ", [&](host::Step& step) {
         step = 10;
         if (!bLoading)
             changed = true;
@@ -117,18 +117,18 @@ void DaysOff::chkday_Click(int) {
 }
 
 bool DaysOff::is_stored(int weekday) const {
-    return values::leading_number(settings::read(need_.ini, keys::day_off(weekday))) == 1;
+    return values::leading_number(settings::read(settings_.ini, keys::day_off(weekday))) == 1;
 }
 
 // A day that comes back into use gives up its saved width, that of a hidden column.
 void DaysOff::store(int weekday) {
-    const bool is_off = need_.form.chkday(weekday);
+    const bool is_off = form_.chkday(weekday);
     if (!is_off && is_stored(weekday)) {
         const std::string width =
-            settings::read(need_.ini, keys::std_col_width, std::to_string(need_.layout.StdColWidth));
-        settings::write(need_.user_store, keys::col_width(need_.layout.FixedCols + weekday - 1), width);
+            settings::read(settings_.ini, keys::std_col_width, std::to_string(layout_.StdColWidth()));
+        settings::write(settings_.user_store, keys::col_width(layout_.nth_day_col(weekday)), width);
     }
-    if (!settings::write(need_.ini, keys::day_off(weekday), is_off ? "1" : "0"))
+    if (!settings::write(settings_.ini, keys::day_off(weekday), is_off ? "1" : "0"))
         throw Failure(FailureNumber::path_file_access);
 }
 

@@ -2,16 +2,9 @@
 
 #include "core/forms/holiday_list.h"
 #include "core/forms/holidays_form.h"
-#include "core/grid/background.h"
 #include "core/grid/holiday_file.h"
 #include "core/grid/layout.h"
-#include "core/host/application_info.h"
-#include "core/host/clock.h"
-#include "core/host/guard.h"
-#include "core/host/message_box.h"
-#include "core/settings/ini_lib.h"
-#include "core/settings/per_user_store.h"
-#include "core/values/locale.h"
+#include "core/settings/settings.h"
 
 #include <string>
 
@@ -21,20 +14,9 @@ namespace forms {
 // which stand in a file of their own.
 class DaysOff {
 public:
-    struct Needs {
-        HolidaysForm& form;
-        grid::HolidayFile& file;
-        grid::Background& background; // knows the file's place, and the holidays that the grid shows
-        const grid::Layout& layout;
-        settings::IniLib& ini;
-        settings::PerUserStore& user_store;
-        const values::Locale& locale;
-        const host::Clock& clock;
-        host::MessageBox& box;
-        const host::ApplicationInfo& application;
-        const host::Guard& guarded;
-    };
-    explicit DaysOff(const Needs& needs) : need_(needs) {}
+    DaysOff(const host::Platform& here, settings::Settings& settings, HolidaysForm& form, grid::HolidayFile& file,
+            const grid::Layout& layout)
+        : here_(here), settings_(settings), form_(form), file_(file), layout_(layout) {}
 
     std::string sDescr;    // handed over by frmDescr, and kept when that is cancelled
     bool bLoading = false; // stays on after a failure in Form_Load
@@ -56,7 +38,11 @@ private:
     bool is_stored(int weekday) const;
     void store(int weekday);
 
-    Needs need_;
+    const host::Platform& here_;
+    settings::Settings& settings_;
+    HolidaysForm& form_;
+    grid::HolidayFile& file_;
+    const grid::Layout& layout_;
     HolidayList list_;
 };
 

@@ -2,10 +2,10 @@
 
 namespace grid {
 
-CalendarGrid::CalendarGrid(act::UserList& users, const host::Folders& folders, const Surroundings& surroundings)
-    : layout(msgSched, users, surroundings), writer(layout, folders, surroundings.guarded),
-      titles(layout, writer, users, surroundings), background(layout, writer, titles, users, surroundings),
-      rendering(layout, writer, selection, surroundings.guarded), here_(surroundings) {}
+CalendarGrid::CalendarGrid(const host::Platform& here, const settings::Settings& settings,
+                           const act::UserList& users)
+    : layout(here, settings, users, msgSched), writer(here, layout), titles(here, settings, users, writer),
+      background(here, settings, users, titles), rendering(here, writer, selection), here_(here) {}
 
 void CalendarGrid::Setup_Calendar(values::DateTime start, values::DateTime end) {
     here_.guarded("in frmMain: Sub Setup_Calendar - Line # ", [&](host::Step& step) {

@@ -11,9 +11,7 @@ using values::Failure;
 using values::FailureNumber;
 
 void clsMsgSchedCell::Initialize(int row, int col, std::string_view text, std::string_view activity_id) {
-    fixed_rows_ = 1;
-    fixed_cols_ = static_cast<std::int16_t>(layout_->FixedCols);
-    cells_per_slot_ = static_cast<std::int16_t>(layout_->CellsPerSlot);
+    lines_ = layout_->lines();
     row_ = static_cast<std::int16_t>(row);
     col_ = static_cast<std::int16_t>(col);
     if (!text.empty())
@@ -24,20 +22,18 @@ void clsMsgSchedCell::Initialize(int row, int col, std::string_view text, std::s
     initialized_ = true;
 }
 
-int clsMsgSchedCell::Slot() const {
-    if (cells_per_slot_ == 0)
-        throw Failure(FailureNumber::overflow);
-    return (row_ - fixed_rows_) / cells_per_slot_;
-}
+int clsMsgSchedCell::Slot() const { return lines_.slot_of(row_); }
 
 values::DateTime clsMsgSchedCell::Time() const { return layout_->slot_times().start(Slot()); }
 
 std::string clsMsgSchedCell::Duration() const { return layout_->slot_times().duration_text(Slot()); }
 
-values::DateTime clsMsgSchedCell::Day() const { return layout_->StartDate.plus_days(col_ - fixed_cols_).date(); }
+values::DateTime clsMsgSchedCell::Day() const {
+    return layout_->StartDate().plus_days(lines_.day_of(col_)).date();
+}
 
 std::string_view clsMsgSchedCell::User() const {
-    return layout_->OneRowPerUser ? layout_->Cells(row_, 1).Text() : std::string_view();
+    return layout_->OneRowPerUser() ? layout_->Cells(row_, 1).Text() : std::string_view();
 }
 
 std::string_view clsMsgSchedCell::Text() const { return values::trimmed(text_); }
@@ -56,7 +52,9 @@ void Cells::rebuild(const Layout& layout, int rows, int cols) {
     cols_ = cols;
 }
 
-CellReference Cells::reference(int row, int col) const { return CellReference(records_, &(*this)(row, col)); }
+CellReference Cells::reference(int row, int col) {
+    return CellReference(std::shared_ptr<clsMsgSchedCell>(records_, &(*this)(row, col)));
+}
 
 std::size_t Cells::index(int row, int col) const {
     if (row < 0 || row >= rows_ || col < 0 || col >= cols_)

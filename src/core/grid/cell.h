@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/grid/day_grid.h"
 #include "core/table/grid_model.h"
 #include "core/values/date_time.h"
 
@@ -7,6 +8,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace grid {
@@ -81,14 +83,32 @@ private:
     const Layout* layout_;
     std::string text_, activity_id_, contact_id_, sort_text_, depends_on_activity_;
     table::Colour back_color_ = 0, fore_color_ = 0;
-    std::int16_t row_ = 0, col_ = 0, fixed_rows_ = 0, fixed_cols_ = 0, cells_per_slot_ = 0;
+    DayGrid lines_; // as it was at Initialize
+    std::int16_t row_ = 0, col_ = 0;
     std::int16_t duration_minutes_ = 0, icon_index_ = 0, depends_on_row_ = 0, depends_on_col_ = 0;
     bool recurring_ = false, cleared_ = false, has_details_ = false, goes_beyond_ = false, initialized_ = false;
 };
 
 // A cell that somebody keeps beyond the call: one of the grid's own records, shared with it, or one that stands
 // by itself. It stays good when the grid's records are replaced, as the old record then. Unset it is null.
-using CellReference = std::shared_ptr<clsMsgSchedCell>;
+class CellReference {
+public:
+    CellReference() = default;
+    explicit CellReference(std::shared_ptr<clsMsgSchedCell> cell) : cell_(std::move(cell)) {}
+
+    void reset() { cell_.reset(); }
+    explicit operator bool() const { return cell_ != nullptr; }
+    clsMsgSchedCell* get() { return cell_.get(); }
+    const clsMsgSchedCell* get() const { return cell_.get(); }
+    clsMsgSchedCell& operator*() { return *cell_; }
+    const clsMsgSchedCell& operator*() const { return *cell_; }
+    clsMsgSchedCell* operator->() { return cell_.get(); }
+    const clsMsgSchedCell* operator->() const { return cell_.get(); }
+    bool operator==(const CellReference&) const = default;
+
+private:
+    std::shared_ptr<clsMsgSchedCell> cell_;
+};
 
 // All records of the grid by row and column, the fixed ones included. An index outside fails with 9.
 class Cells {
@@ -98,12 +118,16 @@ public:
     int rows() const { return rows_; }
     int cols() const { return cols_; }
 
-    clsMsgSchedCell& operator()(int row, int col) const { return (*records_)[index(row, col)]; }
+    clsMsgSchedCell& operator()(int row, int col) { return (*records_)[index(row, col)]; }
+    const clsMsgSchedCell& operator()(int row, int col) const { return (*records_)[index(row, col)]; }
     // The record itself to keep, not a copy.
-    CellReference reference(int row, int col) const;
+    CellReference reference(int row, int col);
 
-    std::vector<clsMsgSchedCell>::iterator begin() const { return records_->begin(); } // row by row
-    std::vector<clsMsgSchedCell>::iterator end() const { return records_->end(); }
+    // Row by row.
+    std::vector<clsMsgSchedCell>::iterator begin() { return records_->begin(); }
+    std::vector<clsMsgSchedCell>::iterator end() { return records_->end(); }
+    std::vector<clsMsgSchedCell>::const_iterator begin() const { return records_->begin(); }
+    std::vector<clsMsgSchedCell>::const_iterator end() const { return records_->end(); }
 
 private:
     std::size_t index(int row, int col) const;

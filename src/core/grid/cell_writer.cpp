@@ -3,7 +3,7 @@
 namespace grid {
 
 void CellWriter::Write_Cell(table::GridModel& grid, int row, int col, const CellContent& content) {
-    guarded_("in modRefresh: Sub Write_Cell - Line # ", [&](host::Step& step) {
+    here_.guarded("in modRefresh: Sub Write_Cell - Line # ", [&](host::Step& step) {
         step = 10;
         grid.Row(row);
         grid.Col(col);
@@ -13,8 +13,8 @@ void CellWriter::Write_Cell(table::GridModel& grid, int row, int col, const Cell
         step = 30;
         if (content.alignment != table::Alignment::left_top)
             grid.CellAlignment(content.alignment);
-        if (content.bold > 0)
-            grid.CellFontBold(content.bold != 1);
+        if (content.bold)
+            grid.CellFontBold(*content.bold);
         step = 40;
         if (content.back_color != 0)
             grid.CellBackColor(content.back_color);
@@ -41,7 +41,7 @@ void CellWriter::Write_Cell(table::GridModel& grid, int row, int col, const Cell
 }
 
 void CellWriter::Add_toGridID(int row, int col, const CellDetails& details) {
-    guarded_("in modRefresh: Sub Add_toGridID - Line # ", [&](host::Step& step) {
+    here_.guarded("in modRefresh: Sub Add_toGridID - Line # ", [&](host::Step& step) {
         step = 10;
         clsMsgSchedCell& cell = layout_.Cells(row, col);
         if (!cell.Initialized())
@@ -52,9 +52,9 @@ void CellWriter::Add_toGridID(int row, int col, const CellDetails& details) {
         if (details.contact_id)
             cell.ContactID(*details.contact_id);
         if (details.recurring)
-            cell.Recurring(*details.recurring == 1);
+            cell.Recurring(*details.recurring);
         if (details.cleared)
-            cell.Cleared(*details.cleared == 1);
+            cell.Cleared(*details.cleared);
         if (details.back_color)
             cell.BackColor(*details.back_color);
         if (details.fore_color)
@@ -62,7 +62,7 @@ void CellWriter::Add_toGridID(int row, int col, const CellDetails& details) {
         if (details.icon_index)
             cell.IconIndex(*details.icon_index);
         if (details.has_details)
-            cell.HasDetails(*details.has_details == 1);
+            cell.HasDetails(*details.has_details);
         if (!details.sort_text.empty())
             cell.SortText(details.sort_text);
         if (!details.text.empty())
@@ -82,10 +82,10 @@ std::string CellWriter::GetPicture(int type, bool recurring, bool has_details) c
         name.insert(0, "wd");
     if (recurring)
         name.insert(0, "r");
-    return folders_.in_program_folder(name);
+    return here_.folders.in_program_folder(name);
 }
 
-std::string CellWriter::plus_picture() const { return folders_.in_program_folder("plus.gif"); }
+std::string CellWriter::plus_picture() const { return here_.folders.in_program_folder("plus.gif"); }
 
 void CellWriter::record_place(std::string_view activity_id, int row, int col) {
     ActivityCells.insert_or_assign(std::string(activity_id), std::to_string(row) + "|" + std::to_string(col));

@@ -17,7 +17,7 @@ namespace grid {
 struct CellContent {
     std::string_view activity_id = {};
     std::optional<std::string_view> text = {};
-    int bold = 0; // 1 not bold, 2 bold
+    std::optional<bool> bold = {};
     table::Colour back_color = 0;
     table::Colour fore_color = 0;
     table::Alignment alignment = table::Alignment::left_top;
@@ -31,21 +31,20 @@ struct CellContent {
 struct CellDetails {
     std::optional<std::string_view> activity_id = {};
     std::optional<std::string_view> contact_id = {};
-    std::optional<int> recurring = {}; // 1 is true
-    std::optional<int> cleared = {};
+    std::optional<bool> recurring = {};
+    std::optional<bool> cleared = {};
     std::optional<table::Colour> back_color = {};
     std::optional<table::Colour> fore_color = {};
     std::optional<int> icon_index = {};
     std::string_view sort_text = {};
     std::string_view text = {};
-    std::optional<int> has_details = {};
+    std::optional<bool> has_details = {};
 };
 
 // Writes single cells of a grid and the records behind the main one.
 class CellWriter {
 public:
-    CellWriter(Layout& layout, const host::Folders& folders, const host::Guard& guarded)
-        : layout_(layout), folders_(folders), guarded_(guarded) {}
+    CellWriter(const host::Platform& here, Layout& layout) : here_(here), layout_(layout) {}
 
     bool ShowIcons = false; // read at each full refresh
     // Activity id to "row|column" of the cell that was last written for it.
@@ -62,15 +61,14 @@ public:
     // Remembers that a cell shows an activity.
     void record_place(std::string_view activity_id, int row, int col);
 
-    Layout& layout() const { return layout_; }
+    Layout& layout() { return layout_; }
 
     // Leading blanks that keep a text clear of the picture.
     static constexpr std::string_view picture_room = "       ";
 
 private:
+    const host::Platform& here_;
     Layout& layout_;
-    const host::Folders& folders_;
-    const host::Guard& guarded_;
 };
 
 } // namespace grid

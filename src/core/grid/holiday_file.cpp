@@ -4,6 +4,7 @@
 #include "core/settings/text_encoding.h"
 #include "core/values/failure.h"
 #include "core/values/text.h"
+#include "core/values/text_forms.h"
 
 namespace grid {
 
@@ -28,11 +29,15 @@ std::string_view next_line(std::string_view& text) {
 
 } // namespace
 
-std::vector<std::string> HolidayFile::lines(const std::string& path) const {
+bool HolidayFile::holds(values::DateTime day) const {
+    return values::contains(Holidays, "|" + values::short_date(day, here_.locale) + "|");
+}
+
+std::vector<std::string> HolidayFile::lines() const {
     std::vector<std::string> lines;
-    if (!files_.exists(path))
+    if (!here_.files.exists(HolidaysFile))
         return lines;
-    const std::optional<host::FileContent> file = files_.read(path, most_bytes);
+    const std::optional<host::FileContent> file = here_.files.read(HolidaysFile, most_bytes);
     if (!file)
         throw Failure(FailureNumber::path_file_access);
     const settings::FileText content = settings::decoded(file->bytes);
@@ -43,11 +48,11 @@ std::vector<std::string> HolidayFile::lines(const std::string& path) const {
     return lines;
 }
 
-std::string HolidayFile::Get_Holidays(const std::string& path) const {
-    return guarded_("in frmMain: Function Get_Holidays - Line # ", [&](host::Step& step) {
+std::string HolidayFile::Get_Holidays() const {
+    return here_.guarded("in frmMain: Function Get_Holidays - Line # ", [&](host::Step& step) {
         std::string holidays;
         step = 10;
-        for (const std::string& line : lines(path)) {
+        for (const std::string& line : lines()) {
             step = 20;
             const std::vector<std::string> pieces = values::split(line, "=");
             step = 30;
@@ -59,16 +64,16 @@ std::string HolidayFile::Get_Holidays(const std::string& path) const {
     });
 }
 
-void HolidayFile::write(const std::string& path, std::span<const Holiday> holidays) {
+void HolidayFile::write(std::span<const Holiday> holidays) {
     settings::FileText file;
-    if (const auto old = files_.read(path, most_bytes))
+    if (const auto old = here_.files.read(HolidaysFile, most_bytes))
         file = settings::decoded(old->bytes);
     file.odd_byte.clear();
     file.text = "[Holidays]\r\n";
     for (const Holiday& holiday : holidays)
         file.text += holiday.date + "=" + holiday.description + "\r\n";
     const std::string bytes = settings::encoded(file);
-    if (bytes.size() > most_bytes || !files_.replace(path, bytes))
+    if (bytes.size() > most_bytes || !here_.files.replace(HolidaysFile, bytes))
         throw Failure(FailureNumber::path_file_access);
 }
 

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "core/host/files.h"
-#include "core/host/guard.h"
+#include "core/host/platform.h"
 
 #include <span>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace grid {
@@ -18,22 +18,26 @@ struct Holiday {
 // its description.
 class HolidayFile {
 public:
-    HolidayFile(host::Files& files, const host::Guard& guarded) : files_(files), guarded_(guarded) {}
+    explicit HolidayFile(const host::Platform& here) : here_(here) {}
 
-    // The dates of the file at a path, a bar on both sides of each; empty when there is no file. An empty line
-    // among the holidays is a failure.
-    std::string Get_Holidays(const std::string& path) const;
+    std::string HolidaysFile; // its path
+    std::string Holidays;     // the short dates that it held when they were last taken in, each between two bars
 
-    // The lines behind the first one; none when there is no file. Fails with 75 when the file can't be read.
-    std::vector<std::string> lines(const std::string& path) const;
+    // Whether the day is one of Holidays.
+    bool holds(values::DateTime day) const;
+
+    // The dates of the file, a bar on both sides of each; empty when there is no file. An empty line among the
+    // holidays is a failure.
+    std::string Get_Holidays() const;
+    // The lines after the first one; none when there is no file. Fails with 75 when the file can't be read.
+    std::vector<std::string> lines() const;
     // Makes these holidays the file's content. A file that is there keeps its encoding where that has all the
-    // characters. Fails with 75, with the file untouched, when it can't be written
-    // or would be too large to be read again.
-    void write(const std::string& path, std::span<const Holiday> holidays);
+    // characters. Fails with 75, with the file untouched, when it can't be written or would be too large to be
+    // read again.
+    void write(std::span<const Holiday> holidays);
 
 private:
-    host::Files& files_;
-    const host::Guard& guarded_;
+    const host::Platform& here_;
 };
 
 } // namespace grid

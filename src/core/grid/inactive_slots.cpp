@@ -1,4 +1,4 @@
-#include "core/grid/background.h"
+#include "core/grid/inactive_slots.h"
 
 #include "core/settings/catalogue.h"
 #include "core/values/failure.h"
@@ -11,36 +11,36 @@ namespace grid {
 using values::Failure;
 using values::FailureNumber;
 
-void Background::Color_offSlots(table::GridModel& grid, host::Window& owner, bool main_grid) {
+void InactiveSlots::Color_offSlots(table::GridModel& grid, host::Window& owner, bool main_grid) {
     here_.guarded("in modColorOffSlot: Sub Color_offSlots - Line # ", [&](host::Step& step) {
         step = 10;
         owner.show_hourglass();
         owner.lock_updates();
-        for (int day = 1; day <= layout_.NumDays; ++day) {
+        for (int day = 1; day <= layout_.NumDays(); ++day) {
             step = 20;
             const std::string ranges =
-                settings::read(here_.ini, settings::keys::inactive_ranges(weekday_of(day, main_grid)));
+                settings::read(settings_.ini, settings::keys::inactive_ranges(weekday_of(day, main_grid)));
             if (ranges.empty())
                 continue;
             step = 30;
             read_ranges(ranges);
-            // One column to the right of the day where there is one fixed column.
-            const int col = day + (main_grid ? 1 : 0);
-            for (int row = 1; row < grid.Rows(); ++row) {
+            const int col = main_grid ? layout_.off_col(day) : day;
+            for (int row = DayGrid::first_row; row < grid.Rows(); ++row) {
                 step = 40;
                 if (In_Slot(grid, row, day, main_grid)) {
                     step = 50;
                     grid.Row(row);
                     grid.Col(col);
-                    grid.CellBackColor(values::to_int32(layout_.Color3));
+                    grid.CellBackColor(values::to_int32(layout_.Color3()));
                     if (main_grid)
-                        writer_.Add_toGridID(row, col, {.back_color = holiday_or_inactive});
+                        writer_.Add_toGridID(row, col, {.back_color = Bands::off_selector});
                 } else if (main_grid) {
                     step = 60;
                     grid.Row(row);
                     grid.Col(col);
-                    if (grid.CellBackColor() == values::to_int32(layout_.Color3) && !is_holiday(col))
-                        grid.CellBackColor(GetBackGroundColor(row));
+                    if (grid.CellBackColor() == values::to_int32(layout_.Color3()) &&
+                        !holidays_.holds(layout_.date_of_column(col)))
+                        grid.CellBackColor(bands_.GetBackGroundColor(row));
                 }
             }
         }
@@ -50,15 +50,15 @@ void Background::Color_offSlots(table::GridModel& grid, host::Window& owner, boo
     });
 }
 
-std::string Background::weekday_of(int day, bool main_grid) const {
+std::string InactiveSlots::weekday_of(int day, bool main_grid) const {
     if (main_grid)
-        return values::weekday_name(layout_.StartDate.plus_days(day - 1), here_.locale);
-    if (layout_.FirstDayOfWeek < 1 || layout_.FirstDayOfWeek > 7)
+        return values::weekday_name(layout_.nth_day(day), here_.locale);
+    if (layout_.FirstDayOfWeek() < 1 || layout_.FirstDayOfWeek() > 7)
         throw Failure(FailureNumber::invalid_procedure_call);
-    return here_.locale.weekdays[static_cast<std::size_t>((layout_.FirstDayOfWeek - 1 + day - 1) % 7)];
+    return here_.locale.weekdays[static_cast<std::size_t>((layout_.FirstDayOfWeek() - 1 + day - 1) % 7)];
 }
 
-void Background::read_ranges(const std::string& ranges) {
+void InactiveSlots::read_ranges(const std::string& ranges) {
     OffStarts.clear();
     OffEnds.clear();
     for (const std::string& range : values::split(ranges, ",")) {
@@ -70,7 +70,7 @@ void Background::read_ranges(const std::string& ranges) {
     }
 }
 
-bool Background::In_Slot(table::GridModel&, int row, int day, bool main_grid) {
+bool InactiveSlots::In_Slot(table::GridModel&, int row, int day, bool main_grid) {
     return here_.guarded("in modColorOffSlot: Function In_Slot - Line # ", [&](host::Step& step) {
         step = 10;
         const values::DateTime time = main_grid ? time_of_row(row) : time_of_cell(row, day);
@@ -82,10 +82,10 @@ bool Background::In_Slot(table::GridModel&, int row, int day, bool main_grid) {
     });
 }
 
-values::DateTime Background::time_of_row(int row) {
-    if (row < 0 || row >= static_cast<int>(layout_.RowTimes.size()))
+values::DateTime InactiveSlots::time_of_row(int row) {
+    if (row < 0 || row >= static_cast<int>(layout_.RowTimes().size()))
         throw Failure(FailureNumber::subscript_out_of_range);
-    const std::string& text = layout_.RowTimes[static_cast<std::size_t>(row)];
+    const std::string& text = layout_.RowTimes()[static_cast<std::size_t>(row)];
     if (text != row_time_text_) {
         row_time_ = values::to_date(text, here_.locale);
         row_time_text_ = text;
@@ -93,7 +93,7 @@ values::DateTime Background::time_of_row(int row) {
     return row_time_;
 }
 
-values::DateTime Background::time_of_cell(int row, int day) const {
+values::DateTime InactiveSlots::time_of_cell(int row, int day) const {
     clsMsgSchedCell spare(layout_);
     spare.Initialize(row, day);
     return spare.Time();

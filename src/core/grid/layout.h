@@ -1,69 +1,66 @@
 #pragma once
 
+#include "core/act/user_list.h"
 #include "core/grid/cell.h"
+#include "core/grid/day_grid.h"
 #include "core/grid/slot.h"
 #include "core/grid/slot_times.h"
-#include "core/host/clock.h"
-#include "core/host/guard.h"
-#include "core/host/window.h"
-#include "core/settings/ini_lib.h"
-#include "core/settings/per_user_store.h"
+#include "core/host/platform.h"
+#include "core/settings/settings.h"
 #include "core/table/grid_model.h"
 #include "core/values/date_time.h"
-#include "core/values/locale.h"
 
 #include <string>
+#include <string_view>
 #include <vector>
 
-namespace act {
-class UserList;
-}
 namespace grid {
 
-// What the grid room needs of its surroundings.
-struct Surroundings {
-    const settings::IniLib& ini;
-    const settings::PerUserStore& user_store;
-    const values::Locale& locale;
-    const host::Clock& clock;
-    host::Window& window;
-    const host::Guard& guarded;
-};
-
-// How days, time slots and users map to the columns and rows of the grid, and the records behind it. Nobody else
-// does arithmetic with rows, columns and days.
+// Which days, time slots and users lie in which columns and rows of the grid, and the records behind its cells.
+// Nobody else reckons with rows, columns and days.
 class Layout {
 public:
-    Layout(table::GridModel& msgSched, act::UserList& users, const Surroundings& surroundings);
+    Layout(const host::Platform& here, const settings::Settings& settings, const act::UserList& users,
+           table::GridModel& msgSched);
     Layout(const Layout&) = delete; // its cells and slots point to it
     Layout& operator=(const Layout&) = delete;
 
-    // Set at start from the settings, and by the view boxes.
-    int NumDays = 0;   // 7 in the weekly view, 1 in the daily view
-    int FixedCols = 2; // 2 with OneRowPerUser, else 1
-    bool OneRowPerUser = true;
-    std::string DaysOff;    // digits of the weekdays that are hidden, 1 Sunday: "17"
-    int StdColWidth = 1800; // twips
-    int StdRowHeight = 820;
-    bool KeepCellDims = false; // on during a jump, which keeps widths and heights
-
-    // The days in view; no time part.
-    values::DateTime StartDate;
-    values::DateTime EndDate;
-    int FirstDayOfWeek = 1; // 1 Sunday to 7 Saturday
-    std::string lblYear;    // the caption of the year label
-
-    int SlotsCount = 0;
-    int CellsPerSlot = 0;                       // rows of a slot
-    std::vector<std::string> RowTimes;          // by grid row, the start of its slot as text
-    int FirstPMRow = 0;                         // the first row of the afternoon; 0 if there is none
-    std::string Color0, Color1, Color3, Color4; // as the settings write them
-
     grid::Cells Cells;
     grid::Slots Slots;
+    bool KeepCellDims = false; // on during a jump, which keeps widths and heights
 
-    // Computes StartDate and EndDate for a view that holds the date.
+    // How the calendar is laid out. All of this takes effect with the next Initialize_Calendar.
+    int NumDays() const { return NumDays_; } // 7 in the weekly view, 1 in the daily view
+    void NumDays(int days) { NumDays_ = days; }
+    std::string_view view_name() const; // the view's word in the names of keys
+    // A row for each user in each slot, or rows that all users share.
+    bool OneRowPerUser() const { return OneRowPerUser_; }
+    void OneRowPerUser(bool on);
+    int FixedCols() const { return lines_.fixed_cols(); }                  // 2 with OneRowPerUser, else 1
+    const std::string& DaysOff() const { return DaysOff_; }                // see next line
+    void DaysOff(std::string weekdays) { DaysOff_ = std::move(weekdays); } // digits, 1 Sunday: "17"
+    int StdColWidth() const { return StdColWidth_; }                       // twips
+    void StdColWidth(int twips) { StdColWidth_ = twips; }
+    int StdRowHeight() const { return StdRowHeight_; }
+    void StdRowHeight(int twips) { StdRowHeight_ = twips; }
+
+    // The days in view; no time part.
+    values::DateTime StartDate() const { return StartDate_; }
+    values::DateTime EndDate() const { return EndDate_; }
+    values::DateTime after_last_day() const { return StartDate_.plus_days(NumDays_); }
+    int FirstDayOfWeek() const { return FirstDayOfWeek_; }  // 1 Sunday to 7 Saturday
+    const std::string& lblYear() const { return lblYear_; } // the caption of the year label
+    // NumDays days from this one on. The year label names the year of that day, or of another.
+    void show(values::DateTime first_day) { show(first_day, first_day); }
+    void show(values::DateTime first_day, values::DateTime year_of);
+    // The days of the view that holds the date, after reading which day weeks begin on.
     void Initialize_Dates(values::DateTime date);
+    // The first day of the view that holds the date: of its week, or in the daily view the date itself, or the
+    // next day that isn't off. Fails with 5 when FirstDayOfWeek is no weekday.
+    values::DateTime first_day_for(values::DateTime date) const;
+    // Moves the days in view. A step of a single day goes on over days off.
+    void move_by(int days);
+
     // Sizes the grid for the days from start to end and its rows, and builds Slots and Cells anew. Window updates
     // stay locked.
     void Initialize_Calendar(values::DateTime start, values::DateTime end);
@@ -72,32 +69,72 @@ public:
     // Hides the columns of days off and shows the others.
     void Hide_DaysOff();
 
-    // The column of a date, which lies outside the grid for a date out of view. A date too far away for a 16-bit
-    // column shows the failure box and gives 0.
+    // Colours as the settings write them, as they were last read: the bands of even and odd slots, holidays and
+    // inactive slots, the users' names.
+    const std::string& Color0() const { return Color0_; }
+    const std::string& Color1() const { return Color1_; }
+    const std::string& Color3() const { return Color3_; }
+    const std::string& Color4() const { return Color4_; }
+    void read_band_colors();
+    void read_off_color();
+
+    // Columns. A date out of view has a column outside the grid; one that is too far away for a 16-bit column
+    // shows the failure box and gives 0.
     int GetDayCol(values::DateTime date) const;
-    values::DateTime date_of_column(int col) const { return StartDate.plus_days(col - FixedCols); }
+    values::DateTime date_of_column(int col) const { return StartDate_.plus_days(lines_.day_of(col)); }
+    int last_col() const { return grid_.Cols() - 1; }
+    // The column and the date of the n-th day in view, n from 1.
+    int nth_day_col(int n) const { return lines_.col_of(n - 1); }
+    values::DateTime nth_day(int n) const { return date_of_column(nth_day_col(n)); }
+    // The column that gets the inactive slots of the n-th day: the day's own with two fixed columns, and the next
+    // one with a single one.
+    int off_col(int n) const { return n + 1; }
     bool is_day_off(values::DateTime date) const;
     // The date itself if it is shown, else the next one that is, in that direction; the seventh date tried when
     // all days are off.
     values::DateTime GetNextNotHiddenDay(values::DateTime date, bool backward) const;
     // The first day of the date's week. Fails with 5 when FirstDayOfWeek is no weekday.
     values::DateTime GetFirstDayOf(values::DateTime date) const;
-    void set_year_label(values::DateTime date);
 
-    int slot_of_row(int row) const; // rows from 1; fails with 6 when slots have no rows
-    int first_row_of(int slot) const { return slot * CellsPerSlot + 1; }
+    // Rows: SlotsCount slots of CellsPerSlot rows each.
+    int SlotsCount() const { return SlotsCount_; }
+    int CellsPerSlot() const { return lines_.cells_per_slot(); }
+    const DayGrid& lines() const { return lines_; }
+    int last_row() const { return grid_.Rows() - 1; }
+    int slot_of_row(int row) const { return lines_.slot_of(row); } // fails with 6 when slots have no rows
+    int first_row_of(int slot) const { return lines_.row_of(slot); }
+    // By grid row, the start of its slot as text, as the row titles were last written.
+    const std::vector<std::string>& RowTimes() const { return RowTimes_; }
+    int FirstPMRow() const { return FirstPMRow_; } // the first row of the afternoon; 0 if there is none
+    void forget_row_times();
+    void note_slot_start(int slot, values::DateTime start, values::DateTime afternoon);
 
     // A record that belongs to no cell yet.
-    CellReference free_standing_cell() const { return std::make_shared<clsMsgSchedCell>(*this); }
+    CellReference free_standing_cell() const { return CellReference(std::make_shared<clsMsgSchedCell>(*this)); }
 
     const SlotTimes& slot_times() const { return slot_times_; }
-    table::GridModel& msgSched() const { return grid_; }
+    table::GridModel& msgSched() { return grid_; }
+    const table::GridModel& msgSched() const { return grid_; }
 
 private:
+    const host::Platform& here_;
+    const settings::Settings& settings_;
+    const act::UserList& users_;
     table::GridModel& grid_;
-    act::UserList& users_;
-    Surroundings here_;
     SlotTimes slot_times_;
+
+    DayGrid lines_{2, 0};
+    int NumDays_ = 0;
+    bool OneRowPerUser_ = true;
+    std::string DaysOff_;
+    int StdColWidth_ = 1800, StdRowHeight_ = 820;
+    values::DateTime StartDate_, EndDate_;
+    int FirstDayOfWeek_ = 1;
+    std::string lblYear_;
+    int SlotsCount_ = 0;
+    std::vector<std::string> RowTimes_;
+    int FirstPMRow_ = 0;
+    std::string Color0_, Color1_, Color3_, Color4_;
 };
 
 } // namespace grid

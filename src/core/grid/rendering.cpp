@@ -9,7 +9,7 @@
 namespace grid {
 
 void Rendering::Display_Changes(const std::string& id) {
-    guarded_("in modRefresh: Sub Display_Changes - Line # ", [&](host::Step& step) {
+    here_.guarded("in modRefresh: Sub Display_Changes - Line # ", [&](host::Step& step) {
         table::GridModel& grid = layout_.msgSched();
         step = 10;
         SpanList.clear();
@@ -17,20 +17,19 @@ void Rendering::Display_Changes(const std::string& id) {
         if (!id.empty())
             Clear_Dependents(id);
         step = 30;
-        Drawing drawing{grid, writer_, SpanList};
-        std::string place;
+        Drawing drawing{grid, layout_.Cells, writer_, SpanList};
+        std::optional<table::Place> place;
         for (int slot = 0; slot < layout_.Slots.count(); ++slot)
-            for (int col = layout_.FixedCols; col <= layout_.Slots.last_col(); ++col) {
+            for (int col = layout_.FixedCols(); col <= layout_.Slots.last_col(); ++col) {
                 if (layout_.is_day_off(layout_.date_of_column(col)))
                     continue;
                 if (layout_.Slots(slot, col).Changed())
-                    layout_.Slots(slot, col).Write_To_Grid(drawing, id, layout_.OneRowPerUser, place);
+                    layout_.Slots(slot, col).Write_To_Grid(drawing, id, place);
             }
         step = 40;
-        if (!place.empty()) {
-            const std::vector<std::string> col_and_row = values::split(place, ",");
-            grid.Row(values::to_int16(col_and_row[1]));
-            grid.Col(values::to_int16(col_and_row[0]));
+        if (place) {
+            grid.Row(place->row);
+            grid.Col(place->col);
         } else {
             select_selected_cell();
         }

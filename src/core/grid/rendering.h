@@ -13,6 +13,7 @@ namespace grid {
 // What a slot draws with.
 struct Drawing {
     table::GridModel& grid;
+    Cells& cells;
     CellWriter& writer;
     std::string& SpanList;
 };
@@ -20,8 +21,8 @@ struct Drawing {
 // Brings changed slots to the grid.
 class Rendering {
 public:
-    Rendering(Layout& layout, CellWriter& writer, Selection& selection, const host::Guard& guarded)
-        : layout_(layout), writer_(writer), selection_(selection), guarded_(guarded) {}
+    Rendering(const host::Platform& here, CellWriter& writer, const Selection& selection)
+        : here_(here), layout_(writer.layout()), writer_(writer), selection_(selection) {}
 
     std::string SpanText = "( Continued )"; // shown where an activity runs on
     // The continuation cells of the drawing under way: "row,column,colour|" each.
@@ -39,10 +40,10 @@ public:
 private:
     void select_selected_cell();
 
+    const host::Platform& here_;
     Layout& layout_;
     CellWriter& writer_;
-    Selection& selection_;
-    const host::Guard& guarded_;
+    const Selection& selection_;
 };
 
 } // namespace grid

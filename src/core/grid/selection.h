@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/grid/cell.h"
+#include "core/values/failure.h"
 
 namespace grid {
 
@@ -11,11 +12,17 @@ struct Selection {
     CellReference DragSourceCell; // the cell on which a drag began
 
     // The record; fails with 91 while there is none.
-    clsMsgSchedCell& selected() const { return set(SelectedCell); }
-    clsMsgSchedCell& drag_source() const { return set(DragSourceCell); }
+    clsMsgSchedCell& selected() { return *set(SelectedCell); }
+    const clsMsgSchedCell& selected() const { return *set(SelectedCell); }
+    const clsMsgSchedCell& drag_source() const { return *set(DragSourceCell); }
 
 private:
-    static clsMsgSchedCell& set(const CellReference& cell);
+    template <typename Reference> // const or not
+    static Reference& set(Reference& cell) {
+        if (!cell)
+            throw values::Failure(values::FailureNumber::object_not_set);
+        return cell;
+    }
 };
 
 } // namespace grid

@@ -1,11 +1,13 @@
 #pragma once
 
+#include "core/grid/day_grid.h"
 #include "core/host/guard.h"
 #include "core/table/grid_model.h"
 #include "core/values/date_time.h"
 
 #include <cstdint>
 #include <deque>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -31,6 +33,13 @@ struct SlotRecord {
     int GoesBeyond = 0; // further slots into which it runs on
 };
 
+// What SetCell puts into a record, with the record's names and forms.
+struct SlotEntry {
+    std::string_view ActivityID, ContactID, Recurring, Cleared, BackColor, ForeColor, Type, Text, Detail,
+        HasDetails;
+    int GoesBeyond = 0;
+};
+
 // A time slot of one day: the activities that fall into it, in order of arrival, and how they are drawn.
 class clsMsgSchedSlot {
 public:
@@ -38,10 +47,7 @@ public:
 
     void Initialize(int slot_number, int col);
     // Fills the first free record, or one more at the end.
-    void SetCell(std::string_view activity_id, std::string_view contact_id, std::string_view recurring,
-                 std::string_view cleared, std::string_view back_color, std::string_view fore_color,
-                 std::string_view type, std::string_view text, std::string_view detail,
-                 std::string_view has_details, int goes_beyond);
+    void SetCell(const SlotEntry& entry);
     // Frees the first record of that id, if there is one; an empty id is that of a record that was never filled.
     void DeleteCell(std::string_view activity_id);
     // Back to CellsPerSlot free records. Changed stays as it is.
@@ -51,19 +57,17 @@ public:
     values::DateTime Day() const;             // the date of the column when the slot was initialised
     bool Changed() const { return changed_; } // records changed since the last whole Write_To_Grid
 
-    // Draws the records in order of their Detail. `result` becomes "column,row" of the cell that shows the
-    // activity sought, and is left alone when none does. A row off the grid shows the failure box and leaves
-    // Changed on.
-    void Write_To_Grid(Drawing& drawing, std::string_view activity_id_sought, bool one_row_per_user,
-                       std::string& result);
+    // Draws the records in order of their Detail. `result` becomes the cell that shows the activity sought, and is
+    // left alone when none does. A row off the grid shows the failure box and leaves Changed on.
+    void Write_To_Grid(Drawing& drawing, std::string_view activity_id_sought, std::optional<table::Place>& result);
     static std::string ExtractUserName(std::string_view detail);
     // The row of the slot, from first_row on, that belongs to the user, in the grid's current column; -1 if none.
     int GetCorrectCell(const table::GridModel& grid, std::string_view user_name, int first_row) const;
 
     int SlotNo() const { return slot_number_; }
     int Col() const { return col_; }
-    int FirstRow() const { return cells_per_slot_ * slot_number_ + 1; }
-    int LastRow() const { return FirstRow() + cells_per_slot_ - 1; }
+    int FirstRow() const { return lines_.row_of(slot_number_); }
+    int LastRow() const { return lines_.last_row_of(slot_number_); }
     // Records, the free ones included; a free one that was never filled is empty.
     int record_count() const;
     const SlotRecord& record(int index) const;
@@ -79,11 +83,12 @@ private:
 
     const Layout* layout_;
     const host::Guard* guarded_;
-    std::int16_t slot_number_ = 0, col_ = 0, fixed_cols_ = 0, cells_per_slot_ = 0;
+    DayGrid lines_; // as it was at Initialize
+    std::int16_t slot_number_ = 0, col_ = 0;
     bool changed_ = false;
     values::DateTime start_date_;
     // The records, of which as many count as were filled since the last ClearCells; the next ones are behind them,
-    // with what they held before, so that their texts have room already. Records beyond, up to cells_per_slot_,
+    // with what they held before, so that their texts have room already. Records beyond, up to the slot's rows,
     // are free and empty and take no room.
     std::deque<SlotRecord> records_;
     std::size_t filled_ = 0;
@@ -94,7 +99,7 @@ private:
 class Slots {
 public:
     // Replaces all slots by new, initialised ones.
-    void rebuild(const Layout& layout, const host::Guard& guarded, int slots, int first_col, int cols);
+    void rebuild(const Layout& layout, const host::Guard& guarded);
     int count() const { return slots_; } // slot numbers go from 0 to count - 1
     int first_col() const { return first_col_; }
     int last_col() const { return cols_ - 1; }
@@ -103,6 +108,8 @@ public:
 
     std::vector<clsMsgSchedSlot>::iterator begin() { return records_.begin(); }
     std::vector<clsMsgSchedSlot>::iterator end() { return records_.end(); }
+    std::vector<clsMsgSchedSlot>::const_iterator begin() const { return records_.begin(); }
+    std::vector<clsMsgSchedSlot>::const_iterator end() const { return records_.end(); }
 
 private:
     std::size_t index(int slot, int col) const;

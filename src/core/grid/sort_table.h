@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -12,6 +13,9 @@ struct SortEntry {
 };
 
 // Orders the table by key, ascending, upper and lower case apart; equal keys keep their order.
-void Sort_Table(std::vector<SortEntry>& table);
+inline void Sort_Table(std::vector<SortEntry>& table) {
+    std::stable_sort(table.begin(), table.end(),
+                     [](const SortEntry& left, const SortEntry& right) { return left.key < right.key; });
+}
 
 } // namespace grid

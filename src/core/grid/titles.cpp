@@ -23,13 +23,13 @@ void Titles::Write_ColTitles() {
         writer_.Write_Cell(grid, 0, 1, {.text = "Users"});
         layout_.Cells(0, 1).Initialize(0, 1, "Users");
         const std::string today = values::yyyymmdd(here_.clock.today());
-        for (int col = layout_.FixedCols; col < grid.Cols(); ++col) {
+        for (int col = layout_.FixedCols(); col < grid.Cols(); ++col) {
             step = 30;
             const values::DateTime date = layout_.date_of_column(col);
             const std::string title = values::weekday_name(date, here_.locale) + " " + GetMonth(date.month()) +
                                       " " + std::to_string(date.day());
             step = 40;
-            writer_.Write_Cell(grid, 0, col, {.text = title, .bold = values::yyyymmdd(date) == today ? 2 : 1});
+            writer_.Write_Cell(grid, 0, col, {.text = title, .bold = values::yyyymmdd(date) == today});
             step = 50;
             layout_.Cells(0, col).Initialize(0, col, title);
         }
@@ -39,35 +39,33 @@ void Titles::Write_ColTitles() {
 void Titles::Write_RowTitles() {
     here_.guarded("in frmMain: Sub Write_RowTitles - Line # ", [&](host::Step& step) {
         step = 10;
-        const values::DateTime afternoon = values::to_date(read(here_.ini, keys::pm), here_.locale);
-        layout_.FirstPMRow = 0;
-        layout_.RowTimes.assign(static_cast<std::size_t>(layout_.first_row_of(layout_.SlotsCount)), {});
-        for (int slot = 0; slot < layout_.SlotsCount; ++slot) {
+        const values::DateTime afternoon = values::to_date(read(settings_.ini, keys::pm), here_.locale);
+        layout_.forget_row_times();
+        for (int slot = 0; slot < layout_.SlotsCount(); ++slot) {
             step = 20;
             const values::DateTime start = layout_.slot_times().start(slot);
-            if (layout_.FirstPMRow == 0 && start >= afternoon)
-                layout_.FirstPMRow = layout_.first_row_of(slot);
+            layout_.note_slot_start(slot, start, afternoon);
             step = 30;
-            for (int position = 0; position < layout_.CellsPerSlot; ++position)
-                write_row(layout_.first_row_of(slot) + position, position, start);
+            for (int place = 0; place < layout_.CellsPerSlot(); ++place)
+                write_row(layout_.lines().row_of(slot, place), place, start);
         }
     });
 }
 
-void Titles::write_row(int row, int position, values::DateTime start) {
+void Titles::write_row(int row, int place, values::DateTime start) {
     table::GridModel& grid = layout_.msgSched();
-    layout_.RowTimes[static_cast<std::size_t>(row)] = values::default_text(start, here_.locale);
-
-    const std::string title = position == 0 ? FormatTime(start) : std::string();
+    const std::string title = place == 0 ? FormatTime(start) : std::string();
     writer_.Write_Cell(grid, row, 0,
-                       {.text = title, .bold = position == 0 ? 2 : 0, .alignment = table::Alignment::centre});
+                       {.text = title,
+                        .bold = place == 0 ? std::optional(true) : std::nullopt,
+                        .alignment = table::Alignment::centre});
     layout_.Cells(row, 0).Initialize(row, 0, title);
 
     const act::ItemList& users = users_.cboUsers;
-    const std::string user = position < users.ListCount() ? users.List(position) : std::string();
+    const std::string user = place < users.ListCount() ? users.List(place) : std::string();
     writer_.Write_Cell(grid, row, 1,
                        {.text = user,
-                        .fore_color = values::to_int32(layout_.Color4),
+                        .fore_color = values::to_int32(layout_.Color4()),
                         .alignment = table::Alignment::left_centre});
     layout_.Cells(row, 1).Initialize(row, 1, user);
 }

@@ -14,8 +14,11 @@ namespace grid {
 // Writes the title row and the title columns.
 class Titles {
 public:
-    Titles(Layout& layout, CellWriter& writer, act::UserList& users, const Surroundings& surroundings)
-        : layout_(layout), writer_(writer), users_(users), here_(surroundings) {}
+    Titles(const host::Platform& here, const settings::Settings& settings, const act::UserList& users,
+           CellWriter& writer)
+        : here_(here), settings_(settings), users_(users), layout_(writer.layout()), writer_(writer) {}
+
+    CellWriter& writer() { return writer_; }
 
     void Write_ColTitles();
     // Row titles, RowTimes and FirstPMRow. The user names go to column 1 whatever the row scheme is.
@@ -26,12 +29,13 @@ public:
     std::string FormatTime(values::DateTime time) const; // "13:00" or "01:00 PM"
 
 private:
-    void write_row(int row, int position, values::DateTime start);
+    void write_row(int row, int place, values::DateTime start);
 
+    const host::Platform& here_;
+    const settings::Settings& settings_;
+    const act::UserList& users_;
     Layout& layout_;
     CellWriter& writer_;
-    act::UserList& users_;
-    Surroundings here_;
 };
 
 } // namespace grid

@@ -1,22 +1,20 @@
 #pragma once
 
-#include "core/interaction/presenter.h"
-
 namespace interaction {
 
 // The question of frmActivityChange, whether one occurrence of a series is meant or all.
 class ActivityChange {
 public:
-    static constexpr int this_instance = 0, all_instances = 1, cancel = 2;
+    enum class Response { this_instance = 0, all_instances = 1, cancel = 2 };
 
-    explicit ActivityChange(Presenter& presenter) : presenter_(presenter) {}
+    virtual ~ActivityChange() = default;
 
-    int iResponse = this_instance; // the last answer
-
-    int show() { return iResponse = presenter_.ask_activity_change(); }
+    Response iResponse = Response::this_instance; // the last answer
+    // Asks and waits.
+    Response show() { return iResponse = ask(); }
 
 private:
-    Presenter& presenter_;
+    virtual Response ask() = 0;
 };
 
 } // namespace interaction

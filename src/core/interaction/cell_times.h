@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/changes/occurrence.h"
 #include "core/grid/cell.h"
 #include "core/values/locale.h"
 #include "core/values/text_forms.h"
@@ -14,6 +15,11 @@ inline values::DateTime date_and_time(values::DateTime date, values::DateTime ti
 // When an activity in the cell starts.
 inline values::DateTime start_of(const grid::clsMsgSchedCell& cell, const values::Locale& locale) {
     return date_and_time(cell.DateDay(), cell.DateTime(), locale);
+}
+
+// The occurrence that the cell of a series shows.
+inline changes::Occurrence occurrence_in(const grid::clsMsgSchedCell& cell) {
+    return {.series = cell.ActivityID(), .day = cell.DateDay()};
 }
 
 } // namespace interaction

@@ -7,23 +7,17 @@ namespace interaction {
 
 bool InstanceEditor::Edit_Instance(std::string& id, act::CommandNumber command) {
     // As it was clicked: dialog and question run the event loop, and a refresh can empty the grid's own record.
-    const grid::clsMsgSchedCell cell = here_.selection.selected();
-    const bool is_instance = !is_first_occurrence(id, cell);
+    const grid::clsMsgSchedCell cell = selection_.selected();
+    const bool is_instance = !instances_.is_first_occurrence(id, cell);
     if (is_instance)
-        id = here_.instances.Change_Instance(cell, cell, values::to_int32(cell.Duration()));
-    here_.launcher.Select_and_Launch_Command(id, command, true, false, false);
+        id = instances_.Change_Instance(cell, cell, values::to_int32(cell.Duration()));
+    launcher_.Select_and_Launch_Command(id, command, {.allDates = true});
     return is_instance ? settle(id, cell) : true;
-}
-
-bool InstanceEditor::is_first_occurrence(const std::string& id, const grid::clsMsgSchedCell& cell) const {
-    here_.session.ActActivity->Goto(id);
-    const auto start = values::date_of(here_.session.ActActivity->Data(act::activity_field::start), here_.locale);
-    return start && start->date() == cell.DateDay();
 }
 
 bool InstanceEditor::settle(const std::string& instance, const grid::clsMsgSchedCell& cell) {
     bool refresh_needed = false;
-    switch (here_.instances.Compare_Instance(instance)) {
+    switch (instances_.Compare_Instance(instance)) {
     case InstanceChange::none:
         break;
     case InstanceChange::recurrence_touched:
@@ -34,17 +28,19 @@ bool InstanceEditor::settle(const std::string& instance, const grid::clsMsgSched
                         .icon = host::Icon::critical});
         break;
     case InstanceChange::changed:
-        switch (here_.frmActivityChange.show()) {
-        case ActivityChange::this_instance:
+        switch (frmActivityChange_.show()) {
+        case ActivityChange::Response::this_instance:
             return true;
-        case ActivityChange::all_instances:
-            here_.instances.Apply_To_Series(instance, cell.ActivityID());
+        case ActivityChange::Response::all_instances:
+            instances_.Apply_To_Series(instance, cell.ActivityID());
             refresh_needed = true;
+            break;
+        case ActivityChange::Response::cancel:
             break;
         }
         break;
     }
-    here_.instances.Delete_Instance(instance, cell);
+    instances_.Delete_Instance(instance, cell);
     return refresh_needed;
 }
 

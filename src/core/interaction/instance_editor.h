@@ -1,12 +1,9 @@
 #pragma once
 
-#include "core/act/session.h"
 #include "core/grid/selection.h"
-#include "core/host/message_box.h"
 #include "core/interaction/activity_change.h"
 #include "core/interaction/instances.h"
 #include "core/interaction/launcher.h"
-#include "core/values/locale.h"
 
 #include <string>
 
@@ -15,16 +12,10 @@ namespace interaction {
 // Edits the occurrence of a series that the selected cell shows.
 class InstanceEditor {
 public:
-    struct Needs {
-        act::Session& session;
-        const grid::Selection& selection;
-        Launcher& launcher;
-        Instances& instances;
-        ActivityChange& frmActivityChange;
-        host::MessageBox& box;
-        const values::Locale& locale;
-    };
-    explicit InstanceEditor(const Needs& here) : here_(here) {}
+    InstanceEditor(const host::Platform& here, const grid::Selection& selection, Launcher& launcher,
+                   Instances& instances, ActivityChange& frmActivityChange)
+        : here_(here), selection_(selection), launcher_(launcher), instances_(instances),
+          frmActivityChange_(frmActivityChange) {}
 
     // Runs the command on the series itself where the cell shows its first occurrence, else on an instance that
     // the user then keeps, gives up or applies to the series; `id` is replaced by the instance's. True when the
@@ -32,10 +23,13 @@ public:
     bool Edit_Instance(std::string& id, act::CommandNumber command);
 
 private:
-    bool is_first_occurrence(const std::string& id, const grid::clsMsgSchedCell& cell) const;
     bool settle(const std::string& instance, const grid::clsMsgSchedCell& cell);
 
-    Needs here_;
+    const host::Platform& here_;
+    const grid::Selection& selection_;
+    Launcher& launcher_;
+    Instances& instances_;
+    ActivityChange& frmActivityChange_;
 };
 
 } // namespace interaction

@@ -1,80 +1,61 @@
 #include "core/interaction/instances.h"
 
+#include "core/changes/addition.h"
+#include "core/changes/rewriting.h"
 #include "core/interaction/cell_times.h"
-#include "core/values/ids.h"
-#include "core/values/text.h"
-#include "core/values/text_forms.h"
 #include "core/values/value.h"
-
-#include <span>
 
 namespace interaction {
 
 namespace field = act::activity_field;
 using values::DateTime;
-using values::Value;
-
-namespace {
-
-std::map<int, Value> read_fields(const act::Activity& activity, std::initializer_list<int> numbers) {
-    std::map<int, Value> fields;
-    for (const int number : numbers)
-        fields[number] = activity.Data(number);
-    return fields;
-}
-
-// In rising order.
-void write_fields(act::Activity& activity, const std::map<int, Value>& fields) {
-    for (const auto& [number, value] : fields)
-        activity.Data(number, value);
-}
-
-} // namespace
 
 std::string Instances::Change_Instance(const grid::clsMsgSchedCell& source, const grid::clsMsgSchedCell& target,
                                        std::int32_t duration) {
-    return guarded_("in frmMain: Function Change_Instance - Line # ", [&](host::Step& step) {
+    return here_.guarded("in frmMain: Function Change_Instance - Line # ", [&](host::Step& step) {
         step = 10;
-        const DateTime start = start_of(target, locale_);
+        const DateTime start = start_of(target, here_.locale);
         const DateTime end = start.plus_minutes(duration);
         step = 20;
-        std::map<int, Value> fields = read_fields(
-            activity(), {field::is_private, field::alarm_lead, field::duration, field::regarding, field::type,
-                         field::priority, field::details, field::colour, field::alarm, field::group});
+        changes::Addition instance{
+            .fields = changes::read_fields(
+                activity(), {field::is_private, field::alarm_lead, field::duration, field::regarding, field::type,
+                             field::priority, field::details, field::colour, field::alarm, field::group}),
+            .contacts = {}};
         step = 30;
-        const ScheduledWith contacts = scheduled_with();
+        instance.contacts = changes::scheduled_with(activity());
         step = 40;
-        fields[field::start] = start;
-        fields[field::end] = end;
-        fields[field::scheduled_for] = user_of(target);
+        instance.fields[field::start] = start;
         step = 50;
-        activity().Add();
+        instance.fields[field::end] = end;
         step = 60;
-        write_fields(activity(), fields);
+        instance.fields[field::scheduled_for] = user_of(target);
         step = 70;
-        std::string id = activity().Update();
+        std::string id = instance.store(activity());
         step = 80;
         activity().Goto(id);
         step = 90;
-        schedule_with(contacts);
+        changes::schedule_with(activity(), instance.contacts);
         step = 100;
         Add_Exception(source);
         step = 110;
-        snapshot_ = {.fields = {}, .contacts = contacts};
-        for (const auto& [number, value] : fields)
-            snapshot_.fields[number] = values::text_of(value, locale_);
+        snapshot_ = {.fields = {}, .contacts = instance.contacts};
+        for (const auto& [number, value] : instance.fields)
+            snapshot_.fields[number] = values::text_of(value, here_.locale);
         return id;
     });
 }
 
-void Instances::Add_Exception(const grid::clsMsgSchedCell& cell) {
-    activity().Goto(cell.ActivityID());
-    activity().ExceptionInfo().Add(cell.DateDay());
+bool Instances::is_first_occurrence(const std::string& series, const grid::clsMsgSchedCell& cell) {
+    activity().Goto(series);
+    const auto start = values::date_of(activity().Data(field::start), here_.locale);
+    return start && start->date() == cell.DateDay();
 }
 
+void Instances::Add_Exception(const grid::clsMsgSchedCell& cell) { occurrence_in(cell).except(activity()); }
+
 void Instances::Remove_Exception(const std::string& id, DateTime date) {
-    activity().Goto(id);
-    activity().ExceptionInfo().Remove(date);
+    changes::Occurrence{.series = id, .day = date}.undo(activity());
 }
 
 InstanceChange Instances::Compare_Instance(const std::string& id) {
@@ -94,56 +75,30 @@ InstanceChange Instances::Compare_Instance(const std::string& id) {
     return InstanceChange::none;
 }
 
+// Whom the user took out of the instance goes from the series as well.
 void Instances::Apply_To_Series(const std::string& instance, const std::string& series) {
     activity().Goto(instance);
-    const std::map<int, Value> fields =
-        read_fields(activity(), {field::is_private, field::alarm_lead, field::duration, field::regarding,
-                                 field::type, field::priority, field::details, field::colour, field::alarm,
-                                 field::scheduled_for, field::group});
-    const ScheduledWith contacts = scheduled_with();
+    changes::Rewriting change{.record = changes::Rewriting::Record::whole_series,
+                              .fields = changes::read_fields(
+                                  activity(), {field::is_private, field::alarm_lead, field::duration,
+                                               field::regarding, field::type, field::priority, field::details,
+                                               field::colour, field::alarm, field::scheduled_for, field::group})};
+    change.contacts = changes::scheduled_with(activity());
     activity().Goto(series);
-    activity().Edit();
-    activity().RecurringChangeMode(false);
-    write_fields(activity(), fields);
-    activity().Update();
-    // Whom the user took out of the instance goes from the series as well.
-    const int kept = schedule_with(contacts);
-    for (int count = values::int32_of(activity().Data(field::contact_count)); count > kept; --count)
-        activity().NextScheduledWith("");
+    change.apply(activity());
 }
 
 void Instances::Delete_Instance(const std::string& id, const grid::clsMsgSchedCell& cell) {
-    activity().Goto(id);
-    activity().Delete();
-    Remove_Exception(cell.ActivityID(), cell.DateDay());
-}
-
-ScheduledWith Instances::scheduled_with() const {
-    ScheduledWith contacts{.first = activity().FirstScheduledWith(), .further = {}};
-    do
-        contacts.further.push_back(activity().NextScheduledWith());
-    while (!contacts.further.back().empty());
-    return contacts;
-}
-
-int Instances::schedule_with(const ScheduledWith& contacts) {
-    int count = contacts.first.empty() ? 0 : 1;
-    activity().FirstScheduledWith(contacts.first);
-    for (const std::string& contact : contacts.further) {
-        if (values::length(contact) != values::id_length)
-            break;
-        activity().NextScheduledWith(contact);
-        ++count;
-    }
-    return count;
+    changes::Addition::undo(activity(), id);
+    occurrence_in(cell).undo(activity());
 }
 
 // A row that belongs to nobody leaves the occurrence with the series' user.
-std::string Instances::user_of(const grid::clsMsgSchedCell& cell) const {
-    const auto user = users_.UserNameToId.find(std::string(cell.User()));
-    return user != users_.UserNameToId.end() ? user->second : text(field::scheduled_for);
+std::string Instances::user_of(const grid::clsMsgSchedCell& cell) {
+    const auto user = act_.users.UserNameToId.find(std::string(cell.User()));
+    return user != act_.users.UserNameToId.end() ? user->second : text(field::scheduled_for);
 }
 
-std::string Instances::text(int number) const { return values::text_of(activity().Data(number), locale_); }
+std::string Instances::text(int number) { return values::text_of(activity().Data(number), here_.locale); }
 
 } // namespace interaction

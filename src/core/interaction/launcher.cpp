@@ -44,7 +44,7 @@ void and_put_back(Work&& work, PutBack&& put_back) {
 
 void Launcher::Setup_ActivityWin(const grid::clsMsgSchedCell& cell, const std::string& type) {
     here_.guarded("in frmMain: Sub Setup_ActivityWin - Line # ", [&](host::Step& step) {
-        settings::PerUserStore& store = here_.user_store;
+        settings::PerUserStore& store = settings_.user_store;
         step = 10;
         write(store, keys::activity_type, type);
         step = 20;
@@ -54,11 +54,11 @@ void Launcher::Setup_ActivityWin(const grid::clsMsgSchedCell& cell, const std::s
         step = 40;
         write(store, keys::activity_duration, cell.Duration());
         step = 50;
-        write(store, keys::activity_regarding, read(here_.settings, keys::acty_regarding));
+        write(store, keys::activity_regarding, read(settings_.ini, keys::acty_regarding));
         step = 60;
-        write(store, keys::activity_priority, read(here_.settings, keys::acty_priority));
+        write(store, keys::activity_priority, read(settings_.ini, keys::acty_priority));
         step = 70;
-        if (here_.layout.OneRowPerUser)
+        if (layout_.OneRowPerUser())
             write(store, keys::activity_for, std::string(cell.User()));
         else
             ignoring_failure([&] { remove(store, keys::activity_for); }); // there may be none
@@ -70,18 +70,23 @@ void Launcher::Setup_ActivityWin(const grid::clsMsgSchedCell& cell, const std::s
 // Without the companion the dialog opens all the same, with ACT!'s own values.
 void Launcher::start_companion() { here_.shell.start_companion("ActivityWin"); }
 
-void Launcher::Select_and_Launch_Command(const std::string& id, act::CommandNumber command, bool allDates,
-                                         bool showCleared, bool startCompanion) {
+void Launcher::Setup_ActivityWin(const grid::clsMsgSchedCell& cell) {
+    Setup_ActivityWin(cell, read(settings_.ini, keys::acty_type));
+}
+
+void Launcher::announce_recurring_edit() { write(settings_.user_store, keys::activity_recurring_edit, "1"); }
+
+void Launcher::Select_and_Launch_Command(const std::string& id, act::CommandNumber command, const Launch& launch) {
     here_.guarded("in frmMain: Sub Select_and_Launch_Command - Line # ", [&](host::Step& step) {
         step = 10;
-        if (here_.session.ActActivity->Goto(id)) { // what is gone stands in no list
+        if (activity().Goto(id)) { // what is gone stands in no list
             step = 20;
-            const int mask = mask_of_type(values::int16_of(here_.session.ActActivity->Data(field::type))) |
-                             (showCleared ? cleared_bit : 0);
+            const int mask = mask_of_type(values::int16_of(activity().Data(field::type))) |
+                             (launch.showCleared ? cleared_bit : 0);
             step = 30;
             show_contact(text(field::contact));
             step = 40;
-            run_in_list(command, allDates, mask, startCompanion, step);
+            run_in_list(command, mask, launch);
         }
         step = 100;
         here_.window.unlock_updates();
@@ -90,22 +95,16 @@ void Launcher::Select_and_Launch_Command(const std::string& id, act::CommandNumb
     });
 }
 
-void Launcher::run_in_list(act::CommandNumber command, bool allDates, int mask, bool startCompanion,
-                           host::Step& step) {
-    act::ContactView& view = *here_.session.ActContactView;
+void Launcher::run_in_list(act::CommandNumber command, int mask, const Launch& launch) {
+    act::ContactView& view = *act_.session.ActContactView;
     const std::string tab = view.GetActiveTab();
     const auto in_own_filter = [&] {
-        step = 50;
         view.SetActiveTab("Activities");
         act::ActivityList& list = view.Activities();
-        step = 60;
         const act::ListFilter users_own = list.GetFilter();
         const auto run = [&] {
-            step = 70;
-            list.SetFilter({mask, allDates ? all_dates : dates_shown(), text(field::scheduled_for)});
-            step = 80;
-            run_selected(list, command, startCompanion);
-            step = 90;
+            list.SetFilter({mask, launch.allDates ? all_dates : dates_shown(), text(field::scheduled_for)});
+            run_selected(list, command, launch);
         };
         and_put_back(run, [&] { list.SetFilter(users_own); });
     };
@@ -114,7 +113,7 @@ void Launcher::run_in_list(act::CommandNumber command, bool allDates, int mask, 
 
 // The view may stand on another page of ACT!, and then doesn't follow.
 void Launcher::show_contact(const std::string& contact) {
-    act::ContactView& view = *here_.session.ActContactView;
+    act::ContactView& view = *act_.session.ActContactView;
     if (view.Goto(contact) == contact)
         return;
     Command(act::CommandNumber::show_contact_view);
@@ -122,11 +121,11 @@ void Launcher::show_contact(const std::string& contact) {
 }
 
 std::string Launcher::dates_shown() const {
-    const values::DateTime start = here_.layout.StartDate, end = start.plus_days(here_.layout.NumDays);
+    const values::DateTime start = layout_.StartDate(), end = layout_.after_last_day();
     return "6\\" + values::short_date(start, here_.locale) + "\\" + values::short_date(end, here_.locale);
 }
 
-void Launcher::run_selected(act::ActivityList& list, act::CommandNumber command, bool startCompanion) {
+void Launcher::run_selected(act::ActivityList& list, act::CommandNumber command, const Launch& launch) {
     const std::string id = text(field::id);
     const int count = list.GetRowCount();
     int row = 0;
@@ -135,13 +134,11 @@ void Launcher::run_selected(act::ActivityList& list, act::CommandNumber command,
     if (row == count)
         return;
     list.SelectRow(row, true);
-    if (startCompanion)
+    if (launch.startCompanion)
         start_companion();
     Command(command);
 }
 
-std::string Launcher::text(int number) const {
-    return values::text_of(here_.session.ActActivity->Data(number), here_.locale);
-}
+std::string Launcher::text(int number) { return values::text_of(activity().Data(number), here_.locale); }
 
 } // namespace interaction

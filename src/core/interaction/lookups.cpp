@@ -13,13 +13,12 @@ namespace field = act::activity_field;
 
 void Lookups::mnupopGoto_Click() {
     here_.guarded("in frmMain: Sub mnupopGoto_Click - Line # ", [&](host::Step& step) {
-        const table::GridModel& msgSched = here_.grid.msgSched;
         step = 10;
-        here_.presenter.minimise();
+        presenter_.minimise();
         step = 20;
-        here_.session.ActActivity->Goto(here_.grid.layout.Cells(msgSched.Row(), msgSched.Col()).ActivityID());
+        session().ActActivity->Goto(grid_.current_cell().ActivityID());
         step = 30;
-        std::string list = values::text_of(here_.session.ActActivity->Data(field::contact), here_.locale);
+        std::string list = values::text_of(session().ActActivity->Data(field::contact), here_.locale);
         step = 40;
         add_others(list);
         step = 50;
@@ -39,20 +38,21 @@ void Lookups::mnupopLookup_Click() {
             return;
         }
         step = 30;
-        here_.presenter.minimise();
+        presenter_.minimise();
         step = 40;
         make_lookup(list);
     });
 }
 
 Lookups::Range Lookups::range() const {
-    const table::GridModel& grid = here_.grid.msgSched;
-    Range range{1, grid.Rows() - 1, here_.grid.layout.FixedCols, grid.Cols() - 1};
-    if (here_.click.on_title_row_only()) {
+    const table::GridModel& grid = grid_.msgSched;
+    Range range{grid::DayGrid::first_row, grid_.layout.last_row(), grid_.layout.FixedCols(),
+                grid_.layout.last_col()};
+    if (click_.on_title_row_only()) {
         range.first_col = range.last_col = grid.Col();
-    } else if (here_.click.on_title_col_only()) {
+    } else if (click_.on_title_col_only()) {
         range.first_row = range.last_row = grid.Row();
-    } else if (here_.click.MultiSelected && !here_.click.on_corner()) {
+    } else if (click_.MultiSelected && !click_.on_corner()) {
         std::tie(range.first_row, range.last_row) = std::minmax({grid.Row(), grid.RowSel()});
         std::tie(range.first_col, range.last_col) = std::minmax({grid.Col(), grid.ColSel()});
     }
@@ -63,7 +63,7 @@ std::string Lookups::contacts_in(const Range& range) {
     std::string list;
     for (int row = range.first_row; row <= range.last_row; ++row)
         for (int col = range.first_col; col <= range.last_col; ++col)
-            add_contacts(here_.grid.layout.Cells(row, col), list);
+            add_contacts(grid_.layout.Cells(row, col), list);
     return list;
 }
 
@@ -73,21 +73,21 @@ void Lookups::add_contacts(const grid::clsMsgSchedCell& cell, std::string& list)
         return;
     if (!values::contains(list, contact))
         list += contact;
-    here_.session.ActActivity->Goto(cell.ActivityID());
+    session().ActActivity->Goto(cell.ActivityID());
     add_others(list);
 }
 
 void Lookups::add_others(std::string& list) {
-    if (values::int32_of(here_.session.ActActivity->Data(field::contact_count)) > 1)
-        list = here_.quick_refresh.AddOtherIDs(list);
+    if (values::int32_of(session().ActActivity->Data(field::contact_count)) > 1)
+        list = engine_.quick_refresh.AddOtherIDs(list);
 }
 
 void Lookups::make_lookup(const std::string& list) {
-    act::ContactView& view = *here_.session.ActContactView;
+    act::ContactView& view = *session().ActContactView;
     view.CreateLookup(list);
     if (static_cast<std::size_t>(view.GetCount()) * values::id_length == list.size())
         return;
-    here_.session.ActApp->Command(act::CommandNumber::show_contact_view); // the view wasn't ready
+    session().ActApp->Command(act::CommandNumber::show_contact_view); // the view wasn't ready
     view.CreateLookup(list);
 }
 

@@ -1,13 +1,8 @@
 #pragma once
 
-#include "core/act/session.h"
-#include "core/engine/quick_refresh.h"
-#include "core/grid/calendar_grid.h"
-#include "core/host/guard.h"
-#include "core/host/message_box.h"
+#include "core/engine/calendar_engine.h"
 #include "core/interaction/click.h"
 #include "core/interaction/presenter.h"
-#include "core/values/locale.h"
 
 #include <string>
 
@@ -16,17 +11,8 @@ namespace interaction {
 // Makes the contacts of the activities of some cells ACT!'s current lookup.
 class Lookups {
 public:
-    struct Needs {
-        act::Session& session;
-        const grid::CalendarGrid& grid;
-        engine::QuickRefresh& quick_refresh;
-        const Click& click;
-        Presenter& presenter;
-        host::MessageBox& box;
-        const values::Locale& locale;
-        const host::Guard& guarded;
-    };
-    explicit Lookups(const Needs& here) : here_(here) {}
+    Lookups(const host::Platform& here, engine::CalendarEngine& engine, const Click& click, Presenter& presenter)
+        : here_(here), engine_(engine), grid_(engine.grid), click_(click), presenter_(presenter) {}
 
     void mnupopGoto_Click();   // of the current cell
     void mnupopLookup_Click(); // of the column, row, selection or calendar that was clicked
@@ -42,7 +28,13 @@ private:
     void add_others(std::string& list);
     void make_lookup(const std::string& list);
 
-    Needs here_;
+    act::Session& session() { return engine_.act.session; }
+
+    const host::Platform& here_;
+    engine::CalendarEngine& engine_;
+    const grid::CalendarGrid& grid_;
+    const Click& click_;
+    Presenter& presenter_;
 };
 
 } // namespace interaction

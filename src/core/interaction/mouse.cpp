@@ -1,5 +1,7 @@
 #include "core/interaction/mouse.h"
 
+#include <utility>
+
 namespace interaction {
 
 namespace {
@@ -10,18 +12,18 @@ constexpr int ctrl_alone = 2;
 } // namespace
 
 void Mouse::msgSched_MouseDown(int Button, int Shift, int X, int Y) {
-    guarded_("in frmMain: Sub msgSched_MouseDown - Line # ", [&](host::Step& step) {
+    here_.guarded("in frmMain: Sub msgSched_MouseDown - Line # ", [&](host::Step& step) {
         step = 10;
         work_out(X, Y);
         step = 20;
-        if (!click_.on_anything()) {
+        if (!click.on_anything()) {
             make_row_current(Y);
             make_col_current(X);
         }
         step = 30;
-        click_.ClickOnTitles = click_.ClickOnTitleRow || click_.ClickOnTitleCol;
+        click.ClickOnTitles = click.ClickOnTitleRow || click.ClickOnTitleCol;
         step = 40;
-        if (click_.MultiSelected)
+        if (click.MultiSelected)
             decide_on_selection();
         step = 50;
         select_lines(X, Y);
@@ -37,9 +39,9 @@ void Mouse::msgSched_MouseDown(int Button, int Shift, int X, int Y) {
 }
 
 void Mouse::work_out(int X, int Y) {
-    click_.MultiSelected = spans_several();
-    click_.ClickOnTitleRow = places_.is_in_title_row(Y);
-    click_.ClickOnTitleCol = places_.is_in_title_col(X);
+    click.MultiSelected = spans_several();
+    click.ClickOnTitleRow = places_.is_in_title_row(Y);
+    click.ClickOnTitleCol = places_.is_in_title_col(X);
 }
 
 void Mouse::make_row_current(int Y) {
@@ -54,32 +56,32 @@ void Mouse::make_col_current(int X) {
 
 // On a title of a selection that spans several columns or rows, the selection is meant; else the title is.
 void Mouse::decide_on_selection() {
-    if (click_.on_corner()) {
-        click_.MultiSelected = false;
-    } else if (click_.ClickOnTitleRow) {
+    if (click.on_corner()) {
+        click.MultiSelected = false;
+    } else if (click.ClickOnTitleRow) {
         if (msgSched_.ColSel() != msgSched_.Col())
-            click_.ClickOnTitleRow = false;
+            click.ClickOnTitleRow = false;
         else
-            click_.MultiSelected = false;
-    } else if (click_.ClickOnTitleCol) {
+            click.MultiSelected = false;
+    } else if (click.ClickOnTitleCol) {
         if (msgSched_.RowSel() != msgSched_.Row())
-            click_.ClickOnTitleCol = false;
+            click.ClickOnTitleCol = false;
         else
-            click_.MultiSelected = false;
+            click.MultiSelected = false;
     }
 }
 
 void Mouse::select_lines(int X, int Y) {
-    if (click_.on_title_row_only()) {
+    if (click.on_title_row_only()) {
         make_col_current(X);
         msgSched_.Row(0);
         msgSched_.RowSel(msgSched_.Rows() - 1);
-    } else if (click_.on_title_col_only()) {
+    } else if (click.on_title_col_only()) {
         make_row_current(Y);
         msgSched_.Col(0);
         msgSched_.ColSel(msgSched_.Cols() - 1);
-    } else if (click_.on_corner()) {
-        msgSched_.Col(grid_.layout.FixedCols);
+    } else if (click.on_corner()) {
+        msgSched_.Col(grid_.layout.FixedCols());
         msgSched_.Row(1);
         msgSched_.ColSel(msgSched_.Cols() - 1);
         msgSched_.RowSel(msgSched_.Rows() - 1);
@@ -90,14 +92,23 @@ void Mouse::select_cell() {
     grid_.selection.SelectedCell = grid_.layout.Cells.reference(msgSched_.Row(), msgSched_.Col());
 }
 
+bool Mouse::takes_double_click() {
+    if (click.ClickOnTitleRow) {
+        navigation_.Switch_View(msgSched_.Col());
+        return true;
+    }
+    select_cell();
+    return std::exchange(click.ClickOnTitles, false);
+}
+
 void Mouse::open_menu() {
-    menu_.prepare(click_, grid_.selection.selected());
-    click_.PopupOpen = true;
+    menu_.prepare(click, grid_.selection.selected());
+    click.PopupOpen = true;
     presenter_.show_mnuPopup(menu_);
 }
 
 void Mouse::begin_drag() {
-    if (msgSched_.Text().empty() || click_.MultiSelected)
+    if (msgSched_.Text().empty() || click.MultiSelected)
         return;
     grid_.selection.DragSourceCell = grid_.layout.Cells.reference(msgSched_.Row(), msgSched_.Col());
     presenter_.show_drag_icon(DragIcon::permitted);
@@ -105,9 +116,9 @@ void Mouse::begin_drag() {
 }
 
 void Mouse::cursor_moved() {
-    guarded_("in frmMain: Sub msgSched_SelChange - Line # ", [&](host::Step& step) {
+    here_.guarded("in frmMain: Sub msgSched_SelChange - Line # ", [&](host::Step& step) {
         step = 10;
-        click_ = {.MultiSelected = spans_several(), .PopupOpen = click_.PopupOpen};
+        click = {.MultiSelected = spans_several(), .PopupOpen = click.PopupOpen};
         step = 20;
         select_cell();
     });

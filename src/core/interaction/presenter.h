@@ -15,10 +15,7 @@ public:
     virtual void show_mnuPopup(const PopupMenu& menu) = 0;
     virtual void begin_drag() = 0; // until the user lets the button go
     virtual void show_drag_icon(DragIcon icon) = 0;
-    // Shows frmActivityChange and waits: 0 this instance, 1 all instances, 2 cancel.
-    virtual int ask_activity_change() = 0;
     virtual void minimise() = 0;
-    virtual void Switch_View(int col) = 0; // opens the day of the column, or its week again
 };
 
 } // namespace interaction

@@ -1,13 +1,6 @@
 #pragma once
 
 #include "core/engine/calendar_engine.h"
-#include "core/grid/calendar_grid.h"
-#include "core/host/application_info.h"
-#include "core/host/folders.h"
-#include "core/host/guard.h"
-#include "core/host/message_box.h"
-#include "core/host/shell.h"
-#include "core/settings/ini_lib.h"
 #include "core/shell/dialogs.h"
 
 #include <string>
@@ -17,18 +10,9 @@ namespace shell {
 // The commands of the main menu, and those of the grid's menu that set sizes back.
 class MenuCommands {
 public:
-    struct Needs {
-        engine::CalendarEngine& engine;
-        Dialogs& dialogs;
-        grid::CalendarGrid& grid;
-        const settings::IniLib& settings;
-        host::MessageBox& box;
-        const host::ApplicationInfo& application;
-        const host::Folders& folders;
-        host::Shell& shell;
-        const host::Guard& guarded;
-    };
-    explicit MenuCommands(const Needs& needs) : need_(needs) {}
+    MenuCommands(const host::Platform& here, const settings::Settings& settings, Dialogs& dialogs,
+                 engine::CalendarEngine& engine)
+        : here_(here), settings_(settings), dialogs_(dialogs), engine_(engine), grid_(engine.grid) {}
 
     void mnuRefresh_Click();     // what changed since the last refresh
     void mnuFullRefresh_Click(); // everything
@@ -45,7 +29,11 @@ public:
 private:
     void open(const std::string& file_or_page);
 
-    Needs need_;
+    const host::Platform& here_;
+    const settings::Settings& settings_;
+    Dialogs& dialogs_;
+    engine::CalendarEngine& engine_;
+    grid::CalendarGrid& grid_;
 };
 
 } // namespace shell

@@ -1,13 +1,9 @@
 #pragma once
 
 #include "core/engine/calendar_engine.h"
-#include "core/grid/calendar_grid.h"
-#include "core/host/clock.h"
-#include "core/host/folders.h"
-#include "core/host/guard.h"
+#include "core/forms/jump_dates.h"
 #include "core/shell/dialogs.h"
 #include "core/shell/main_window.h"
-#include "core/values/locale.h"
 
 #include <string>
 
@@ -17,18 +13,8 @@ namespace shell {
 // grid whole again.
 class Navigation {
 public:
-    struct Needs {
-        MainWindow& window;
-        Dialogs& dialogs;
-        grid::CalendarGrid& grid;
-        engine::CalendarEngine& engine;
-        const host::Clock& clock;
-        const host::Folders& folders;
-        const values::Locale& locale;
-        const host::Guard& guarded;
-        const bool& bLoading; // true until the window has first been shown
-    };
-    explicit Navigation(const Needs& needs) : need_(needs) {}
+    Navigation(const host::Platform& here, MainWindow& window, Dialogs& dialogs, engine::CalendarEngine& engine)
+        : here_(here), window_(window), dialogs_(dialogs), engine_(engine), grid_(engine.grid) {}
 
     forms::JumpDates dates;
 
@@ -57,14 +43,18 @@ private:
     static constexpr int daily = 0, weekly = 1;      // chkView
     static constexpr int morning = 0, afternoon = 1; // chkAMPM
 
-    void step_by(int days, host::Step& step);
+    void step_by(int days);
     void remember_last_jump(values::DateTime today);
-    void show_day(host::Step& step);
-    void show_week(host::Step& step);
+    void show_day();
+    void show_week();
     void begin_view(int other_box);
     void rebuild();
 
-    Needs need_;
+    const host::Platform& here_;
+    MainWindow& window_;
+    Dialogs& dialogs_;
+    engine::CalendarEngine& engine_;
+    grid::CalendarGrid& grid_;
 };
 
 } // namespace shell

@@ -11,7 +11,7 @@ constexpr int round_grid = 1800; // twips of the window's height that aren't the
 } // namespace
 
 void Sizing::Form_Resize() {
-    guarded_("in frmMain: Sub Form_Resize - Line # ", [&](host::Step& step) {
+    here_.guarded("in frmMain: Sub Form_Resize - Line # ", [&](host::Step& step) {
         step = 10;
         if (window_.window_state() == WindowState::minimised)
             return;
@@ -22,7 +22,7 @@ void Sizing::Form_Resize() {
         step = 30;
         window_.set_grid_size(width, height);
         step = 40;
-        if (bLoading_)
+        if (grid_.bLoading)
             return;
         step = 50;
         keep_column_widths(width);

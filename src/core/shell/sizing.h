@@ -1,8 +1,7 @@
 #pragma once
 
-#include "core/host/guard.h"
+#include "core/grid/calendar_grid.h"
 #include "core/shell/main_window.h"
-#include "core/table/grid_model.h"
 
 namespace shell {
 
@@ -11,9 +10,8 @@ class Sizing {
 public:
     static constexpr int beside_grid = 1000; // twips of the window's width that aren't the grid's
 
-    // `bLoading` is true until the window has first been shown.
-    Sizing(MainWindow& window, table::GridModel& msgSched, const bool& bLoading, const host::Guard& guarded)
-        : window_(window), msgSched_(msgSched), bLoading_(bLoading), guarded_(guarded) {}
+    Sizing(const host::Platform& here, MainWindow& window, grid::CalendarGrid& grid)
+        : here_(here), window_(window), grid_(grid), msgSched_(grid.msgSched) {}
 
     // The window has got another size.
     void Form_Resize();
@@ -21,10 +19,10 @@ public:
 private:
     void keep_column_widths(int grid_width);
 
+    const host::Platform& here_;
     MainWindow& window_;
+    const grid::CalendarGrid& grid_;
     table::GridModel& msgSched_;
-    const bool& bLoading_;
-    const host::Guard& guarded_;
 };
 
 } // namespace shell

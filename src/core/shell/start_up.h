@@ -1,19 +1,8 @@
 #pragma once
 
-#include "core/act/session.h"
-#include "core/act/user_list.h"
 #include "core/engine/calendar_engine.h"
-#include "core/grid/calendar_grid.h"
-#include "core/grid/holiday_file.h"
-#include "core/host/application_info.h"
-#include "core/host/clock.h"
-#include "core/host/folders.h"
-#include "core/host/guard.h"
-#include "core/host/message_box.h"
-#include "core/settings/ini_lib.h"
-#include "core/settings/per_user_store.h"
 #include "core/shell/main_window.h"
-#include "core/shell/program.h"
+#include "core/shell/start_gate.h"
 
 #include <cstdint>
 
@@ -23,25 +12,9 @@ namespace shell {
 // leaves the window open with what was done so far.
 class StartUp {
 public:
-    struct Needs {
-        MainWindow& window;
-        Program& program;
-        host::MessageBox& box;
-        const host::ApplicationInfo& application;
-        const host::Clock& clock;
-        const host::Folders& folders;
-        const host::Guard& guarded;
-        settings::IniLib& settings;
-        const settings::PerUserStore& user_store;
-        act::EventControl& ActEvent1;
-        act::Session& session;
-        act::UserList& users;
-        grid::CalendarGrid& grid;
-        engine::CalendarEngine& engine;
-        grid::HolidayFile& holidays;
-        bool& bLoading; // on from the load until the first activation
-    };
-    explicit StartUp(const Needs& needs) : need_(needs) {}
+    StartUp(const host::Platform& here, settings::Settings& settings, StartGate& gate, MainWindow& window,
+            engine::CalendarEngine& engine)
+        : here_(here), settings_(settings), gate_(gate), window_(window), engine_(engine) {}
 
     std::uintptr_t ActHwnd = 0;    // the window that was in front when the program started
     std::int32_t CollColWidth = 0; // twips
@@ -51,15 +24,17 @@ public:
     void Form_Activate();
 
 private:
-    bool is_first_instance();
-    bool is_database_open();
     void locate_settings_file();
     void read_view();
     void read_sizes();
     void read_days_off();
     void read_row_scheme();
 
-    Needs need_;
+    const host::Platform& here_;
+    settings::Settings& settings_;
+    StartGate& gate_;
+    MainWindow& window_;
+    engine::CalendarEngine& engine_;
 };
 
 } // namespace shell

@@ -25,6 +25,13 @@ enum class Alignment : std::uint8_t {
     right_bottom = 8,
 };
 
+// Where a cell stands.
+struct Place {
+    int row = 0;
+    int col = 0;
+    friend bool operator==(const Place&, const Place&) = default;
+};
+
 // What one cell shows.
 struct GridCell {
     std::string text; // a carriage return or a line feed begins a new line

@@ -1,28 +1,23 @@
 #include "ui/dialogs/form_opener.h"
 
+#include "ui/dialogs/frm_activity_change.h"
 #include "ui/dialogs/frm_holidays.h"
 #include "ui/dialogs/frm_mini_calendar.h"
 
 namespace ui {
 
-void Dialogs::show_frmHolidays() {
-    frmHolidays({.file = calendar_.holidays,
-                 .background = calendar_.grid.background,
-                 .layout = calendar_.grid.layout,
-                 .ini = calendar_.ini,
-                 .user_store = calendar_.user_store,
-                 .locale = platform_.locale,
-                 .clock = platform_.clock,
-                 .box = platform_.box,
-                 .shell = platform_.shell,
-                 .application = platform_.application,
-                 .guarded = calendar_.guarded()},
+void FormOpener::show_frmHolidays() {
+    frmHolidays(calendar_.here(), calendar_.settings, calendar_.grid.background.holidays, calendar_.grid.layout,
                 &window_)
         .exec();
 }
 
-void Dialogs::show_frmMiniCalendar(forms::JumpDates& dates) {
-    frmMiniCalendar(dates, calendar_.user_store, calendar_.guarded(), &window_).exec();
+void FormOpener::show_frmMiniCalendar(forms::JumpDates& dates) {
+    frmMiniCalendar(calendar_.here(), calendar_.settings.user_store, dates, &window_).exec();
+}
+
+FormOpener::Response FormOpener::ask() {
+    return frmActivityChange(QString::fromStdString(calendar_.here().application.title), &window_).ask();
 }
 
 } // namespace ui

@@ -2,7 +2,7 @@
 
 #include "ui_frmActivityChange.h"
 
-#include <array>
+#include <utility>
 
 namespace ui {
 
@@ -10,15 +10,16 @@ frmActivityChange::frmActivityChange(const QString& title, QWidget* parent) : QD
     Ui::frmActivityChange controls;
     controls.setupUi(this);
     setWindowTitle(title);
-    const std::array cmdResponse{controls.cmdResponse_0, controls.cmdResponse_1, controls.cmdResponse_2};
-    for (int index = 0; index < static_cast<int>(cmdResponse.size()); ++index)
-        connect(cmdResponse[static_cast<std::size_t>(index)], &QPushButton::clicked, this, [this, index] {
-            iResponse_ = index;
+    for (const auto& [cmdResponse, response] : {std::pair{controls.cmdResponse_0, Response::this_instance},
+                                                std::pair{controls.cmdResponse_1, Response::all_instances},
+                                                std::pair{controls.cmdResponse_2, Response::cancel}})
+        connect(cmdResponse, &QPushButton::clicked, this, [this, response = response] {
+            iResponse_ = response;
             accept();
         });
 }
 
-int frmActivityChange::ask() {
+frmActivityChange::Response frmActivityChange::ask() {
     exec();
     return iResponse_;
 }

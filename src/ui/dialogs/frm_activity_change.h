@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/interaction/activity_change.h"
+
 #include <QDialog>
 
 namespace ui {
@@ -9,11 +11,12 @@ class frmActivityChange : public QDialog {
 public:
     frmActivityChange(const QString& title, QWidget* parent);
 
-    // Waits for the answer: 0 this instance, 1 all instances, 2 cancel, as which closing the dialog counts too.
-    int ask();
+    using Response = interaction::ActivityChange::Response;
+    // Waits for the answer. Closing the dialog counts as cancel.
+    Response ask();
 
 private:
-    int iResponse_ = 2;
+    Response iResponse_ = Response::cancel;
 };
 
 } // namespace ui

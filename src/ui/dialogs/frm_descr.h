@@ -1,7 +1,6 @@
 #pragma once
 
-#include "core/host/guard.h"
-#include "core/host/shell.h"
+#include "core/host/platform.h"
 
 #include <QDialog>
 
@@ -17,16 +16,15 @@ namespace ui {
 // Asks for the description of a new holiday. OK takes a text only, and hands it over.
 class frmDescr : public QDialog {
 public:
-    frmDescr(std::string& sDescr, host::Shell& shell, const host::Guard& guarded, QWidget* parent);
+    frmDescr(const host::Platform& here, std::string& sDescr, QWidget* parent);
     ~frmDescr() override;
 
 private:
     void cmdOK_Click();
     void cmdCancel_Click();
 
+    const host::Platform& here_;
     std::string& sDescr_;
-    host::Shell& shell_;
-    const host::Guard& guarded_;
     std::unique_ptr<Ui::frmDescr> controls_;
 };
 

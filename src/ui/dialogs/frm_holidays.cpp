@@ -20,23 +20,14 @@ QTreeWidgetItem* item_of(const grid::Holiday& holiday) {
 
 } // namespace
 
-frmHolidays::frmHolidays(const Needs& needs, QWidget* parent)
-    : QDialog(parent), need_(needs),
+frmHolidays::frmHolidays(const host::Platform& here, settings::Settings& settings, grid::HolidayFile& file,
+                         const grid::Layout& layout, QWidget* parent)
+    : QDialog(parent), here_(here),
       controls_(make_controls(*this)), chkday_{controls_->chkday_1, controls_->chkday_2, controls_->chkday_3,
                                                controls_->chkday_4, controls_->chkday_5, controls_->chkday_6,
                                                controls_->chkday_7},
-      procedures_({.form = *this,
-                   .file = needs.file,
-                   .background = needs.background,
-                   .layout = needs.layout,
-                   .ini = needs.ini,
-                   .user_store = needs.user_store,
-                   .locale = needs.locale,
-                   .clock = needs.clock,
-                   .box = needs.box,
-                   .application = needs.application,
-                   .guarded = needs.guarded}) {
-    controls_->dtpHol->setDisplayFormat(QString::fromStdString(needs.locale.short_date));
+      procedures_(here, settings, *this, file, layout) {
+    controls_->dtpHol->setDisplayFormat(QString::fromStdString(here.locale.short_date));
     connect_controls();
     procedures_.Form_Load();
 }
@@ -107,7 +98,7 @@ std::optional<std::size_t> frmHolidays::selected_in_lvwHol() const {
 
 void frmHolidays::set_cmdOK_enabled(bool enabled) { controls_->cmdOK->setEnabled(enabled); }
 
-void frmHolidays::show_frmDescr(std::string& sDescr) { frmDescr(sDescr, need_.shell, need_.guarded, this).exec(); }
+void frmHolidays::show_frmDescr(std::string& sDescr) { frmDescr(here_, sDescr, this).exec(); }
 
 void frmHolidays::unload() { done(QDialog::Accepted); }
 

@@ -2,7 +2,6 @@
 
 #include "core/forms/days_off.h"
 #include "core/forms/holidays_form.h"
-#include "core/host/shell.h"
 
 #include <QDialog>
 
@@ -20,21 +19,8 @@ namespace ui {
 // The weekly days off and the holidays. It raises its events on the core's procedures and shows what they set.
 class frmHolidays : public QDialog, private forms::HolidaysForm {
 public:
-    // What the form's procedures need besides the form.
-    struct Needs {
-        grid::HolidayFile& file;
-        grid::Background& background;
-        const grid::Layout& layout;
-        settings::IniLib& ini;
-        settings::PerUserStore& user_store;
-        const values::Locale& locale;
-        const host::Clock& clock;
-        host::MessageBox& box;
-        host::Shell& shell;
-        const host::ApplicationInfo& application;
-        const host::Guard& guarded;
-    };
-    frmHolidays(const Needs& needs, QWidget* parent);
+    frmHolidays(const host::Platform& here, settings::Settings& settings, grid::HolidayFile& file,
+                const grid::Layout& layout, QWidget* parent);
     ~frmHolidays() override;
 
     void done(int result) override;
@@ -55,7 +41,7 @@ private:
     void show_frmDescr(std::string& sDescr) override;
     void unload() override;
 
-    Needs need_;
+    const host::Platform& here_;
     std::unique_ptr<Ui::frmHolidays> controls_;
     const std::vector<QCheckBox*> chkday_; // Sunday first
     forms::DaysOff procedures_;

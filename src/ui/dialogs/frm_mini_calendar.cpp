@@ -37,10 +37,10 @@ QPoint place_in_view(const QRect& window, const QList<QRect>& screens) {
             fitted(window.y(), screen.top(), screen.bottom() + 1 - window.height())};
 }
 
-frmMiniCalendar::frmMiniCalendar(forms::JumpDates& dates, settings::PerUserStore& store,
-                                 const host::Guard& guarded, QWidget* parent)
+frmMiniCalendar::frmMiniCalendar(const host::Platform& here, settings::PerUserStore& store,
+                                 forms::JumpDates& dates, QWidget* parent)
     : QDialog(parent, Qt::Dialog | Qt::FramelessWindowHint), controls_(std::make_unique<Ui::frmMiniCalendar>()),
-      dates_(dates), store_(store), guarded_(guarded) {
+      here_(here), store_(store), dates_(dates) {
     controls_->setupUi(this);
     const auto pick = [this](QDate date) { mvwMonth_DateClick(date); };
     connect(controls_->mvwMonth, &QCalendarWidget::clicked, this, pick);
@@ -52,7 +52,7 @@ frmMiniCalendar::frmMiniCalendar(forms::JumpDates& dates, settings::PerUserStore
 frmMiniCalendar::~frmMiniCalendar() = default;
 
 void frmMiniCalendar::Form_Load() {
-    guarded_("in frmMiniCalendar: Sub Form_Load - Line # ", [&](host::Step& step) {
+    here_.guarded("in frmMiniCalendar: Sub Form_Load - Line # ", [&](host::Step& step) {
         step = 10;
         controls_->mvwMonth->setSelectedDate(date_of(dates_.datCurrentNow));
         step = 20;
@@ -68,14 +68,14 @@ void frmMiniCalendar::Form_Load() {
 }
 
 void frmMiniCalendar::Form_Unload() {
-    guarded_("in frmMiniCalendar: Sub Form_Unload - Line # ", [&](host::Step& step) {
+    here_.guarded("in frmMiniCalendar: Sub Form_Unload - Line # ", [&](host::Step& step) {
         step = 10;
         forms::store_mini_calendar_place({.top = picture::twips(y()), .left = picture::twips(x())}, store_);
     });
 }
 
 void frmMiniCalendar::mvwMonth_DateClick(QDate DateClicked) {
-    guarded_("in frmMiniCalendar: Sub mvwMonth_DateClick - Line # ", [&](host::Step& step) {
+    here_.guarded("in frmMiniCalendar: Sub mvwMonth_DateClick - Line # ", [&](host::Step& step) {
         step = 10;
         dates_.datNow = date_of(DateClicked);
         dates_.bDateNowCancel = false;

@@ -2,7 +2,7 @@
 
 #include "core/forms/jump_dates.h"
 #include "core/forms/mini_calendar.h"
-#include "core/host/guard.h"
+#include "core/host/platform.h"
 #include "core/settings/per_user_store.h"
 
 #include <QDialog>
@@ -22,7 +22,7 @@ namespace ui {
 // drags it; a day or the strip's close box closes it, and nothing else does. It opens where it was left.
 class frmMiniCalendar : public QDialog {
 public:
-    frmMiniCalendar(forms::JumpDates& dates, settings::PerUserStore& store, const host::Guard& guarded,
+    frmMiniCalendar(const host::Platform& here, settings::PerUserStore& store, forms::JumpDates& dates,
                     QWidget* parent);
     ~frmMiniCalendar() override;
 
@@ -50,9 +50,9 @@ private:
     void begin_drag(QPoint place);
 
     std::unique_ptr<Ui::frmMiniCalendar> controls_;
-    forms::JumpDates& dates_;
+    const host::Platform& here_;
     settings::PerUserStore& store_;
-    const host::Guard& guarded_;
+    forms::JumpDates& dates_;
     forms::title_strip::Rectangle close_box_;
     QColor title_color_;
     std::optional<QPoint> drag_offset_; // from the window's corner, while the window itself follows the mouse

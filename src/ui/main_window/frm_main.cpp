@@ -35,11 +35,10 @@ bool is_for_the_user(const QWidget* window) {
 
 } // namespace
 
-frmMain::frmMain(const calendar::Platform& platform)
-    : controls_(make_controls(*this)), face_(*this, *controls_, [this] { unload(); }),
-      dialogs_(*this, platform, calendar_), calendar_(face_, dialogs_, platform),
-      msgSched_(std::make_unique<GridWidget>(calendar_.grid.msgSched, controls_->picForm)),
-      hands_(*this, *msgSched_, calendar_, face_, platform) {
+frmMain::frmMain(const calendar::Outside& outside)
+    : controls_(make_controls(*this)), face_(*this, *controls_, [this] { unload(); }), forms_(*this, calendar_),
+      hands_(*this), calendar_(outside, {face_, forms_, hands_, forms_}),
+      msgSched_(std::make_unique<GridWidget>(calendar_.grid.msgSched, controls_->picForm)) {
     msgSched_->setObjectName("msgSched");
     msgSched_->setFrameShape(QFrame::StyledPanel);
     QFont small = msgSched_->font();
@@ -49,6 +48,7 @@ frmMain::frmMain(const calendar::Platform& platform)
     msgSched_->setFocus();
     face_.msgSched = msgSched_.get();
     calendar_.grid.msgSched.add_observer(*this);
+    hands_.attach(*msgSched_, calendar_);
     connect_menu();
     connect_controls();
 }
@@ -141,9 +141,9 @@ void frmMain::grid_changed(table::GridChange) {
 
 void frmMain::update_controls() {
     update_is_due_ = false;
-    controls_->lblYear->setText(QString::fromStdString(calendar_.grid.layout.lblYear));
+    controls_->lblYear->setText(QString::fromStdString(calendar_.grid.layout.lblYear()));
 
-    const act::ItemList& users = calendar_.users.cboUsers;
+    const act::ItemList& users = calendar_.act.users.cboUsers;
     QStringList names;
     for (int index = 0; index < users.ListCount(); ++index)
         names << QString::fromStdString(users.List(index));

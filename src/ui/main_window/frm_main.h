@@ -17,7 +17,7 @@ namespace ui {
 // shows what they set.
 class frmMain : public QMainWindow, private table::GridObserver {
 public:
-    explicit frmMain(const calendar::Platform& platform);
+    explicit frmMain(const calendar::Outside& outside);
     ~frmMain() override;
 
     // Brings the calendar up, and shows the window unless the start was stopped. Called from the event loop, so
@@ -48,10 +48,10 @@ private:
 
     std::unique_ptr<Ui::frmMain> controls_;
     WindowFace face_;
-    Dialogs dialogs_;
+    FormOpener forms_;
+    GridHands hands_;
     calendar::Calendar calendar_;
     std::unique_ptr<GridWidget> msgSched_;
-    GridHands hands_;
     bool is_unloading_ = false;
     bool is_in_haste_ = false;
     bool update_is_due_ = false;

@@ -1,7 +1,5 @@
 #include "ui/main_window/grid_hands.h"
 
-#include "ui/dialogs/frm_activity_change.h"
-
 #include <QCursor>
 
 #include <utility>
@@ -10,87 +8,78 @@ namespace ui {
 
 using interaction::PopupMenu;
 
-GridHands::GridHands(QMainWindow& window, GridWidget& msgSched, calendar::Calendar& calendar, host::Window& face,
-                     const calendar::Platform& platform)
-    : window_(window), calendar_(calendar), msgSched_(msgSched), application_(platform.application),
-      hands_({.session = calendar.session,
-              .users = calendar.users,
-              .grid = calendar.grid,
-              .engine = calendar.engine,
-              .settings = calendar.ini,
-              .user_store = calendar.user_store,
-              .locale = platform.locale,
-              .clock = platform.clock,
-              .box = platform.box,
-              .window = face,
-              .shell = platform.shell,
-              .application = platform.application,
-              .presenter = *this,
-              .guarded = calendar.guarded()}),
-      mnuPopup_(&window) {
+GridHands::GridHands(QMainWindow& window) : window_(window), mnuPopup_(&window) {
     mnuPopup_.setObjectName("mnuPopup");
+}
+
+void GridHands::attach(GridWidget& msgSched, calendar::Calendar& calendar) {
+    msgSched_ = &msgSched;
+    calendar_ = &calendar;
     fill_menu();
     connect_grid();
 }
 
 void GridHands::connect_grid() {
-    QObject::connect(&msgSched_, &GridWidget::mouse_pressed, &window_,
-                     [this](int button, int shift, int x, int y) {
+    interaction::Interaction& hands = calendar_->interaction;
+    QObject::connect(msgSched_, &GridWidget::mouse_pressed, &window_,
+                     [this, &hands](int button, int shift, int x, int y) {
                          menu_place_ = QCursor::pos();
-                         hands_.mouse.msgSched_MouseDown(button, shift, x, y);
+                         hands.mouse.msgSched_MouseDown(button, shift, x, y);
                      });
-    QObject::connect(&msgSched_, &GridWidget::menu_requested, &window_, [this](int x, int y) {
-        const table::GridModel& model = msgSched_.model();
-        menu_place_ = msgSched_.viewport()->mapToGlobal(msgSched_.cell_rect(model.Row(), model.Col()).center());
-        hands_.mouse.msgSched_MouseDown(2, 0, x, y);
+    QObject::connect(msgSched_, &GridWidget::menu_requested, &window_, [this, &hands](int x, int y) {
+        const table::GridModel& model = msgSched_->model();
+        menu_place_ = msgSched_->viewport()->mapToGlobal(msgSched_->cell_rect(model.Row(), model.Col()).center());
+        hands.mouse.msgSched_MouseDown(2, 0, x, y);
     });
-    QObject::connect(&msgSched_, &GridWidget::double_clicked, &window_,
-                     [this] { hands_.commands.msgSched_DblClick(); });
-    QObject::connect(&msgSched_, &GridWidget::cursor_moved, &window_, [this] { hands_.mouse.cursor_moved(); });
-    QObject::connect(&msgSched_, &GridWidget::drag_moved, &window_,
-                     [this](int x, int y) { hands_.drag_drop.msgSched_DragOver(x, y); });
-    QObject::connect(&msgSched_, &GridWidget::dropped, &window_,
-                     [this](int x, int y) { hands_.drag_drop.msgSched_DragDrop(x, y); });
+    QObject::connect(msgSched_, &GridWidget::double_clicked, &window_,
+                     [&hands] { hands.editing.msgSched_DblClick(); });
+    QObject::connect(msgSched_, &GridWidget::cursor_moved, &window_, [&hands] { hands.mouse.cursor_moved(); });
+    QObject::connect(msgSched_, &GridWidget::drag_moved, &window_,
+                     [&hands](int x, int y) { hands.drag_drop.msgSched_DragOver(x, y); });
+    QObject::connect(msgSched_, &GridWidget::dropped, &window_,
+                     [&hands](int x, int y) { hands.drag_drop.msgSched_DragDrop(x, y); });
 }
 
 void GridHands::fill_menu() {
-    interaction::ActivityCommands& commands = hands_.commands;
+    interaction::Interaction& hands = calendar_->interaction;
+    shell::MenuCommands& menu = calendar_->menu;
     QMenu* mnupopSchedule = mnuPopup_.addMenu("Schedule");
     mnupopSchedule->setObjectName("mnupopSchedule");
     lines_.push_back({mnupopSchedule->menuAction(), &PopupMenu::mnupopSchedule});
-    add_entry(*mnupopSchedule, "mnupopCall", "Call", [&] { commands.mnupopCall_Click(); });
-    add_entry(*mnupopSchedule, "mnupopMeeting", "Meeting", [&] { commands.mnupopMeeting_Click(); });
-    add_entry(*mnupopSchedule, "mnupopTodo", "To-do", [&] { commands.mnupopTodo_Click(); });
+    add_entry(*mnupopSchedule, "mnupopCall", "Call", [&] { hands.scheduling.mnupopCall_Click(); });
+    add_entry(*mnupopSchedule, "mnupopMeeting", "Meeting", [&] { hands.scheduling.mnupopMeeting_Click(); });
+    add_entry(*mnupopSchedule, "mnupopTodo", "To-do", [&] { hands.scheduling.mnupopTodo_Click(); });
     add_entry(
-        mnuPopup_, "mnupopReschedule", "Reschedule Activity...", [&] { commands.mnupopReschedule_Click(); },
+        mnuPopup_, "mnupopReschedule", "Reschedule Activity...", [&] { hands.editing.mnupopReschedule_Click(); },
         &PopupMenu::mnupopReschedule);
     add_entry(
-        mnuPopup_, "mnupopDetails", "View/Edit Activity Details...", [&] { commands.mnupopDetails_Click(); },
+        mnuPopup_, "mnupopDetails", "View/Edit Activity Details...", [&] { hands.editing.mnupopDetails_Click(); },
         &PopupMenu::mnupopDetails);
     add_entry(
-        mnuPopup_, "mnupopSend", "Send Activity...", [&] { commands.mnupopSend_Click(); }, &PopupMenu::mnupopSend);
+        mnuPopup_, "mnupopSend", "Send Activity...", [&] { hands.editing.mnupopSend_Click(); },
+        &PopupMenu::mnupopSend);
     add_separator("mnuSep1", &PopupMenu::mnuSep1);
     add_entry(
-        mnuPopup_, "mnupopClear", "Clear Activity...", [&] { commands.mnupopClear_Click(); },
+        mnuPopup_, "mnupopClear", "Clear Activity...", [&] { hands.clearing.mnupopClear_Click(); },
         &PopupMenu::mnupopClear);
     add_entry(
-        mnuPopup_, "mnuPopRecurring", "Edit Recurring Settings...", [&] { commands.mnuPopRecurring_Click(); },
+        mnuPopup_, "mnuPopRecurring", "Edit Recurring Settings...", [&] { hands.editing.mnuPopRecurring_Click(); },
         &PopupMenu::mnuPopRecurring);
     add_separator("mnuSep2", &PopupMenu::mnuSep2);
     add_entry(
-        mnuPopup_, "mnupopGoto", "Create Lookup (This cell)", [this] { hands_.lookups.mnupopGoto_Click(); },
+        mnuPopup_, "mnupopGoto", "Create Lookup (This cell)", [&] { hands.lookups.mnupopGoto_Click(); },
         &PopupMenu::mnupopGoto);
     add_entry(
-        mnuPopup_, "mnupopLookup", "Create Lookup", [this] { hands_.lookups.mnupopLookup_Click(); },
+        mnuPopup_, "mnupopLookup", "Create Lookup", [&] { hands.lookups.mnupopLookup_Click(); },
         &PopupMenu::mnupopLookup);
     mnupopLookup_ = lines_.back().action;
     add_separator("mnuSep4", &PopupMenu::mnuSep4);
     add_entry(
-        mnuPopup_, "mnuResetRowHeight", "Reset Row Height", [this] { calendar_.menu.mnuResetRowHeight_Click(); },
+        mnuPopup_, "mnuResetRowHeight", "Reset Row Height", [&] { menu.mnuResetRowHeight_Click(); },
         &PopupMenu::mnuResetRowHeight);
     add_entry(
-        mnuPopup_, "mnuResetColumnWidth", "Reset Column Width",
-        [this] { calendar_.menu.mnuResetColumnWidth_Click(); }, &PopupMenu::mnuResetColumnWidth);
+        mnuPopup_, "mnuResetColumnWidth", "Reset Column Width", [&] { menu.mnuResetColumnWidth_Click(); },
+        &PopupMenu::mnuResetColumnWidth);
 }
 
 void GridHands::add_entry(QMenu& menu, const char* name, const char* caption, const std::function<void()>& command,
@@ -122,11 +111,7 @@ void GridHands::show_mnuPopup(const PopupMenu& menu) {
 }
 
 void GridHands::show_drag_icon(interaction::DragIcon icon) {
-    msgSched_.show_drop_permitted(icon == interaction::DragIcon::permitted);
-}
-
-int GridHands::ask_activity_change() {
-    return frmActivityChange(QString::fromStdString(application_.title), &window_).ask();
+    msgSched_->show_drop_permitted(icon == interaction::DragIcon::permitted);
 }
 
 } // namespace ui

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "core/calendar/calendar.h"
-#include "core/interaction/interaction.h"
 #include "ui/grid_widget/grid_widget.h"
 
 #include <QMainWindow>
@@ -12,13 +11,12 @@
 
 namespace ui {
 
-// Brings the grid's mouse and keys to the calendar's interaction, and shows its menu, pointer and question.
-class GridHands : private interaction::Presenter {
+// Brings the grid's mouse and keys to the calendar's interaction, and shows its menu and pointer.
+class GridHands : public interaction::Presenter {
 public:
-    GridHands(QMainWindow& window, GridWidget& msgSched, calendar::Calendar& calendar, host::Window& face,
-              const calendar::Platform& platform);
-
-    interaction::Interaction& hands() { return hands_; }
+    explicit GridHands(QMainWindow& window);
+    // From now on the grid's events reach the calendar, of which this may already be the presenter.
+    void attach(GridWidget& msgSched, calendar::Calendar& calendar);
 
 private:
     struct Line {
@@ -33,17 +31,13 @@ private:
     void add_separator(const char* name, interaction::PopupMenu::Entry interaction::PopupMenu::*entry);
 
     void show_mnuPopup(const interaction::PopupMenu& menu) override;
-    void begin_drag() override { msgSched_.begin_drag(); }
+    void begin_drag() override { msgSched_->begin_drag(); }
     void show_drag_icon(interaction::DragIcon icon) override;
-    int ask_activity_change() override;
     void minimise() override { window_.showMinimized(); }
-    void Switch_View(int col) override { calendar_.navigation.Switch_View(col); }
 
     QMainWindow& window_;
-    calendar::Calendar& calendar_;
-    GridWidget& msgSched_;
-    const host::ApplicationInfo& application_;
-    interaction::Interaction hands_;
+    GridWidget* msgSched_ = nullptr; // both are there from attach on
+    calendar::Calendar* calendar_ = nullptr;
     QMenu mnuPopup_;
     QAction* mnupopLookup_ = nullptr;
     std::vector<Line> lines_;

@@ -66,7 +66,9 @@ protected:
     support::HalfRealServer server{database.path()};
     support::FakeMainWindow window;
     support::FakeDialogs dialogs;
-    calendar::Calendar calendar{window, dialogs, platform(server)};
+    support::FakePresenter presenter;
+    support::FakeActivityChange question;
+    calendar::Calendar calendar{outside(server), {window, dialogs, presenter, question}};
 };
 
 const Days all_week{7, 8, 9, 10, 11, 12, 13}, from_monday{8, 9, 10, 11, 12, 13};

@@ -104,7 +104,7 @@ TEST_F(CellTextTest, TheDailyViewHasFieldsOfItsOwn) {
     contact()[27] = std::string("Manager");
     world_.set("Fields", "DailyField0", "27");
     EXPECT_EQ(text(), "Chris Smith");
-    world_.calendar.layout.NumDays = 1;
+    world_.calendar.layout.NumDays(1);
     EXPECT_EQ(text(), "Chris Smith\rManager");
 }
 

@@ -75,20 +75,8 @@ public:
         return lines;
     }
 
-    bool bLoading = false;
     FakeTimer timer;
-    engine::CalendarEngine engine{{.session = session,
-                                   .users = users,
-                                   .lists = lists,
-                                   .grid = calendar,
-                                   .settings = ini,
-                                   .locale = surroundings_locale,
-                                   .clock = clock,
-                                   .tmrRefresh = timer,
-                                   .box = box,
-                                   .window = window,
-                                   .guarded = guarded,
-                                   .bLoading = bLoading}};
+    engine::CalendarEngine engine{here, settings, act, calendar, timer};
 };
 
 } // namespace support

@@ -12,7 +12,7 @@ class QuickRefreshTest : public support::QuickRefreshWorld {};
 TEST_F(QuickRefreshTest, FindsNothingWhenNothingChanged) {
     add("Meet", day(10));
     fill();
-    EXPECT_EQ(quick_refresh().Find_New(world_.engine.refresh.LastRefresh), "");
+    EXPECT_EQ(quick_refresh().Find_New(world_.engine.placing.LastRefresh), "");
     EXPECT_EQ(quick(), Texts{"1/5 Meet"});
 }
 
@@ -20,7 +20,7 @@ TEST_F(QuickRefreshTest, StoresTheMomentAndBracketsTheWorkWithTheHourglass) {
     fill();
     world_.clock.time = day(10, 11);
     quick();
-    EXPECT_EQ(world_.engine.refresh.LastRefresh, day(10, 11));
+    EXPECT_EQ(world_.engine.placing.LastRefresh, day(10, 11));
     EXPECT_EQ(world_.window.calls, (Texts{"show_hourglass", "show_default_pointer"}));
 }
 
@@ -54,17 +54,17 @@ TEST_F(QuickRefreshTest, OfTwoEditedActivitiesOnlyTheLaterInTheListIsReadNow) {
     edit("Early", day(10, 10));
     move("Later", day(11, 14));
     edit("Later", day(10, 9, 30));
-    EXPECT_EQ(quick_refresh().Find_New(world_.engine.refresh.LastRefresh), id("Later"));
+    EXPECT_EQ(quick_refresh().Find_New(world_.engine.placing.LastRefresh), id("Later"));
     EXPECT_EQ(quick(), (Texts{"1/5 Early", "6/6 Later"}));
 }
 
 TEST_F(QuickRefreshTest, AnActivityEditedAtExactlyLastRefreshIsNotFound) {
     add("Meet", day(10));
     fill();
-    edit("Meet", world_.engine.refresh.LastRefresh);
-    EXPECT_EQ(quick_refresh().Find_New(world_.engine.refresh.LastRefresh), "");
-    edit("Meet", DateTime::from_seconds(world_.engine.refresh.LastRefresh.seconds() + 1));
-    EXPECT_EQ(quick_refresh().Find_New(world_.engine.refresh.LastRefresh), id("Meet"));
+    edit("Meet", world_.engine.placing.LastRefresh);
+    EXPECT_EQ(quick_refresh().Find_New(world_.engine.placing.LastRefresh), "");
+    edit("Meet", DateTime::from_seconds(world_.engine.placing.LastRefresh.seconds() + 1));
+    EXPECT_EQ(quick_refresh().Find_New(world_.engine.placing.LastRefresh), id("Meet"));
 }
 
 TEST_F(QuickRefreshTest, FindsTheDisplayedIdsThatTheListNoLongerHolds) {
@@ -75,7 +75,7 @@ TEST_F(QuickRefreshTest, FindsTheDisplayedIdsThatTheListNoLongerHolds) {
     remove("First");
     remove("Last");
     edit("Stays", day(10, 10));
-    EXPECT_EQ(quick_refresh().Find_New(world_.engine.refresh.LastRefresh), id("Stays") + id("First") + id("Last"));
+    EXPECT_EQ(quick_refresh().Find_New(world_.engine.placing.LastRefresh), id("Stays") + id("First") + id("Last"));
     EXPECT_EQ(world_.displayed(), id("First") + id("Stays") + id("Last")) << "the search works on a copy";
 }
 

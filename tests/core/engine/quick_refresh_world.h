@@ -47,7 +47,7 @@ protected:
         world_.window.calls.clear();
     }
     std::vector<std::string> quick() {
-        quick_refresh().Add_New(world_.engine.refresh.LastRefresh);
+        quick_refresh().Add_New(world_.engine.placing.LastRefresh);
         return world_.placed();
     }
     engine::QuickRefresh& quick_refresh() { return world_.engine.quick_refresh; }

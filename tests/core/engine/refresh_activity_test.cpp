@@ -157,7 +157,7 @@ TEST_F(AskRefreshTest, WithoutAKnownChangeItIsAQuickRefresh) {
     fill();
     move("Meet", day(12));
     edit("Meet", day(10, 10));
-    quick_refresh().Ask_Refresh(false, "", 0, 0);
+    quick_refresh().Ask_Refresh({});
     EXPECT_EQ(world_.placed(), Texts{"1/7 Meet"});
     EXPECT_EQ(world_.window.calls, (Texts{"bring_to_front", "show_hourglass", "show_default_pointer"}));
 }
@@ -170,7 +170,7 @@ TEST_F(AskRefreshTest, WithAKnownChangeTheSelectedActivityIsReadAgain) {
     edit("Edited", day(10, 10));
     move("Edited", day(13));
     select(row_of(1), 5);
-    quick_refresh().Ask_Refresh(true, "", 0, 0);
+    quick_refresh().Ask_Refresh({.selected = true});
     EXPECT_EQ(world_.placed(), (Texts{"1/6 Edited", "1/7 Meet"}));
     EXPECT_EQ(world_.window.calls, Texts{"bring_to_front"});
 }
@@ -186,7 +186,7 @@ TEST_F(AskRefreshTest, ClearsTheSelectedCellUnlessItLiesInTheFirstSlot) {
         cell(slot, 5).ContactID("mark");
         // The slot holds nothing else, so that only the flag's own clearing can be seen before it is drawn.
         world_.act_data.failing = {"Database.Activity"};
-        quick_refresh().Ask_Refresh(true, "", 0, 0);
+        quick_refresh().Ask_Refresh({.selected = true});
     }
     EXPECT_EQ(cell(0, 5).ContactID(), "mark");
     EXPECT_EQ(cell(1, 5).ContactID(), "");
@@ -197,7 +197,7 @@ TEST_F(AskRefreshTest, ASelectedCellWithoutAnActivityHasNothingToReadAgain) {
     fill();
     select(row_of(1), 5);
     cell(1, 5).ActivityID("");
-    quick_refresh().Ask_Refresh(true, "", 0, 0);
+    quick_refresh().Ask_Refresh({.selected = true});
     EXPECT_TRUE(world_.box.shown.empty());
     EXPECT_EQ(world_.placed(), Texts{"1/5 Meet"});
 }
@@ -207,7 +207,7 @@ TEST_F(AskRefreshTest, ReadsASecondActivityAndSelectsItsCell) {
     fill();
     select(row_of(1), 5);
     add("Second", day(12));
-    quick_refresh().Ask_Refresh(true, id("Second"), row_of(1), 7);
+    quick_refresh().Ask_Refresh({.selected = true, .second_id = id("Second"), .second_place = {row_of(1), 7}});
     EXPECT_EQ(world_.placed(), (Texts{"1/5 Meet", "1/7 Second"}));
     EXPECT_EQ(world_.calendar.selection.SelectedCell.get(), &cell(1, 7));
 }

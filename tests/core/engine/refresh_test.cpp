@@ -86,7 +86,7 @@ TEST_F(RefreshTest, StoresTheMomentAndForgetsTheIdsOfBefore) {
     world_.engine.placing.DisplayedIDs.append("an older id.");
     world_.clock.time = day(10, 17, 45);
     refresh();
-    EXPECT_EQ(world_.engine.refresh.LastRefresh, day(10, 17, 45));
+    EXPECT_EQ(world_.engine.placing.LastRefresh, day(10, 17, 45));
     EXPECT_EQ(world_.displayed(), "");
 }
 
@@ -115,10 +115,10 @@ TEST_F(RefreshTest, LeavesTheTitlesAlone) {
 
 TEST_F(RefreshTest, TheFirstOneWhileLoadingLeavesTheSlotsAsTheyAre) {
     world_.add("Meet", day(10));
-    world_.bLoading = true;
+    world_.calendar.bLoading = true;
     refresh();
     EXPECT_EQ(refresh(), (Texts{"1/5 Meet", "1/5 Meet"}));
-    world_.bLoading = false;
+    world_.calendar.bLoading = false;
     EXPECT_EQ(refresh(), Texts{"1/5 Meet"});
 }
 

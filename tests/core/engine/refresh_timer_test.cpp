@@ -27,12 +27,12 @@ protected:
     }
     // The number of the tick that refreshes or asks.
     int ticks_to_action() {
-        world_.engine.refresh.LastRefresh = DateTime::of(2024, 1, 10, 9, 0);
+        world_.engine.placing.LastRefresh = DateTime::of(2024, 1, 10, 9, 0);
         for (int tick = 1; tick < 100; ++tick) {
             const std::size_t boxes = world_.box.shown.size();
             world_.clock.time = world_.clock.time.plus_minutes(1);
             world_.timer.fire();
-            if (world_.engine.refresh.LastRefresh == world_.clock.time || world_.box.shown.size() > boxes)
+            if (world_.engine.placing.LastRefresh == world_.clock.time || world_.box.shown.size() > boxes)
                 return tick;
         }
         return 0;

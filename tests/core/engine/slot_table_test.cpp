@@ -15,7 +15,7 @@ class SlotTableTest : public testing::Test {
 protected:
     engine::SlotTable table(int count) {
         engine::SlotTable slots;
-        slots.read(grid::SlotTimes(world_.ini, world_.surroundings_locale), count);
+        slots.read(grid::SlotTimes(world_.ini, world_.here.locale), count);
         return slots;
     }
     support::EngineWorld world_;

@@ -92,7 +92,7 @@ TEST_F(BrokenDaysOff, StayOpenAndLoseNothingWhenTheFileCantBeWritten) {
         "Error 75: 'Path/File access error'\rin frmHolidays: Sub cmdOK_Click - Line # 10\r"));
     EXPECT_EQ(holidays_file(), before);
     EXPECT_EQ(settings_file(), settings_before);
-    EXPECT_EQ(calendar.grid.background.Holidays, "|1/1/2024|");
+    EXPECT_EQ(calendar.grid.background.holidays.Holidays, "|1/1/2024|");
     EXPECT_EQ(dialog.form.rows, (Lines{"1/1/2024=New Year", "5/1/2024=May Day"}));
     files.read_only.clear();
     dialog.ok();

@@ -160,7 +160,7 @@ TEST_F(DaysOffTest, CancelledAfterAnEditTellToRestartAndWriteNothing) {
     EXPECT_EQ(boxes(), Lines{restart_message});
     EXPECT_EQ(holidays_file(), holidays_before);
     EXPECT_EQ(settings_file(), settings_before);
-    EXPECT_EQ(calendar.grid.background.Holidays, "|1/1/2024|");
+    EXPECT_EQ(calendar.grid.background.holidays.Holidays, "|1/1/2024|");
 }
 
 TEST_F(DaysOffTest, ReplaceTheHolidaysThatTheGridShowsAtItsNextPaintingOnly) {
@@ -168,7 +168,7 @@ TEST_F(DaysOffTest, ReplaceTheHolidaysThatTheGridShowsAtItsNextPaintingOnly) {
     Opened dialog(*this);
     dialog.add(1, 9, "Founders' Day");
     dialog.ok();
-    EXPECT_EQ(calendar.grid.background.Holidays, "|1/9/2024|");
+    EXPECT_EQ(calendar.grid.background.holidays.Holidays, "|1/9/2024|");
     EXPECT_EQ(calendar.grid.msgSched.TextMatrix(0, 4), "Tuesday Jan. 9");
     calendar.grid.background.Refresh_Colors();
     EXPECT_EQ(calendar.grid.msgSched.TextMatrix(0, 4), "Founders' Day");
@@ -185,7 +185,7 @@ TEST_F(DaysOffTest, StoreWhatTheBoxesSayForTheNextStart) {
         EXPECT_EQ(value_of(weekday), "1");
     for (const char* weekday : {"2", "3", "4", "5", "6"})
         EXPECT_EQ(value_of(weekday), "0");
-    EXPECT_EQ(layout().DaysOff, "");
+    EXPECT_EQ(layout().DaysOff(), "");
 }
 
 TEST_F(DaysOffTest, GiveADayThatComesBackItsStandardWidthOnce) {
@@ -218,8 +218,8 @@ TEST_F(DaysOffTest, TouchNoWidthOfAWorkingDayThatIsChecked) {
 TEST_F(DaysOffTest, TakeTheCalendarsWidthWhereTheSettingsHaveNone) {
     have_settings("[DaysOff]\r\n1=1\r\n");
     start();
-    calendar.grid.layout.StdColWidth = 1950;
-    calendar.grid.layout.FixedCols = 1;
+    calendar.grid.layout.StdColWidth(1950);
+    calendar.grid.layout.OneRowPerUser(false);
     Opened dialog(*this);
     dialog.form.set_chkday(1, false);
     dialog.ok();

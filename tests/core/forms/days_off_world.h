@@ -61,17 +61,17 @@ public:
 // One opening of the dialog.
 struct Opened {
     explicit Opened(ShellWorld& world, const values::Locale& locale = values::english_us())
-        : guarded(world.box, world.application), procedures({.form = form,
-                                                             .file = world.calendar.holidays,
-                                                             .background = world.calendar.grid.background,
-                                                             .layout = world.calendar.grid.layout,
-                                                             .ini = world.calendar.ini,
-                                                             .user_store = world.calendar.user_store,
-                                                             .locale = locale,
-                                                             .clock = world.clock,
-                                                             .box = world.box,
-                                                             .application = world.application,
-                                                             .guarded = guarded}) {
+        : here{{.application = world.application,
+                .locale = locale,
+                .clock = world.clock,
+                .box = world.box,
+                .shell = world.shell,
+                .files = world.files,
+                .folders = world.folders,
+                .user_store = world.user_store},
+               world.window},
+          procedures(here, world.calendar.settings, form, world.calendar.grid.background.holidays,
+                     world.calendar.grid.layout) {
         form.Form_Unload = [this] { procedures.Form_Unload(); };
         form.chkday_Click = [this](int weekday) { procedures.chkday_Click(weekday); };
         procedures.Form_Load();
@@ -89,7 +89,7 @@ struct Opened {
     void ok() { procedures.cmdOK_Click(); }
 
     FakeHolidaysForm form;
-    host::Guard guarded;
+    host::Platform here;
     forms::DaysOff procedures;
 };
 
@@ -103,7 +103,9 @@ protected:
     void have_holidays(const std::string& lines) { files.content[path] = "[Holidays]\r\n" + lines; }
     std::string holidays_file() { return files.content[path]; }
     std::string settings_file() { return files.content["/program/Orvanta.ini"]; }
-    std::string value_of(const char* weekday) { return calendar.ini.GetKeyValue("DaysOff", weekday, "absent"); }
+    std::string value_of(const char* weekday) {
+        return calendar.settings.ini.GetKeyValue("DaysOff", weekday, "absent");
+    }
 };
 
 } // namespace support

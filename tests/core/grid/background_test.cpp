@@ -12,7 +12,7 @@ constexpr table::Colour even = 0xFFFFFF, odd = 0xC0E0FF, holiday = 0xFFC0C0;
 
 class BackgroundTest : public testing::Test {
 protected:
-    BackgroundTest() { background.HolidaysFile = "/program/holidays.dat"; }
+    BackgroundTest() { background.holidays.HolidaysFile = "/program/holidays.dat"; }
     void open(const std::vector<std::string>& users = {"Ann", "Bob"}, bool one_row_per_user = true) {
         world.have_users(users);
         world.open(DateTime::of(2024, 1, 10), 7, one_row_per_user);
@@ -51,14 +51,14 @@ TEST_F(BackgroundTest, TakesChangedColoursAtARepaint) {
     world.set("Settings", "Color0", "255");
     background.Refresh_Colors();
     EXPECT_EQ(colour(1, 4), 255);
-    EXPECT_EQ(layout.Color0, "255");
+    EXPECT_EQ(layout.Color0(), "255");
 }
 
 // Tuesday, 9 January is column 4, Wednesday, today, column 5.
 TEST_F(BackgroundTest, MarksAHolidayAndPutsItsDescriptionIntoTheTitle) {
     world.files.content["/program/holidays.dat"] =
         "[Holidays]\r\n1/9/2024=Founders' Day\r\n1/10/2024=Open Day\r\n";
-    background.Holidays = "|1/9/2024||1/10/2024|";
+    background.holidays.Holidays = "|1/9/2024||1/10/2024|";
     open();
     for (int row = 1; row < model.Rows(); ++row) {
         EXPECT_EQ(colour(row, 4), holiday) << row;
@@ -75,13 +75,13 @@ TEST_F(BackgroundTest, MarksAHolidayAndPutsItsDescriptionIntoTheTitle) {
 
 TEST_F(BackgroundTest, ShowsAllOfADescriptionBehindItsFirstEqualsSign) {
     world.files.content["/program/holidays.dat"] = "[Holidays]\r\n1/9/2024=Day=Night\r\n";
-    background.Holidays = "|1/9/2024|";
+    background.holidays.Holidays = "|1/9/2024|";
     open();
     EXPECT_EQ(model.TextMatrix(0, 4), "Day=Night");
 }
 
 TEST_F(BackgroundTest, EmptiesTheTitleOfAHolidayWithoutADescription) {
-    background.Holidays = "|1/8/2024||1/9/2024||1/10/2024|";
+    background.holidays.Holidays = "|1/8/2024||1/9/2024||1/10/2024|";
     world.files.content["/program/holidays.dat"] = "[Holidays]\r\n1/8/2024\r\n\r\n1/9/2024=\r\n=nothing\r\n";
     open();
     for (const int col : {3, 4, 5}) { // without "=", without a text, without a line
@@ -92,7 +92,7 @@ TEST_F(BackgroundTest, EmptiesTheTitleOfAHolidayWithoutADescription) {
 }
 
 TEST_F(BackgroundTest, KnowsAHolidayByItsWholeDateOnly) {
-    background.Holidays = "|11/9/2024||1/9/20245|";
+    background.holidays.Holidays = "|11/9/2024||1/9/20245|";
     open();
     EXPECT_EQ(colour(1, 4), even);
 }
@@ -100,14 +100,14 @@ TEST_F(BackgroundTest, KnowsAHolidayByItsWholeDateOnly) {
 TEST(BackgroundInAnotherLocale, MatchesHolidaysInThatLocalesShortDate) {
     support::GridWorld world(values::german());
     world.have_users({"Ann"});
-    world.calendar.background.Holidays = "|1/8/2024||09.01.2024|";
+    world.calendar.background.holidays.Holidays = "|1/8/2024||09.01.2024|";
     world.open(DateTime::of(2024, 1, 10));
     EXPECT_EQ(world.calendar.msgSched.cell(1, 3).back_colour, even);
     EXPECT_EQ(world.calendar.msgSched.cell(1, 4).back_colour, holiday);
 }
 
 TEST_F(BackgroundTest, GivesAHolidaysColumnItsBandsBack) {
-    background.Holidays = "|1/9/2024|";
+    background.holidays.Holidays = "|1/9/2024|";
     open();
     background.Remove_Holidays();
     EXPECT_EQ(colour(1, 4), even);
@@ -117,26 +117,26 @@ TEST_F(BackgroundTest, GivesAHolidaysColumnItsBandsBack) {
 }
 
 TEST_F(BackgroundTest, RemovesOnlyTheHolidaysOfTheDaysShown) {
-    background.Holidays = "|1/9/2024|";
+    background.holidays.Holidays = "|1/9/2024|";
     open();
-    layout.StartDate = DateTime::of(2024, 2, 4);
+    layout.show(DateTime::of(2024, 2, 4));
     background.Remove_Holidays();
     EXPECT_EQ(colour(1, 4), holiday);
 }
 
 TEST_F(BackgroundTest, FindsTheBandOfARowByTheNumberOfUsers) {
     open({"Ann", "Bob", "Cem"}, false);
-    EXPECT_EQ(layout.CellsPerSlot, 4);
+    EXPECT_EQ(layout.CellsPerSlot(), 4);
     EXPECT_EQ(world.users.NumUsers, 3);
-    EXPECT_EQ(background.GetBackGroundColor(3), even);
-    EXPECT_EQ(background.GetBackGroundColor(4), odd);
+    EXPECT_EQ(background.bands.GetBackGroundColor(3), even);
+    EXPECT_EQ(background.bands.GetBackGroundColor(4), odd);
     EXPECT_EQ(colour(4, 4), even);
 }
 
 TEST_F(BackgroundTest, ShowsTheFailureBoxForABandWithoutUsers) {
     open();
     world.users.NumUsers = 0;
-    EXPECT_EQ(background.GetBackGroundColor(1), 0);
+    EXPECT_EQ(background.bands.GetBackGroundColor(1), 0);
     ASSERT_EQ(world.box.shown.size(), 1U);
     EXPECT_NE(world.box.shown[0].text.find("in modColorOffSlot: Function GetBackGroundColor - Line # "),
               std::string::npos);

@@ -31,7 +31,7 @@ TEST(CalendarGrid, IsBuiltWithTheWindowLockedAndReleasesItAtTheEnd) {
 TEST(CalendarGrid, HidesDaysOffAfterTheSizesAreRestored) {
     support::GridWorld world;
     world.have_users({"Ann"});
-    world.calendar.layout.DaysOff = "1";
+    world.calendar.layout.DaysOff("1");
     world.open(DateTime::of(2024, 1, 10));
     EXPECT_EQ(world.calendar.msgSched.ColWidth(2), 0);
     EXPECT_EQ(world.calendar.msgSched.ColWidth(3), 1800);
@@ -42,15 +42,15 @@ TEST(CalendarGrid, GoesFromAWeekToADayAndBack) {
     world.have_users({"Ann", "Bob"});
     world.open(DateTime::of(2024, 1, 10));
     grid::CalendarGrid& calendar = world.calendar;
-    calendar.layout.NumDays = 1;
+    calendar.layout.NumDays(1);
     calendar.layout.Initialize_Dates(DateTime::of(2024, 1, 11));
-    calendar.Setup_Calendar(calendar.layout.StartDate, calendar.layout.EndDate);
+    calendar.Setup_Calendar(calendar.layout.StartDate(), calendar.layout.EndDate());
     EXPECT_EQ(calendar.msgSched.Cols(), 3);
     EXPECT_EQ(calendar.msgSched.TextMatrix(0, 2), "Thursday Jan. 11");
     EXPECT_EQ(calendar.layout.Cells(1, 2).DateDay(), DateTime::of(2024, 1, 11));
-    calendar.layout.NumDays = 7;
+    calendar.layout.NumDays(7);
     calendar.layout.Initialize_Dates(DateTime::of(2024, 1, 11));
-    calendar.Setup_Calendar(calendar.layout.StartDate, calendar.layout.EndDate);
+    calendar.Setup_Calendar(calendar.layout.StartDate(), calendar.layout.EndDate());
     EXPECT_EQ(calendar.msgSched.Cols(), 9);
     EXPECT_EQ(calendar.msgSched.TextMatrix(0, 2), "Sunday Jan. 7");
     EXPECT_TRUE(world.box.shown.empty());

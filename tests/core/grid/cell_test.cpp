@@ -70,7 +70,7 @@ TEST_F(CellTest, BelongsToTheUserOfItsRow) {
 }
 
 TEST_F(CellTest, HasAnEmptyUserWhereOneRowPerUserIsOff) {
-    layout.OneRowPerUser = false;
+    layout.OneRowPerUser(false);
     EXPECT_EQ(layout.Cells(1, 5).User(), "");
 }
 
@@ -86,7 +86,7 @@ TEST_F(CellTest, TimeFollowsAChangeOfItsSlotsStartAtOnceButDurationMinutesStays)
 
 TEST_F(CellTest, FollowsTheFirstDayShown) {
     const grid::clsMsgSchedCell& cell = layout.Cells(1, 2);
-    layout.StartDate = DateTime::of(2024, 3, 1);
+    layout.show(DateTime::of(2024, 3, 1));
     EXPECT_EQ(cell.DateDay(), DateTime::of(2024, 3, 1));
 }
 
@@ -126,11 +126,21 @@ TEST_F(CellTest, HasNoSlotBeforeItIsInitialised) {
     EXPECT_FALSE(cell.Initialized());
     EXPECT_EQ(support::failure_number([&] { cell.Slot(); }), 6);
     EXPECT_EQ(support::failure_number([&] { cell.Time(); }), 6);
-    EXPECT_EQ(cell.DateDay(), layout.StartDate);
+    EXPECT_EQ(cell.DateDay(), layout.StartDate());
 }
 
 TEST_F(CellTest, NeverGoesBeyondInAnythingThatIsDrawn) {
-    world.calendar.layout.Slots(0, 2).SetCell("ACTIVITY0001", "", "0", "0", "", "0", "1", "Call", "Ann||", "0", 2);
+    world.calendar.layout.Slots(0, 2).SetCell({.ActivityID = "ACTIVITY0001",
+                                               .ContactID = "",
+                                               .Recurring = "0",
+                                               .Cleared = "0",
+                                               .BackColor = "",
+                                               .ForeColor = "0",
+                                               .Type = "1",
+                                               .Text = "Call",
+                                               .Detail = "Ann||",
+                                               .HasDetails = "0",
+                                               .GoesBeyond = 2});
     world.calendar.rendering.Display_Changes("");
     for (const grid::clsMsgSchedCell& cell : layout.Cells)
         EXPECT_FALSE(cell.GoesBeyond());

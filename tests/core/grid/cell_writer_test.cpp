@@ -43,14 +43,14 @@ TEST_F(CellWriterTest, LeavesTheTextAloneWhenThereIsNone) {
 }
 
 TEST_F(CellWriterTest, SetsAlignmentBoldAndBackgroundOnlyWhenTold) {
-    writer.Write_Cell(model, 3, 4, {.bold = 2, .back_color = 77, .alignment = Alignment::centre});
+    writer.Write_Cell(model, 3, 4, {.bold = true, .back_color = 77, .alignment = Alignment::centre});
     EXPECT_EQ(shown(3, 4).alignment, Alignment::centre);
     EXPECT_TRUE(shown(3, 4).bold);
     writer.Write_Cell(model, 3, 4, {.text = "x"});
     EXPECT_EQ(shown(3, 4).alignment, Alignment::centre);
     EXPECT_TRUE(shown(3, 4).bold);
     EXPECT_EQ(shown(3, 4).back_colour, 77);
-    writer.Write_Cell(model, 3, 4, {.bold = 1});
+    writer.Write_Cell(model, 3, 4, {.bold = false});
     EXPECT_FALSE(shown(3, 4).bold);
 }
 
@@ -112,14 +112,14 @@ TEST_F(CellWriterTest, StoresWhatIsPresentAndLeavesTheRest) {
     writer.Add_toGridID(2, 3,
                         {.activity_id = "A1",
                          .contact_id = "C1",
-                         .recurring = 1,
-                         .cleared = 1,
+                         .recurring = true,
+                         .cleared = true,
                          .back_color = 2,
                          .fore_color = 255,
                          .icon_index = 4,
                          .sort_text = "Ann||x",
                          .text = "x",
-                         .has_details = 1});
+                         .has_details = true});
     writer.Add_toGridID(2, 3, {});
     const grid::clsMsgSchedCell& cell = cells(2, 3);
     EXPECT_EQ(cell.ActivityID(), "A1");
@@ -132,7 +132,7 @@ TEST_F(CellWriterTest, StoresWhatIsPresentAndLeavesTheRest) {
     EXPECT_EQ(cell.SortText(), "Ann||x");
     EXPECT_EQ(cell.Text(), "x");
     EXPECT_TRUE(cell.HasDetails());
-    writer.Add_toGridID(2, 3, {.recurring = 0, .cleared = 2, .has_details = 0});
+    writer.Add_toGridID(2, 3, {.recurring = false, .cleared = false, .has_details = false});
     EXPECT_FALSE(cell.Recurring());
     EXPECT_FALSE(cell.Cleared());
     EXPECT_FALSE(cell.HasDetails());

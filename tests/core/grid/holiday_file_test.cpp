@@ -8,12 +8,16 @@ namespace {
 
 class Holidays : public ::testing::Test, protected support::ShellWorld {
 protected:
+    Holidays() { holidays.HolidaysFile = "/program/holidays.dat"; }
     std::string of(const std::string& text) {
         files.content["/program/holidays.dat"] = text;
-        return holidays.Get_Holidays("/program/holidays.dat");
+        return holidays.Get_Holidays();
     }
-    host::Guard guarded{box, application};
-    grid::HolidayFile holidays{files, guarded};
+    host::Platform platform_with(host::Files& others) {
+        return {{application, values::english_us(), clock, box, shell, others, folders, user_store}, window};
+    }
+    host::Platform here = platform_with(files);
+    grid::HolidayFile holidays{here};
 };
 
 TEST_F(Holidays, StandBetweenBars) {
@@ -21,7 +25,7 @@ TEST_F(Holidays, StandBetweenBars) {
 }
 
 TEST_F(Holidays, AreNoneWithoutAFile) {
-    EXPECT_EQ(holidays.Get_Holidays("/program/holidays.dat"), "");
+    EXPECT_EQ(holidays.Get_Holidays(), "");
     EXPECT_TRUE(box.shown.empty());
 }
 
@@ -65,7 +69,7 @@ TEST_F(Holidays, AreReadFromNoiseAndNULs) {
     for (unsigned byte = 0; byte < 100000; ++byte)
         noise += static_cast<char>((byte * byte / 7 + byte) % 251 + 3);
     files.content["/program/holidays.dat"] = noise;
-    EXPECT_GT(holidays.lines("/program/holidays.dat").size(), 10U);
+    EXPECT_GT(holidays.lines().size(), 10U);
     const std::string with_nul("|1/1\0/2024|", 11);
     EXPECT_EQ(of(std::string("[Holidays]\n1/1\0/2024=a\0b", 25)), with_nul);
     EXPECT_EQ(of(std::string(50000, '\0')), "");
@@ -75,14 +79,17 @@ TEST_F(Holidays, OfAFolderAreAFailure) {
     class Folder : public support::MemoryFiles {
         bool exists(const std::string&) const override { return true; }
     } folder;
-    EXPECT_EQ(grid::HolidayFile(folder, guarded).Get_Holidays("/program/holidays.dat"), "");
+    const host::Platform with_folder = platform_with(folder);
+    grid::HolidayFile in_a_folder(with_folder);
+    in_a_folder.HolidaysFile = holidays.HolidaysFile;
+    EXPECT_EQ(in_a_folder.Get_Holidays(), "");
     EXPECT_EQ(boxes(), std::vector<std::string>{"Error 75: 'Path/File access error'"});
 }
 
 class HolidaysWritten : public Holidays {
 protected:
     std::string written(std::span<const grid::Holiday> list) {
-        holidays.write("/program/holidays.dat", list);
+        holidays.write(list);
         return files.content["/program/holidays.dat"];
     }
 };

@@ -22,8 +22,8 @@ TEST_F(LayoutShape, GivesEachUserARowInEachOfNineSlotsByDefault) {
     open(true);
     EXPECT_EQ(model.FixedCols(), 2);
     EXPECT_EQ(model.Cols(), 9);
-    EXPECT_EQ(layout.CellsPerSlot, 3);
-    EXPECT_EQ(layout.SlotsCount, 9);
+    EXPECT_EQ(layout.CellsPerSlot(), 3);
+    EXPECT_EQ(layout.SlotsCount(), 9);
     EXPECT_EQ(model.Rows(), 28);
     EXPECT_EQ(layout.Cells.rows(), 28);
     EXPECT_EQ(layout.Cells.cols(), 9);
@@ -38,7 +38,7 @@ TEST_F(LayoutShape, HasFourRowsPerSlotByDefaultWhereRowsHaveNoUsers) {
     open(false);
     EXPECT_EQ(model.FixedCols(), 1);
     EXPECT_EQ(model.Cols(), 8);
-    EXPECT_EQ(layout.CellsPerSlot, 4);
+    EXPECT_EQ(layout.CellsPerSlot(), 4);
     EXPECT_EQ(model.Rows(), 37);
 }
 
@@ -71,7 +71,7 @@ TEST_F(LayoutShape, HasAtLeastOneRowPerSlotWhereTheFilterNamesNobodyThatExists) 
     world.set("Filter", "Users", "GONE--------");
     world.have_users({"Ann"});
     open(true);
-    EXPECT_EQ(layout.CellsPerSlot, 1);
+    EXPECT_EQ(layout.CellsPerSlot(), 1);
     EXPECT_EQ(model.Rows(), 10);
     EXPECT_TRUE(world.box.shown.empty());
 }
@@ -84,9 +84,18 @@ TEST_F(LayoutShape, HasOnlyTheTitleRowWithoutUsers) {
 TEST_F(LayoutShape, MakesAllRecordsAnew) {
     world.have_users({"Ann"});
     open(true);
-    layout.Slots(0, 2).SetCell("A1", "", "0", "0", "", "0", "1", "x", "Ann||x", "0", 0);
+    layout.Slots(0, 2).SetCell({.ActivityID = "A1",
+                                .ContactID = "",
+                                .Recurring = "0",
+                                .Cleared = "0",
+                                .BackColor = "",
+                                .ForeColor = "0",
+                                .Type = "1",
+                                .Text = "x",
+                                .Detail = "Ann||x",
+                                .HasDetails = "0"});
     layout.Cells(1, 2).ActivityID("A1");
-    layout.Initialize_Calendar(layout.StartDate, layout.EndDate);
+    layout.Initialize_Calendar(layout.StartDate(), layout.EndDate());
     EXPECT_FALSE(layout.Slots(0, 2).record(0).InUse);
     EXPECT_FALSE(layout.Slots(0, 2).Changed());
     EXPECT_EQ(layout.Cells(1, 2).ActivityID(), "");
@@ -97,10 +106,10 @@ TEST_F(LayoutShape, ReadsTheColoursWithTheirDefaults) {
     world.set("Settings", "Color1", "12648447");
     world.have_users({"Ann"});
     open(true);
-    EXPECT_EQ(layout.Color0, "&H00FFFFFF");
-    EXPECT_EQ(layout.Color1, "12648447");
-    EXPECT_EQ(layout.Color3, "&HFFC0C0");
-    EXPECT_EQ(layout.Color4, "&H40C0");
+    EXPECT_EQ(layout.Color0(), "&H00FFFFFF");
+    EXPECT_EQ(layout.Color1(), "12648447");
+    EXPECT_EQ(layout.Color3(), "&HFFC0C0");
+    EXPECT_EQ(layout.Color4(), "&H40C0");
 }
 
 TEST_F(LayoutShape, GivesFixedColumns1000And1300WhereNothingIsStored) {
@@ -117,8 +126,8 @@ TEST_F(LayoutShape, GivesFixedColumns1000And1300WhereNothingIsStored) {
 
 TEST_F(LayoutShape, TakesStoredWidthsAndTheStandardSizes) {
     world.user_store.write("Settings", "FixedColWidth1", "2222");
-    layout.StdColWidth = 1500;
-    layout.StdRowHeight = 400;
+    layout.StdColWidth(1500);
+    layout.StdRowHeight(400);
     world.have_users({"Ann"});
     open(true);
     EXPECT_EQ(model.ColWidth(0), 1000);
@@ -136,7 +145,7 @@ TEST_F(LayoutShape, KeepsSizesDuringAJump) {
     world.calendar.Setup_Calendar(DateTime::of(2024, 2, 4), DateTime::of(2024, 2, 10));
     EXPECT_EQ(model.ColWidth(4), 2500);
     EXPECT_EQ(model.RowHeight(2), 1200);
-    EXPECT_EQ(layout.StartDate, DateTime::of(2024, 2, 4));
+    EXPECT_EQ(layout.StartDate(), DateTime::of(2024, 2, 4));
     layout.KeepCellDims = false;
     world.calendar.Setup_Calendar(DateTime::of(2024, 2, 4), DateTime::of(2024, 2, 10));
     EXPECT_EQ(model.ColWidth(4), 1800);
@@ -148,22 +157,22 @@ TEST_F(LayoutShape, KeepsSizesDuringAJump) {
 TEST_F(LayoutShape, BeginsAWeekOnADayOffInAColumnOfWidthZero) {
     world.set("Settings", "1stday", "3");
     world.have_users({"Ann"});
-    layout.DaysOff = "3";
+    layout.DaysOff("3");
     open(true);
-    EXPECT_EQ(layout.StartDate, DateTime::of(2024, 1, 9));
+    EXPECT_EQ(layout.StartDate(), DateTime::of(2024, 1, 9));
     EXPECT_EQ(model.ColWidth(2), 0);
     EXPECT_EQ(model.ColWidth(3), 1800);
 }
 
 TEST_F(LayoutShape, HidesDaysOffAndShowsThemAgain) {
     world.have_users({"Ann"});
-    layout.DaysOff = "17";
+    layout.DaysOff("17");
     open(true);
     EXPECT_EQ(model.ColWidth(2), 0);
     EXPECT_EQ(model.ColWidth(8), 0);
     EXPECT_EQ(model.ColWidth(3), 1800);
     model.ColWidth(3, 2500);
-    layout.DaysOff = "7";
+    layout.DaysOff("7");
     layout.Hide_DaysOff();
     EXPECT_EQ(model.ColWidth(2), 1800);
     EXPECT_EQ(model.ColWidth(3), 2500);

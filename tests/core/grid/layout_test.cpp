@@ -20,57 +20,57 @@ protected:
 //    7  8  9 10 11 12 13
 //   14 15 16 17 18 19 20
 TEST_F(LayoutTest, BeginsAWeekOnTheFirstDayOfTheWeekThatHoldsTheDate) {
-    layout.NumDays = 7;
+    layout.NumDays(7);
     layout.Initialize_Dates(DateTime::of(2024, 1, 10, 15, 30));
-    EXPECT_EQ(layout.StartDate, DateTime::of(2024, 1, 7));
-    EXPECT_EQ(layout.EndDate, DateTime::of(2024, 1, 13));
+    EXPECT_EQ(layout.StartDate(), DateTime::of(2024, 1, 7));
+    EXPECT_EQ(layout.EndDate(), DateTime::of(2024, 1, 13));
     world.set("Settings", "1stday", "2");
     layout.Initialize_Dates(DateTime::of(2024, 1, 14));
-    EXPECT_EQ(layout.FirstDayOfWeek, 2);
-    EXPECT_EQ(layout.StartDate, DateTime::of(2024, 1, 8));
-    EXPECT_EQ(layout.EndDate, DateTime::of(2024, 1, 14));
+    EXPECT_EQ(layout.FirstDayOfWeek(), 2);
+    EXPECT_EQ(layout.StartDate(), DateTime::of(2024, 1, 8));
+    EXPECT_EQ(layout.EndDate(), DateTime::of(2024, 1, 14));
 }
 
 TEST_F(LayoutTest, BeginsAWeekOnItsFirstDayEvenIfThatIsADayOff) {
-    layout.NumDays = 7;
-    layout.DaysOff = "17";
+    layout.NumDays(7);
+    layout.DaysOff("17");
     layout.Initialize_Dates(DateTime::of(2024, 1, 10));
-    EXPECT_EQ(layout.StartDate, DateTime::of(2024, 1, 7));
+    EXPECT_EQ(layout.StartDate(), DateTime::of(2024, 1, 7));
 }
 
 TEST_F(LayoutTest, NeverOpensADailyViewOnADayOff) {
-    layout.NumDays = 1;
-    layout.DaysOff = "17";
+    layout.NumDays(1);
+    layout.DaysOff("17");
     layout.Initialize_Dates(DateTime::of(2024, 1, 13, 11, 0));
-    EXPECT_EQ(layout.StartDate, DateTime::of(2024, 1, 15));
-    EXPECT_EQ(layout.EndDate, DateTime::of(2024, 1, 15));
+    EXPECT_EQ(layout.StartDate(), DateTime::of(2024, 1, 15));
+    EXPECT_EQ(layout.EndDate(), DateTime::of(2024, 1, 15));
 }
 
 TEST_F(LayoutTest, OpensOnTheLastDayTriedWhenAllDaysAreOff) {
-    layout.NumDays = 1;
-    layout.DaysOff = "1234567";
+    layout.NumDays(1);
+    layout.DaysOff("1234567");
     layout.Initialize_Dates(DateTime::of(2024, 1, 10));
-    EXPECT_EQ(layout.StartDate, DateTime::of(2024, 1, 16));
+    EXPECT_EQ(layout.StartDate(), DateTime::of(2024, 1, 16));
 }
 
 TEST_F(LayoutTest, StepsOverDaysOffInTheDirectionOfTravel) {
-    layout.DaysOff = "17";
+    layout.DaysOff("17");
     EXPECT_EQ(layout.GetNextNotHiddenDay(DateTime::of(2024, 1, 13), false), DateTime::of(2024, 1, 15));
     EXPECT_EQ(layout.GetNextNotHiddenDay(DateTime::of(2024, 1, 14), true), DateTime::of(2024, 1, 12));
     EXPECT_EQ(layout.GetNextNotHiddenDay(DateTime::of(2024, 1, 10), true), DateTime::of(2024, 1, 10));
-    layout.DaysOff = "1234567";
+    layout.DaysOff("1234567");
     EXPECT_EQ(layout.GetNextNotHiddenDay(DateTime::of(2024, 1, 10), true), DateTime::of(2024, 1, 4));
 }
 
 TEST_F(LayoutTest, NamesTheYearOfTheFirstDay) {
-    layout.NumDays = 7;
+    layout.NumDays(7);
     layout.Initialize_Dates(DateTime::of(2025, 1, 2));
-    EXPECT_EQ(layout.StartDate, DateTime::of(2024, 12, 29));
-    EXPECT_EQ(layout.lblYear, "2024");
+    EXPECT_EQ(layout.StartDate(), DateTime::of(2024, 12, 29));
+    EXPECT_EQ(layout.lblYear(), "2024");
 }
 
 TEST_F(LayoutTest, ShowsTheFailureBoxForAFirstDayThatIsNoWeekday) {
-    layout.NumDays = 7;
+    layout.NumDays(7);
     world.set("Settings", "1stday", "9");
     layout.Initialize_Dates(DateTime::of(2024, 1, 10));
     ASSERT_EQ(world.box.shown.size(), 1U);
@@ -79,8 +79,7 @@ TEST_F(LayoutTest, ShowsTheFailureBoxForAFirstDayThatIsNoWeekday) {
 }
 
 TEST_F(LayoutTest, MapsDatesToColumnsWithoutARangeTest) {
-    layout.StartDate = DateTime::of(2024, 1, 7);
-    layout.FixedCols = 2;
+    layout.show(DateTime::of(2024, 1, 7));
     EXPECT_EQ(layout.GetDayCol(DateTime::of(2024, 1, 7, 23, 59)), 2);
     EXPECT_EQ(layout.GetDayCol(DateTime::of(2024, 1, 10)), 5);
     EXPECT_EQ(layout.GetDayCol(DateTime::of(2024, 1, 5)), 0);
@@ -90,20 +89,10 @@ TEST_F(LayoutTest, MapsDatesToColumnsWithoutARangeTest) {
 }
 
 TEST_F(LayoutTest, ShowsTheFailureBoxForADateTooFarAwayForAColumn) {
-    layout.StartDate = DateTime::of(2024, 1, 7);
+    layout.show(DateTime::of(2024, 1, 7));
     EXPECT_EQ(layout.GetDayCol(DateTime::of(2124, 1, 7)), 0);
     ASSERT_EQ(world.box.shown.size(), 1U);
     EXPECT_NE(world.box.shown[0].text.find("Error 6: "), std::string::npos);
-}
-
-TEST_F(LayoutTest, MapsRowsToSlotsAndBack) {
-    layout.CellsPerSlot = 4;
-    EXPECT_EQ(layout.slot_of_row(1), 0);
-    EXPECT_EQ(layout.slot_of_row(4), 0);
-    EXPECT_EQ(layout.slot_of_row(5), 1);
-    EXPECT_EQ(layout.first_row_of(2), 9);
-    layout.CellsPerSlot = 0;
-    EXPECT_EQ(support::failure_number([&] { layout.slot_of_row(1); }), 6);
 }
 
 } // namespace

@@ -85,7 +85,7 @@ TEST_F(RenderingTest, EmptiesTheListOfContinuationsBeforeEachDrawing) {
 // Sunday is column 1 here, Saturday column 7.
 TEST_F(RenderingTest, LeavesTheSlotsOfDaysOffUndrawnAndChanged) {
     world.open_with_rows(1, 1);
-    layout.DaysOff = "17";
+    layout.DaysOff("17");
     for (const int col : {1, 2, 7})
         world.put(0, col, {.id = "A" + std::to_string(col), .user = "a", .text = "x"});
     display();

@@ -32,7 +32,7 @@ TEST(Selection, OutlivesTheRecordsOfTheGrid) {
     grid::CalendarGrid& calendar = world.calendar;
     calendar.selection.SelectedCell = calendar.layout.Cells.reference(2, 3);
     calendar.layout.Cells(2, 3).Text("old");
-    calendar.Setup_Calendar(calendar.layout.StartDate, calendar.layout.EndDate);
+    calendar.Setup_Calendar(calendar.layout.StartDate(), calendar.layout.EndDate());
     EXPECT_EQ(calendar.selection.selected().Text(), "old");
     EXPECT_EQ(calendar.selection.selected().Row(), 2);
     EXPECT_EQ(calendar.layout.Cells(2, 3).Text(), "");

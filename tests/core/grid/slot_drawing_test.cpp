@@ -175,15 +175,15 @@ TEST_F(SlotDrawing, TellsWhereTheSoughtActivityIs) {
     world.put(1, 5, {.id = "A1", .user = "a", .text = "x"});
     world.put(1, 5, {.id = "A2", .user = "b", .text = "y"});
     draw(1, 5, "A2");
-    EXPECT_EQ(result, "5,4");
+    EXPECT_EQ(result, (table::Place{4, 5}));
 }
 
 TEST_F(SlotDrawing, LeavesTheResultAloneWhereTheSoughtActivityIsNot) {
     world.open_with_rows(2, 2);
     world.put(1, 5, {.id = "A1", .user = "a", .text = "x"});
-    result = "3,1";
+    result = {1, 3};
     draw(1, 5, "A2");
-    EXPECT_EQ(result, "3,1");
+    EXPECT_EQ(result, (table::Place{1, 3}));
 }
 
 // An activity without a text takes its row but shows nothing.

@@ -67,7 +67,7 @@ TEST_F(SlotOverflow, RunsOffTheGridFromTheLastSlotWithTheFailureBox) {
     EXPECT_NE(world.box.shown[0].text.find("Error 380: "), std::string::npos);
     EXPECT_NE(world.box.shown[0].text.find("in clsMsgSchedSlot: Sub Write_To_Grid - Line # "), std::string::npos);
     EXPECT_TRUE(layout.Slots(0, 1).Changed());
-    EXPECT_EQ(result, "1,2");
+    EXPECT_EQ(result, (table::Place{2, 1}));
 }
 
 // Free records count as records: the plus comes although nothing more follows.

@@ -36,7 +36,7 @@ TEST_F(SlotTest, KnowsItsRowsDayAndTime) {
 }
 
 TEST_F(SlotTest, KeepsTheFirstDayThatItWasMadeWith) {
-    world.calendar.layout.StartDate = DateTime::of(2024, 6, 1);
+    world.calendar.layout.show(DateTime::of(2024, 6, 1));
     EXPECT_EQ(slot().Day(), DateTime::of(2024, 1, 10));
 }
 
@@ -46,7 +46,17 @@ TEST_F(SlotTest, BeginsWithFreeRecordsUnchanged) {
 }
 
 TEST_F(SlotTest, KeepsAllThatSetCellIsGiven) {
-    slot().SetCell("ACTIVITY0001", "CONTACT00001", "1", "0", "12", "255", "2", "Lunch", "Ann||Lunch", "1", 3);
+    slot().SetCell({.ActivityID = "ACTIVITY0001",
+                    .ContactID = "CONTACT00001",
+                    .Recurring = "1",
+                    .Cleared = "0",
+                    .BackColor = "12",
+                    .ForeColor = "255",
+                    .Type = "2",
+                    .Text = "Lunch",
+                    .Detail = "Ann||Lunch",
+                    .HasDetails = "1",
+                    .GoesBeyond = 3});
     const grid::SlotRecord& record = slot().record(0);
     EXPECT_TRUE(record.InUse);
     EXPECT_EQ(record.ActivityID, "ACTIVITY0001");

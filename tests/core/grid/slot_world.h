@@ -42,9 +42,17 @@ public:
 
     // The detail text is the user's name, two bars and the text, as a refresh makes it.
     void put(int slot, int col, const Entry& entry) {
-        calendar.layout.Slots(slot, col).SetCell(
-            entry.id, "CONTACT00001", entry.recurring, entry.cleared, entry.back_color, entry.fore_color,
-            entry.type, entry.text, entry.user + "||" + entry.text, entry.has_details, entry.goes_beyond);
+        calendar.layout.Slots(slot, col).SetCell({.ActivityID = entry.id,
+                                                  .ContactID = "CONTACT00001",
+                                                  .Recurring = entry.recurring,
+                                                  .Cleared = entry.cleared,
+                                                  .BackColor = entry.back_color,
+                                                  .ForeColor = entry.fore_color,
+                                                  .Type = entry.type,
+                                                  .Text = entry.text,
+                                                  .Detail = entry.user + "||" + entry.text,
+                                                  .HasDetails = entry.has_details,
+                                                  .GoesBeyond = entry.goes_beyond});
     }
 
     // What a column shows from row 1 on: the picture's name without ending and a colon where there is a picture,
@@ -64,11 +72,11 @@ private:
     // As a full refresh does: row titles have gone through the first day's column.
     void clear_contents() {
         table::GridModel& model = calendar.msgSched;
-        const grid::Layout& layout = calendar.layout;
+        grid::Layout& layout = calendar.layout;
         for (int row = 1; row < model.Rows(); ++row)
-            for (int col = layout.FixedCols; col < model.Cols(); ++col)
+            for (int col = layout.FixedCols(); col < model.Cols(); ++col)
                 layout.Cells(row, col).Clear();
-        model.clear_contents(1, model.Rows() - 1, layout.FixedCols, model.Cols() - 1);
+        model.clear_contents(1, model.Rows() - 1, layout.FixedCols(), model.Cols() - 1);
     }
 };
 
@@ -76,11 +84,12 @@ private:
 class SlotDrawingTest : public testing::Test {
 protected:
     void draw(int slot, int col, const std::string& sought = "") {
-        grid::Drawing drawing{world.calendar.msgSched, world.calendar.writer, span_list};
-        layout.Slots(slot, col).Write_To_Grid(drawing, sought, layout.OneRowPerUser, result);
+        grid::Drawing drawing{world.calendar.msgSched, layout.Cells, world.calendar.writer, span_list};
+        layout.Slots(slot, col).Write_To_Grid(drawing, sought, result);
     }
 
     SlotWorld world;
     grid::Layout& layout = world.calendar.layout;
-    std::string span_list, result;
+    std::string span_list;
+    std::optional<table::Place> result;
 };

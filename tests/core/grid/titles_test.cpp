@@ -82,19 +82,19 @@ TEST_F(TitlesTest, KeepTheTimeOfEachRow) {
     world.set("Slots", "SlotsCount", "2");
     world.set("Slots", "Slot1", "10:30 AM");
     open();
-    EXPECT_EQ(layout.RowTimes,
+    EXPECT_EQ(layout.RowTimes(),
               (std::vector<std::string>{"", "8:00:00 AM", "8:00:00 AM", "10:30:00 AM", "10:30:00 AM"}));
 }
 
 TEST_F(TitlesTest, FindTheFirstRowOfTheAfternoon) {
     open();
-    EXPECT_EQ(layout.FirstPMRow, 9); // the slot of 12:00 is number 4, with two rows each
+    EXPECT_EQ(layout.FirstPMRow(), 9); // the slot of 12:00 is number 4, with two rows each
     world.set("Settings", "PM", "03:30 PM");
     world.calendar.titles.Write_RowTitles();
-    EXPECT_EQ(layout.FirstPMRow, 17);
+    EXPECT_EQ(layout.FirstPMRow(), 17);
     world.set("Settings", "PM", "11:00 PM");
     world.calendar.titles.Write_RowTitles();
-    EXPECT_EQ(layout.FirstPMRow, 0);
+    EXPECT_EQ(layout.FirstPMRow(), 0);
 }
 
 // Column 1 is Sunday then; a full refresh clears the names.

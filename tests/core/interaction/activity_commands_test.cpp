@@ -1,4 +1,4 @@
-#include "core/interaction/activity_commands.h"
+#include "core/interaction/editing.h"
 
 #include "activity_commands_world.h"
 
@@ -17,23 +17,22 @@ using enum act::CommandNumber;
 
 TEST_F(ActivityCommands, ADoubleClickOnADaysTitleOpensTheDay) {
     have(meeting(10, 9));
-    const auto selected_before = calendar.selection.SelectedCell;
-    hands.click.ClickOnTitleRow = hands.click.ClickOnTitles = true;
+    hands.mouse.click.ClickOnTitleRow = hands.mouse.click.ClickOnTitles = true;
     double_click(1, col_of(10));
-    EXPECT_EQ(presenter.switched_to, col_of(10));
+    EXPECT_TRUE(main_window.chkView(0));
+    EXPECT_EQ(&selected(), &cell(1, col_of(10)));
     EXPECT_EQ(record.calls, Calls{});
-    EXPECT_EQ(calendar.selection.SelectedCell, selected_before);
-    EXPECT_TRUE(hands.click.ClickOnTitles);
+    EXPECT_TRUE(hands.mouse.click.ClickOnTitles);
 }
 
 TEST_F(ActivityCommands, ADoubleClickOnATitleOfARowIsTakenNoteOfOnce) {
     have(meeting(10, 9));
-    hands.click.ClickOnTitleCol = hands.click.ClickOnTitles = true;
+    hands.mouse.click.ClickOnTitleCol = hands.mouse.click.ClickOnTitles = true;
     double_click(row_of(nine), col_of(10));
     EXPECT_EQ(record.calls, Calls{});
-    EXPECT_FALSE(hands.click.ClickOnTitles);
+    EXPECT_FALSE(hands.mouse.click.ClickOnTitles);
     EXPECT_EQ(&selected(), &cell(row_of(nine), col_of(10)));
-    EXPECT_EQ(presenter.switched_to, -1);
+    EXPECT_FALSE(main_window.chkView(0));
     double_click(row_of(nine), col_of(10));
     EXPECT_EQ(running_desk.commands, Numbers{1337});
 }
@@ -127,7 +126,7 @@ TEST_F(ActivityCommands, ADoubleClickOnAnEmptyCellComparesWithTheMomentBeforeThe
     change(id, [](store::Activity& one) { one.regarding = "Before the double click"; });
     tick();
     DateTime compared;
-    running_desk.on_command = [&](CommandNumber) { compared = engine.refresh.LastRefresh; };
+    running_desk.on_command = [&](CommandNumber) { compared = engine.placing.LastRefresh; };
     double_click(row_of(ten), col_of(11));
     EXPECT_EQ(compared, clock.time);
     EXPECT_EQ(std::count(record.calls.begin(), record.calls.end(), "Goto " + id), 0) << "an older change";
@@ -144,7 +143,7 @@ TEST_F(ActivityCommands, ADoubleClickOnAnEmptyCellWithoutADeskShowsTheBoxAndStop
 TEST_F(ActivityCommands, ADoubleClickOnAnOccurrenceEditsItAndRefreshesAllWhenItWasKept) {
     have(daily(8, 9));
     user_moves_to(11);
-    presenter.answers = {0};
+    question.answers = {0};
     double_click(row_of(nine), col_of(10));
     EXPECT_EQ(running_desk.commands, Numbers{1337});
     EXPECT_TRUE(fully_refreshed());
@@ -167,7 +166,7 @@ TEST_F(ActivityCommands, ADoubleClickOnTheFirstOccurrenceEditsTheSeriesWithNoQue
     user_writes("For all");
     double_click(row_of(nine), col_of(8));
     EXPECT_EQ(running_desk.selected, id);
-    EXPECT_EQ(presenter.questions, 0);
+    EXPECT_EQ(question.questions, 0);
     EXPECT_EQ(all().size(), 1U);
     EXPECT_TRUE(fully_refreshed());
 }
@@ -175,8 +174,8 @@ TEST_F(ActivityCommands, ADoubleClickOnTheFirstOccurrenceEditsTheSeriesWithNoQue
 TEST_F(ActivityCommands, ASeriesThatTheDesksUserChangedMeanwhileIsNotOverwrittenAndTheBoxSaysSo) {
     have(daily(8, 9));
     user_writes("Typed in the instance");
-    presenter.answers = {1};
-    presenter.while_asking = [this] {
+    question.answers = {1};
+    question.while_asking = [this] {
         before_call("Data(5,", [this] {
             change(id, [](store::Activity& one) { one.regarding = "What the desk's user wrote"; });
         });
@@ -191,10 +190,10 @@ TEST_F(ActivityCommands, ASeriesThatTheDesksUserChangedMeanwhileIsNotOverwritten
 
 TEST_F(ActivityCommands, RescheduleActivityRunsTheDoubleClick) {
     have(meeting(10, 9, 120));
-    on_nine(10, &interaction::ActivityCommands::mnupopReschedule_Click);
+    on_nine(10, &interaction::Editing::mnupopReschedule_Click);
     EXPECT_EQ(running_desk.commands, Numbers{1337});
     select(row_of(ten), col_of(10));
-    commands.mnupopReschedule_Click();
+    hands.editing.mnupopReschedule_Click();
     EXPECT_EQ(running_desk.commands, (Numbers{1337, 1337}));
     EXPECT_EQ(running_desk.selected, id);
 }
@@ -202,21 +201,21 @@ TEST_F(ActivityCommands, RescheduleActivityRunsTheDoubleClick) {
 // All of them ---------------------------------------------------------------------------------------------------
 
 TEST_F(ActivityCommands, TheUsersOwnFilterAndTabAreTheSameAfterAnyCommandAsBeforeIt) {
-    using Commands = interaction::ActivityCommands;
-    const auto all_commands = {&Commands::msgSched_DblClick,     &Commands::mnupopReschedule_Click,
-                               &Commands::mnuPopRecurring_Click, &Commands::mnupopDetails_Click,
-                               &Commands::mnupopSend_Click,      &Commands::mnupopClear_Click};
+    const std::vector<std::function<void()>> all_commands = {
+        [&] { hands.editing.msgSched_DblClick(); },     [&] { hands.editing.mnupopReschedule_Click(); },
+        [&] { hands.editing.mnuPopRecurring_Click(); }, [&] { hands.editing.mnupopDetails_Click(); },
+        [&] { hands.editing.mnupopSend_Click(); },      [&] { hands.clearing.mnupopClear_Click(); }};
     const std::string series = add(daily(8, 11));
     have(meeting(10, 9));
     running_desk.filter = {36, "4", bob};
     running_desk.tab = "Groups";
     for (const bool fails : {false, true})
         for (const int slot : {nine, eleven})
-            for (const auto command : all_commands) {
+            for (const auto& command : all_commands) {
                 select(row_of(slot), col_of(10));
                 if (fails)
                     fail_before("Command");
-                std::invoke(command, commands);
+                command();
                 EXPECT_EQ(record.before, nullptr) << "the command wasn't run";
                 EXPECT_EQ(running_desk.tab, "Groups");
                 EXPECT_EQ(running_desk.filter.mask, 36);
@@ -226,16 +225,15 @@ TEST_F(ActivityCommands, TheUsersOwnFilterAndTabAreTheSameAfterAnyCommandAsBefor
 }
 
 TEST_F(ActivityCommands, WithoutASelectedCellShowTheBoxOfTheirOwnProcedure) {
-    using Commands = interaction::ActivityCommands;
     open();
-    const std::pair<void (Commands::*)(), std::string> procedures[] = {
-        {&Commands::mnuPopRecurring_Click, "mnuPopRecurring_Click"},
-        {&Commands::mnupopDetails_Click, "mnupopDetails_Click"},
-        {&Commands::mnupopClear_Click, "mnupopClear_Click"}};
+    const std::pair<std::function<void()>, std::string> procedures[] = {
+        {[&] { hands.editing.mnuPopRecurring_Click(); }, "mnuPopRecurring_Click"},
+        {[&] { hands.editing.mnupopDetails_Click(); }, "mnupopDetails_Click"},
+        {[&] { hands.clearing.mnupopClear_Click(); }, "mnupopClear_Click"}};
     calendar.selection.SelectedCell.reset();
     for (const auto& [command, name] : procedures) {
         forget();
-        std::invoke(command, commands);
+        command();
         EXPECT_TRUE(only_box().starts_with("Error 91: ")) << name;
         EXPECT_TRUE(place().starts_with("in frmMain: Sub " + name + " - Line # ")) << only_box();
         EXPECT_EQ(running_desk.commands, Numbers{}) << name;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/interaction/activity_commands.h"
+#include "core/interaction/editing.h"
 #include "interaction_world.h"
 
 #include <gtest/gtest.h>
@@ -12,8 +12,6 @@ namespace support {
 // The commands on the activities of an open calendar, with a user of ACT! who does something in its dialogs.
 class ActivityCommands : public testing::Test, protected InteractionWorld {
 protected:
-    interaction::ActivityCommands& commands = hands.commands;
-
     void have(const store::Activity& activity) {
         id = add(activity);
         open();
@@ -22,9 +20,13 @@ protected:
         calendar.msgSched.Row(row);
         calendar.msgSched.Col(col);
         forget();
-        commands.msgSched_DblClick();
+        hands.editing.msgSched_DblClick();
     }
-    void on_nine(int day, void (interaction::ActivityCommands::*command)()) {
+    void on_nine(int day, void (interaction::Editing::*command)()) { on_nine(day, hands.editing, command); }
+    void on_nine(int day, void (interaction::Scheduling::*command)()) { on_nine(day, hands.scheduling, command); }
+    void on_nine(int day, void (interaction::Clearing::*command)()) { on_nine(day, hands.clearing, command); }
+    template <typename Commands>
+    void on_nine(int day, Commands& commands, void (Commands::*command)()) {
         select(row_of(nine), col_of(day));
         forget();
         (commands.*command)();

@@ -1,4 +1,4 @@
-#include "core/interaction/activity_commands.h"
+#include "core/interaction/editing.h"
 
 #include "activity_commands_world.h"
 
@@ -17,10 +17,10 @@ DateTime at(int day, int hour) { return DateTime::of(2024, 1, day, hour); }
 
 TEST_F(ActivityCommands, ScheduleLeavesItsKindForTheCompanionAndShowsTheNewActivity) {
     open();
-    const std::pair<void (interaction::ActivityCommands::*)(), std::string> kinds[] = {
-        {&interaction::ActivityCommands::mnupopCall_Click, "C"},
-        {&interaction::ActivityCommands::mnupopMeeting_Click, "M"},
-        {&interaction::ActivityCommands::mnupopTodo_Click, "T"}};
+    const std::pair<void (interaction::Scheduling::*)(), std::string> kinds[] = {
+        {&interaction::Scheduling::mnupopCall_Click, "C"},
+        {&interaction::Scheduling::mnupopMeeting_Click, "M"},
+        {&interaction::Scheduling::mnupopTodo_Click, "T"}};
     int day = 10;
     for (const auto& [command, kind] : kinds) {
         user_adds(meeting(day, 9));
@@ -39,22 +39,22 @@ TEST_F(ActivityCommands, ScheduleLeavesItsKindForTheCompanionAndShowsTheNewActiv
 
 TEST_F(ActivityCommands, ScheduleComparesWithTheMomentOfTheLastRefresh) {
     open();
-    const DateTime last = engine.refresh.LastRefresh;
+    const DateTime last = engine.placing.LastRefresh;
     tick();
     id = add(meeting(12, 14)); // by somebody else, before the command
     DateTime during;
-    running_desk.on_command = [&](CommandNumber) { during = engine.refresh.LastRefresh; };
-    on_nine(10, &interaction::ActivityCommands::mnupopCall_Click);
+    running_desk.on_command = [&](CommandNumber) { during = engine.placing.LastRefresh; };
+    on_nine(10, &interaction::Scheduling::mnupopCall_Click);
     EXPECT_EQ(during, last);
     EXPECT_EQ(shown(row_of(6), col_of(12)), "Chris Smith");
 }
 
 TEST_F(ActivityCommands, ScheduleWithoutADeskShowsTheBoxOfItsOwnProcedure) {
     open();
-    const std::pair<void (interaction::ActivityCommands::*)(), std::string> procedures[] = {
-        {&interaction::ActivityCommands::mnupopCall_Click, "mnupopCall_Click"},
-        {&interaction::ActivityCommands::mnupopMeeting_Click, "mnupopMeeting_Click"},
-        {&interaction::ActivityCommands::mnupopTodo_Click, "mnupopTodo_Click"}};
+    const std::pair<void (interaction::Scheduling::*)(), std::string> procedures[] = {
+        {&interaction::Scheduling::mnupopCall_Click, "mnupopCall_Click"},
+        {&interaction::Scheduling::mnupopMeeting_Click, "mnupopMeeting_Click"},
+        {&interaction::Scheduling::mnupopTodo_Click, "mnupopTodo_Click"}};
     for (const auto& [command, name] : procedures) {
         fail_before("Command");
         on_nine(10, command);
@@ -74,14 +74,14 @@ TEST_F(ActivityCommands, EditRecurringSettingsTellsTheCompanionAndEditsTheSeries
         started = shell.started.size();
         change(running_desk.selected, [](store::Activity& one) { one.recurrence.until = at(11, 0); });
     };
-    on_nine(10, &interaction::ActivityCommands::mnuPopRecurring_Click);
+    on_nine(10, &interaction::Editing::mnuPopRecurring_Click);
     EXPECT_EQ(word, "1");
     EXPECT_EQ(started, 1U);
     EXPECT_EQ(shell.started, Calls{"ActivityWin"});
     EXPECT_EQ(running_desk.commands, Numbers{1337});
     EXPECT_EQ(running_desk.selected, id);
     EXPECT_EQ(dates_asked_for(), every_date);
-    EXPECT_EQ(presenter.questions, 0);
+    EXPECT_EQ(question.questions, 0);
     EXPECT_EQ(all().size(), 1U) << "no instance";
     EXPECT_TRUE(fully_refreshed());
     EXPECT_EQ(shown(row_of(nine), col_of(11)), "Chris Smith");
@@ -92,7 +92,7 @@ TEST_F(ActivityCommands, EditRecurringSettingsTellsTheCompanionAndEditsTheSeries
 TEST_F(ActivityCommands, EditRecurringSettingsStopsWhereItCanNotTellTheCompanion) {
     have(daily(8, 9));
     user_values.refuses_writes = true;
-    on_nine(10, &interaction::ActivityCommands::mnuPopRecurring_Click);
+    on_nine(10, &interaction::Editing::mnuPopRecurring_Click);
     EXPECT_TRUE(place().starts_with("in frmMain: Sub mnuPopRecurring_Click - Line # 10\r")) << only_box();
     EXPECT_EQ(running_desk.commands, Numbers{});
 }
@@ -104,7 +104,7 @@ TEST_F(ActivityCommands, DetailsOfAPlainActivityAreShownAndReadAgain) {
     running_desk.on_command = [this](CommandNumber) {
         change(running_desk.selected, [](store::Activity& one) { one.details = "A page"; });
     };
-    on_nine(10, &interaction::ActivityCommands::mnupopDetails_Click);
+    on_nine(10, &interaction::Editing::mnupopDetails_Click);
     EXPECT_EQ(running_desk.commands, Numbers{20251});
     EXPECT_EQ(dates_asked_for(), week);
     EXPECT_TRUE(cell(row_of(nine), col_of(10)).HasDetails());
@@ -113,7 +113,7 @@ TEST_F(ActivityCommands, DetailsOfAPlainActivityAreShownAndReadAgain) {
 
 TEST_F(ActivityCommands, DetailsOfAnOccurrenceAreThoseOfATemporaryInstance) {
     have(daily(8, 9));
-    on_nine(10, &interaction::ActivityCommands::mnupopDetails_Click);
+    on_nine(10, &interaction::Editing::mnupopDetails_Click);
     EXPECT_EQ(running_desk.commands, Numbers{20251});
     EXPECT_NE(running_desk.selected, id);
     EXPECT_EQ(dates_asked_for(), every_date);
@@ -126,8 +126,8 @@ TEST_F(ActivityCommands, DetailsOfAnOccurrenceRefreshAllWhenTheyWereKept) {
     running_desk.on_command = [this](CommandNumber) {
         change(running_desk.selected, [](store::Activity& one) { one.details = "A page"; });
     };
-    presenter.answers = {1};
-    on_nine(10, &interaction::ActivityCommands::mnupopDetails_Click);
+    question.answers = {1};
+    on_nine(10, &interaction::Editing::mnupopDetails_Click);
     EXPECT_TRUE(fully_refreshed());
     EXPECT_EQ(stored(id).details, "A page");
     EXPECT_EQ(all().size(), 1U);
@@ -141,7 +141,7 @@ TEST_F(ActivityCommands, SendTakesTheActivityOfTheCurrentCellAndRefreshesNothing
     select(row_of(nine), col_of(11));
     calendar.msgSched.Col(col_of(10));
     forget();
-    commands.mnupopSend_Click();
+    hands.editing.mnupopSend_Click();
     EXPECT_EQ(running_desk.commands, Numbers{1343});
     EXPECT_EQ(running_desk.selected, id);
     EXPECT_EQ(dates_asked_for(), week);
@@ -150,7 +150,7 @@ TEST_F(ActivityCommands, SendTakesTheActivityOfTheCurrentCellAndRefreshesNothing
 
 TEST_F(ActivityCommands, SendOfAnOccurrenceThatBeganBeforeTheWeekSendsTheSeriesWithoutAnInstance) {
     have(daily(8, 9));
-    on_nine(10, &interaction::ActivityCommands::mnupopSend_Click);
+    on_nine(10, &interaction::Editing::mnupopSend_Click);
     EXPECT_EQ(running_desk.selected, id);
     EXPECT_EQ(all().size(), 1U);
     EXPECT_EQ(revision(), stored(id).revision);
@@ -164,12 +164,12 @@ TEST_F(ActivityCommands, ClearOfAPlainActivityTakesItOffTheGrid) {
         EXPECT_EQ(running_desk.filter.mask, 232);
         change(running_desk.selected, [](store::Activity& one) { one.cleared = true; });
     };
-    on_nine(10, &interaction::ActivityCommands::mnupopClear_Click);
+    on_nine(10, &interaction::Clearing::mnupopClear_Click);
     EXPECT_EQ(running_desk.commands, Numbers{1323});
     EXPECT_EQ(dates_asked_for(), week);
     EXPECT_EQ(shown(row_of(nine), col_of(10)), "");
     EXPECT_FALSE(fully_refreshed());
-    EXPECT_EQ(presenter.questions, 0);
+    EXPECT_EQ(question.questions, 0);
 }
 
 TEST_F(ActivityCommands, ClearReadsAnActivityAgainThatTheCellContinues) {
@@ -182,7 +182,7 @@ TEST_F(ActivityCommands, ClearReadsAnActivityAgainThatTheCellContinues) {
     select(row_of(eleven), col_of(10));
     user_deletes();
     forget();
-    commands.mnupopClear_Click();
+    hands.clearing.mnupopClear_Click();
     EXPECT_FALSE(exists(id));
     EXPECT_EQ(&selected(), &cell(row_of(nine), col_of(10)));
     EXPECT_NE(std::find(record.calls.begin(), record.calls.end(), "Goto " + above), record.calls.end());
@@ -197,9 +197,9 @@ TEST_F(ActivityCommands, ClearOfAnOccurrenceWorksOnAnInstanceThatStaysAsTheClear
         EXPECT_EQ(running_desk.filter.dates, every_date);
         change(running_desk.selected, [](store::Activity& one) { one.cleared = true; });
     };
-    on_nine(10, &interaction::ActivityCommands::mnupopClear_Click);
+    on_nine(10, &interaction::Clearing::mnupopClear_Click);
     EXPECT_EQ(running_desk.commands, Numbers{1323});
-    EXPECT_EQ(presenter.questions, 0);
+    EXPECT_EQ(question.questions, 0);
     EXPECT_TRUE(other_than(id).cleared);
     EXPECT_EQ(other_than(id).start, at(10, 9));
     EXPECT_FALSE(stored(id).cleared);
@@ -211,7 +211,7 @@ TEST_F(ActivityCommands, ClearOfAnOccurrenceWorksOnAnInstanceThatStaysAsTheClear
 
 TEST_F(ActivityCommands, ClearOfTheFirstOccurrenceWorksOnAnInstanceToo) {
     have(daily(8, 9));
-    on_nine(8, &interaction::ActivityCommands::mnupopClear_Click);
+    on_nine(8, &interaction::Clearing::mnupopClear_Click);
     EXPECT_NE(running_desk.selected, id);
     EXPECT_EQ(stored(id).exceptions, std::vector<DateTime>{at(8, 0)});
     EXPECT_EQ(other_than(id).start, at(8, 9));
@@ -220,9 +220,9 @@ TEST_F(ActivityCommands, ClearOfTheFirstOccurrenceWorksOnAnInstanceToo) {
 TEST_F(ActivityCommands, ClearOfAnOccurrenceDeletedInTheDialogAndAnsweredWithInstanceLosesItAlone) {
     have(daily(8, 9));
     user_deletes();
-    presenter.answers = {0};
-    on_nine(10, &interaction::ActivityCommands::mnupopClear_Click);
-    EXPECT_EQ(presenter.questions, 1);
+    question.answers = {0};
+    on_nine(10, &interaction::Clearing::mnupopClear_Click);
+    EXPECT_EQ(question.questions, 1);
     EXPECT_EQ(all().size(), 1U);
     EXPECT_EQ(stored(id).exceptions, std::vector<DateTime>{at(10, 0)});
     EXPECT_TRUE(fully_refreshed());
@@ -233,8 +233,8 @@ TEST_F(ActivityCommands, ClearOfAnOccurrenceDeletedInTheDialogAndAnsweredWithIns
 TEST_F(ActivityCommands, ClearOfAnOccurrenceDeletedInTheDialogAndAnsweredWithAllDeletesTheSeries) {
     have(daily(8, 9));
     user_deletes();
-    presenter.answers = {1};
-    on_nine(10, &interaction::ActivityCommands::mnupopClear_Click);
+    question.answers = {1};
+    on_nine(10, &interaction::Clearing::mnupopClear_Click);
     EXPECT_TRUE(all().empty());
     EXPECT_TRUE(fully_refreshed());
     EXPECT_EQ(shown(row_of(nine), col_of(11)), "");
@@ -243,9 +243,9 @@ TEST_F(ActivityCommands, ClearOfAnOccurrenceDeletedInTheDialogAndAnsweredWithAll
 TEST_F(ActivityCommands, ClearOfAnOccurrenceDeletedInTheDialogAndAnsweredWithCancelBringsItBack) {
     have(daily(8, 9));
     user_deletes();
-    presenter.answers = {2};
-    on_nine(10, &interaction::ActivityCommands::mnupopClear_Click);
-    EXPECT_EQ(presenter.questions, 1);
+    question.answers = {2};
+    on_nine(10, &interaction::Clearing::mnupopClear_Click);
+    EXPECT_EQ(question.questions, 1);
     EXPECT_EQ(all().size(), 1U);
     EXPECT_TRUE(stored(id).exceptions.empty());
     EXPECT_FALSE(refreshed());
@@ -260,8 +260,8 @@ TEST_F(ActivityCommands, ClearOfAnOccurrenceAsksTheDeskInThisOrder) {
         instance = running_desk.selected;
         store().remove_activity(instance);
     };
-    presenter.answers = {1};
-    on_nine(10, &interaction::ActivityCommands::mnupopClear_Click);
+    question.answers = {1};
+    on_nine(10, &interaction::Clearing::mnupopClear_Click);
     Calls moves;
     for (const std::string& call : calls())
         for (const char* told : {"Goto", "Add", "Update", "Delete", "Command", "ExceptionInfo", "Data(1)"})
@@ -275,21 +275,21 @@ TEST_F(ActivityCommands, ClearOfAnOccurrenceAsksTheDeskInThisOrder) {
 TEST_F(ActivityCommands, ClearOfAnOccurrenceWhoseInstanceCouldNotBeMadeChangesNothing) {
     have(daily(8, 9));
     fail_before("Add", "The disk is full.");
-    on_nine(10, &interaction::ActivityCommands::mnupopClear_Click);
+    on_nine(10, &interaction::Clearing::mnupopClear_Click);
     EXPECT_TRUE(only_box().starts_with("Error 440: 'The disk is full.'\rin frmMain: Function Change_Instance"))
         << only_box();
     EXPECT_EQ(running_desk.commands, Numbers{});
     EXPECT_EQ(all().size(), 1U);
     EXPECT_TRUE(stored(id).exceptions.empty());
-    EXPECT_EQ(presenter.questions, 0);
+    EXPECT_EQ(question.questions, 0);
 }
 
 TEST_F(ActivityCommands, ClearOfAnOccurrenceLosesNothingWhenTheDeskDiesInTheDialog) {
     have(daily(8, 9));
     fail_before("Command");
-    on_nine(10, &interaction::ActivityCommands::mnupopClear_Click);
+    on_nine(10, &interaction::Clearing::mnupopClear_Click);
     EXPECT_TRUE(place().starts_with("in frmMain: Sub Select_and_Launch_Command - Line # ")) << only_box();
-    EXPECT_EQ(presenter.questions, 0);
+    EXPECT_EQ(question.questions, 0);
     EXPECT_EQ(other_than(id).start, at(10, 9)) << "the instance exists and stays";
     EXPECT_EQ(shown(row_of(nine), col_of(10)), "Chris Smith");
 }

@@ -194,7 +194,7 @@ TEST_F(DragDrop, AsksOnTheUserBeforeAnythingOnTheSeries) {
 TEST_F(DragDrop, OfAnOccurrenceToAnotherDateNeverOffersAll) {
     ann_at_nine(daily(8, 9));
     drag(row_of(nine), col_of(10), row_of(eleven), col_of(11));
-    EXPECT_EQ(presenter.questions, 0);
+    EXPECT_EQ(question.questions, 0);
     ASSERT_EQ(box.shown.size(), 1U);
     EXPECT_EQ(box.shown[0].text, "You are changing the date of a recurring activity. This change will remove the "
                                  "recurring settings for this instance of the activity.");
@@ -222,10 +222,10 @@ TEST_F(DragDrop, OfAnOccurrenceToAnotherDateAnsweredWithCancelDoesNothing) {
 
 TEST_F(DragDrop, OfAnOccurrenceToAnotherTimeOfItsDateOffersAllThreeAnswers) {
     ann_at_nine(daily(8, 9));
-    presenter.answers = {0};
+    question.answers = {0};
     drag(row_of(nine), col_of(10), row_of(eleven), col_of(10));
-    EXPECT_EQ(presenter.questions, 1);
-    EXPECT_EQ(hands.frmActivityChange.iResponse, 0);
+    EXPECT_EQ(question.questions, 1);
+    EXPECT_EQ(question.iResponse, interaction::ActivityChange::Response::this_instance);
     EXPECT_TRUE(box.shown.empty());
     EXPECT_EQ(other_than(id).start, at(10, 11));
     EXPECT_EQ(stored(id).exceptions, std::vector<DateTime>{at(10, 0)});
@@ -235,7 +235,7 @@ TEST_F(DragDrop, AllKeepsTheDateOfTheFirstOccurrenceAndTakesTheTargetsTime) {
     store::Activity series = daily(8, 9, 30);
     series.end = at(8, 10).plus_minutes(15); // the occurrences are longer than the duration says
     ann_at_nine(series);
-    presenter.answers = {1};
+    question.answers = {1};
     drag(row_of(nine), col_of(10), row_of(eleven), col_of(10));
     EXPECT_EQ(stored(id).start, at(8, 11));
     EXPECT_EQ(stored(id).end, at(8, 12).plus_minutes(15));
@@ -251,7 +251,7 @@ TEST_F(DragDrop, AllKeepsTheDateOfTheFirstOccurrenceAndTakesTheTargetsTime) {
 TEST_F(DragDrop, AllToAnotherUserGivesThemTheSeries) {
     ann_at_nine(daily(8, 9));
     box.answers = {Answer::yes};
-    presenter.answers = {1};
+    question.answers = {1};
     drag(row_of(nine), col_of(10), row_of(nine, 1), col_of(10));
     EXPECT_EQ(stored(id).user, bob);
     EXPECT_EQ(stored(id).start, at(8, 9));
@@ -259,7 +259,7 @@ TEST_F(DragDrop, AllToAnotherUserGivesThemTheSeries) {
 
 TEST_F(DragDrop, AnInstanceThatIsDroppedOnAnotherUserIsTheirs) {
     ann_at_nine(daily(8, 9));
-    presenter.answers = {0};
+    question.answers = {0};
     drag(row_of(nine), col_of(10), row_of(nine, 1), col_of(10));
     EXPECT_EQ(other_than(id).user, bob);
     EXPECT_EQ(stored(id).user, ann);
@@ -267,7 +267,7 @@ TEST_F(DragDrop, AnInstanceThatIsDroppedOnAnotherUserIsTheirs) {
 
 TEST_F(DragDrop, CancelOfTheDialogDoesNothing) {
     ann_at_nine(daily(8, 9));
-    presenter.answers = {2};
+    question.answers = {2};
     drag(row_of(nine), col_of(10), row_of(eleven), col_of(10));
     EXPECT_EQ(all().size(), 1U);
     EXPECT_EQ(stored(id).start, at(8, 9));
@@ -342,7 +342,7 @@ TEST_F(DragDrop, WithoutASourceShowsTheBox) {
 
 TEST_F(DragDrop, ASeriesThatCanNotBeMadeAnInstanceIsReadAgainAllTheSame) {
     ann_at_nine(daily(8, 9));
-    presenter.answers = {0};
+    question.answers = {0};
     record.before = [&](const std::string& call) {
         if (call == "Add")
             throw values::Failure(values::FailureNumber::automation, "The disk is full.");

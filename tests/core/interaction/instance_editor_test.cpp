@@ -58,7 +58,7 @@ TEST_F(InstanceEditor, OnTheFirstOccurrenceEditsTheSeriesWithNoInstanceAndNoQues
     EXPECT_EQ(running_desk.commands, std::vector<int>{1337});
     EXPECT_EQ(running_desk.selected, series);
     EXPECT_EQ(stored(series).regarding, "For all of them");
-    EXPECT_EQ(presenter.questions, 0);
+    EXPECT_EQ(question.questions, 0);
     EXPECT_EQ(all().size(), 1U);
     EXPECT_TRUE(stored(series).exceptions.empty());
     EXPECT_EQ(Calls(record.calls.begin(), record.calls.begin() + 3),
@@ -88,7 +88,7 @@ TEST_F(InstanceEditor, OnALaterOccurrenceRunsTheCommandOnATemporaryInstanceOfAll
 
 TEST_F(InstanceEditor, OnALaterOccurrenceWithNothingChangedLeavesNoTrace) {
     EXPECT_FALSE(edit(10)) << "no refresh is needed";
-    EXPECT_EQ(presenter.questions, 0);
+    EXPECT_EQ(question.questions, 0);
     EXPECT_TRUE(box.shown.empty());
     expect_no_trace();
     EXPECT_FALSE(refreshed());
@@ -97,7 +97,7 @@ TEST_F(InstanceEditor, OnALaterOccurrenceWithNothingChangedLeavesNoTrace) {
 TEST_F(InstanceEditor, OnALaterOccurrenceStoredAsItWasLeavesNoTrace) {
     user_does([](store::Activity&) {});
     EXPECT_FALSE(edit(10));
-    EXPECT_EQ(presenter.questions, 0);
+    EXPECT_EQ(question.questions, 0);
     expect_no_trace();
 }
 
@@ -106,7 +106,7 @@ TEST_F(InstanceEditor, OnALaterOccurrenceOfASeriesLongerThanItsSlotWithNothingCh
     engine.refresh.Refresh_Data();
     before = stored(series);
     EXPECT_FALSE(edit(10));
-    EXPECT_EQ(presenter.questions, 0);
+    EXPECT_EQ(question.questions, 0);
     expect_no_trace();
 }
 
@@ -125,15 +125,15 @@ TEST_F(InstanceEditor, ThatFindsTheRecurringTabUsedShowsTheStopMessageAndChanges
               "In Orvanta, changes made under the RECURRING TAB are not allowed unless you use the Edit recurring "
               "settings command. See the user's manual for more on Editing recurring activities.\rAll changes are "
               "ignored.");
-    EXPECT_EQ(presenter.questions, 0);
+    EXPECT_EQ(question.questions, 0);
     expect_no_trace();
 }
 
 TEST_F(InstanceEditor, KeepsAChangedInstanceAfterTheAnswerInstance) {
     user_writes("Only today");
-    presenter.answers = {0};
+    question.answers = {0};
     EXPECT_TRUE(edit(10));
-    EXPECT_EQ(presenter.questions, 1);
+    EXPECT_EQ(question.questions, 1);
     EXPECT_EQ(other_than(series).regarding, "Only today");
     EXPECT_EQ(other_than(series).id, id);
     EXPECT_EQ(stored(series).regarding, "");
@@ -147,7 +147,7 @@ TEST_F(InstanceEditor, CopiesAChangedInstanceToTheSeriesAfterTheAnswerAllAndDrop
         one.end = at(10, 16);
         one.contacts = {dana, erin};
     });
-    presenter.answers = {1};
+    question.answers = {1};
     EXPECT_TRUE(edit(10));
     EXPECT_EQ(all().size(), 1U);
     const store::Activity now = stored(series);
@@ -160,15 +160,15 @@ TEST_F(InstanceEditor, CopiesAChangedInstanceToTheSeriesAfterTheAnswerAllAndDrop
 
 TEST_F(InstanceEditor, DropsAChangedInstanceAfterTheAnswerCancel) {
     user_writes("Given up");
-    presenter.answers = {2};
+    question.answers = {2};
     EXPECT_FALSE(edit(10));
-    EXPECT_EQ(presenter.questions, 1);
+    EXPECT_EQ(question.questions, 1);
     expect_no_trace();
 }
 
 TEST_F(InstanceEditor, ComparesAppliesAndDeletesInThisOrder) {
     user_writes("For all of them");
-    presenter.answers = {1};
+    question.answers = {1};
     edit(10);
     Calls moves;
     for (const std::string& call : record.calls)
@@ -183,11 +183,11 @@ TEST_F(InstanceEditor, ComparesAppliesAndDeletesInThisOrder) {
 
 TEST_F(InstanceEditor, SettlesTheOccurrenceThatWasClickedThoughARefreshHasEmptiedItsCellMeanwhile) {
     user_writes("For all of them");
-    presenter.while_asking = [this] {
+    question.while_asking = [this] {
         engine.refresh.Refresh_Data(); // the instance now stands in the cell, or nothing does
         selected().Clear();
     };
-    presenter.answers = {1};
+    question.answers = {1};
     EXPECT_TRUE(edit(10));
     EXPECT_EQ(all().size(), 1U);
     EXPECT_EQ(stored(series).regarding, "For all of them");
@@ -200,13 +200,13 @@ TEST_F(InstanceEditor, LeavesNoTraceWhenTheDeskDiesInTheDialog) {
     EXPECT_TRUE(only_box().starts_with("Error 440: 'The desk has gone.'\r"
                                        "in frmMain: Sub Select_and_Launch_Command - Line # "));
     expect_no_trace();
-    EXPECT_EQ(presenter.questions, 0);
+    EXPECT_EQ(question.questions, 0);
 }
 
 TEST_F(InstanceEditor, FailsWithoutABoxOfItsOwnAndKeepsWhatWasTypedWhenTheSeriesWasChangedMeanwhile) {
     user_writes("For all of them");
-    presenter.answers = {1};
-    presenter.while_asking = [this] {
+    question.answers = {1};
+    question.while_asking = [this] {
         before_call("Data(5,", [this] {
             change(series, [](store::Activity& one) { one.regarding = "What the desk's user wrote"; });
         });

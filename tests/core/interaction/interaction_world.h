@@ -4,7 +4,8 @@
 #include "core/engine/engine_world.h"
 #include "core/interaction/interaction.h"
 #include "core/values/text.h"
-#include "support/fake_shell.h"
+#include "support/fake_main_window.h"
+#include "support/fake_presenter.h"
 #include "support/recording_act.h"
 #include "support/scripted_desk.h"
 #include "support/temporary_database.h"
@@ -16,35 +17,6 @@
 
 namespace support {
 
-// Remembers what was asked of the main window and answers frmActivityChange from a list, then with "Cancel".
-class FakePresenter : public interaction::Presenter {
-public:
-    void show_mnuPopup(const interaction::PopupMenu& menu) override {
-        popup = menu;
-        if (while_showing_menu)
-            while_showing_menu();
-    }
-    void begin_drag() override { ++drags; }
-    void show_drag_icon(interaction::DragIcon icon) override { drag_icon = static_cast<int>(icon); }
-    int ask_activity_change() override {
-        ++questions;
-        if (while_asking)
-            while_asking();
-        if (answers.empty())
-            return 2;
-        const int answer = answers.front();
-        answers.pop_front();
-        return answer;
-    }
-    void minimise() override { ++minimised; }
-    void Switch_View(int col) override { switched_to = col; }
-
-    std::optional<interaction::PopupMenu> popup;
-    int drags = 0, drag_icon = 0, questions = 0, minimised = 0, switched_to = -1;
-    std::deque<int> answers;
-    std::function<void()> while_asking, while_showing_menu;
-};
-
 // What the user does with a grid over a real database: the week of Sunday, 7 to Saturday, 13 January 2024, now
 // Wednesday, 10 January, 9:00; Ann and Bob with a row each in nine slots of an hour from 8:00. Column 2 is the
 // Sunday, column 5 the Wednesday.
@@ -52,6 +24,7 @@ class InteractionWorld : public EngineWorld {
 public:
     InteractionWorld() {
         database.now = clock.time;
+        main_window.chkView_Click = [](int) {}; // what a view shows then is the navigation's own
         ann = store().add(store::User{.name = "Ann"});
         bob = store().add(store::User{.name = "Bob"});
         chris = store().add(store::Contact{.fields = {{26, "Chris Smith"}}});
@@ -75,15 +48,14 @@ public:
         users.Initialize_Users(false);
         users.map_users();
         grid::Layout& layout = calendar.layout;
-        layout.NumDays = days;
-        layout.OneRowPerUser = one_row_per_user;
-        layout.FixedCols = one_row_per_user ? 2 : 1;
+        layout.NumDays(days);
+        layout.OneRowPerUser(one_row_per_user);
         layout.Initialize_Dates(date);
         if (days == 1)
-            layout.StartDate = layout.EndDate = date;
-        calendar.Setup_Calendar(layout.StartDate, layout.EndDate);
+            layout.show(date);
+        calendar.Setup_Calendar(layout.StartDate(), layout.EndDate());
         engine.refresh.Refresh_Data();
-        select(row_of(0), layout.FixedCols);
+        select(row_of(0), layout.FixedCols());
         forget();
     }
 
@@ -187,23 +159,13 @@ public:
     TemporaryDatabase database;
     CallRecord record;
     ScriptedDesk running_desk{database.store(), record};
-    FakeShell shell;
     FakePresenter presenter;
+    FakeActivityChange question;
+    FakeMainWindow main_window;
+    FakeDialogs dialogs;
+    shell::Navigation navigation{here, main_window, dialogs, engine};
     std::string ann, bob, chris, dana, erin;
-    interaction::Interaction hands{{.session = session,
-                                    .users = users,
-                                    .grid = calendar,
-                                    .engine = engine,
-                                    .settings = ini,
-                                    .user_store = user_store,
-                                    .locale = surroundings_locale,
-                                    .clock = clock,
-                                    .box = box,
-                                    .window = window,
-                                    .shell = shell,
-                                    .application = application,
-                                    .presenter = presenter,
-                                    .guarded = guarded}};
+    interaction::Interaction hands{here, settings, engine, navigation, {presenter, question}};
 };
 
 } // namespace support

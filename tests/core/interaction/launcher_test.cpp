@@ -31,7 +31,8 @@ protected:
     }
     void launch(const std::string& id, CommandNumber command = CommandNumber::edit_activity, bool allDates = false,
                 bool showCleared = false, bool startCompanion = false) {
-        hands.launcher.Select_and_Launch_Command(id, command, allDates, showCleared, startCompanion);
+        hands.launcher.Select_and_Launch_Command(
+            id, command, {.allDates = allDates, .showCleared = showCleared, .startCompanion = startCompanion});
     }
     std::string filter_of(const std::string& id, bool showCleared = false) {
         forget();
@@ -83,8 +84,9 @@ TEST_F(Launcher, StartsTheCompanionOnceItsValuesAreThere) {
         }
     } watch;
     watch.on_start = [&] { type_at_start = left("Type") + left("For"); };
-    interaction::Launcher launcher(
-        {session, calendar.layout, ini, user_store, watch, window, surroundings_locale, guarded});
+    const host::Platform watched{{application, here.locale, clock, box, watch, files, folders, user_values},
+                                 window};
+    interaction::Launcher launcher(watched, settings, act, calendar.layout);
     launcher.Setup_ActivityWin(cell(row_of(1), col_of(10)), "M");
     EXPECT_EQ(watch.started, Calls{"ActivityWin"});
     EXPECT_EQ(type_at_start, "MAnn");
@@ -110,10 +112,11 @@ TEST_F(Launcher, IgnoresThatForCanNotBeTakenAway) {
     open(7, false);
     StubbornUserStore stubborn;
     stubborn.refuses_removals = true;
-    settings::PerUserStore values{stubborn};
-    values.write("Activity", "For", "Bob");
-    interaction::Launcher launcher(
-        {session, calendar.layout, ini, values, shell, window, surroundings_locale, guarded});
+    const host::Platform refusing{{application, here.locale, clock, box, shell, files, folders, stubborn}, window};
+    settings::Settings values{refusing};
+    values.ini.SettingsFile = ini.SettingsFile;
+    values.user_store.write("Activity", "For", "Bob");
+    interaction::Launcher launcher(refusing, values, act, calendar.layout);
     launcher.Setup_ActivityWin(cell(row_of(1), col_of(10)), "C");
     EXPECT_TRUE(box.shown.empty());
     EXPECT_EQ(shell.started, Calls{"ActivityWin"});

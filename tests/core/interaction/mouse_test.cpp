@@ -24,7 +24,7 @@ protected:
                std::to_string(grid.RowSel()) + "," + std::to_string(grid.ColSel());
     }
     bool has_drag_begun() const { return presenter.drags > 0; }
-    const interaction::Click& click() const { return hands.click; }
+    const interaction::Click& click() const { return hands.mouse.click; }
     int bottom() const { return calendar.msgSched.RowPos(18) + calendar.msgSched.RowHeight(18); }
     int right_edge() const { return calendar.msgSched.ColPos(8) + calendar.msgSched.ColWidth(8); }
 };
@@ -272,7 +272,7 @@ TEST_F(Mouse, CtrlAndTheLeftButtonOnAnEmptyCellStartNoDrag) {
     open();
     press(left, ctrl, row_of(2), col_of(10));
     EXPECT_FALSE(has_drag_begun());
-    EXPECT_EQ(calendar.selection.DragSourceCell, nullptr);
+    EXPECT_FALSE(calendar.selection.DragSourceCell);
 }
 
 TEST_F(Mouse, CtrlWithShiftStartsNoDragSinceShiftMustBeExactlyTwo) {

@@ -106,7 +106,7 @@ protected:
         start();
         data.calls.clear();
         window.calls.clear();
-        calendar.closing.RestartAct = true;
+        calendar.departure.RestartAct = true;
     }
 };
 

@@ -19,9 +19,9 @@ TEST_F(Jumps, GoToEachEntrysWeek) {
         jump_to(std::string(jump.text));
         const DateTime target = shell::target_of(jump, day(2024, 3, 31));
         EXPECT_EQ(navigation.dates.datNow, target) << jump.text;
-        EXPECT_EQ(layout().StartDate, target.plus_days(1 - target.weekday())) << jump.text;
-        EXPECT_EQ(layout().EndDate, layout().StartDate.plus_days(6)) << jump.text;
-        EXPECT_EQ(layout().lblYear, std::to_string(target.year())) << jump.text;
+        EXPECT_EQ(layout().StartDate(), target.plus_days(1 - target.weekday())) << jump.text;
+        EXPECT_EQ(layout().EndDate(), layout().StartDate().plus_days(6)) << jump.text;
+        EXPECT_EQ(layout().lblYear(), std::to_string(target.year())) << jump.text;
         EXPECT_TRUE(pointer_is_back());
     }
     EXPECT_TRUE(box.shown.empty());
@@ -35,8 +35,8 @@ TEST_F(Jumps, GoToEachEntrysDayInTheDailyView) {
             continue;
         jump_to(std::string(jump.text));
         const DateTime target = shell::target_of(jump, day(2024, 2, 29));
-        EXPECT_EQ(layout().StartDate, target) << jump.text;
-        EXPECT_EQ(layout().EndDate, target) << jump.text;
+        EXPECT_EQ(layout().StartDate(), target) << jump.text;
+        EXPECT_EQ(layout().EndDate(), target) << jump.text;
     }
 }
 
@@ -62,14 +62,14 @@ TEST_F(Jumps, ShowTheTargetsYearNotTheWeeks) {
     clock.time = DateTime::of(2024, 12, 10, 9);
     jump_to("1st of next month"); // 1 January, in the week of 29 December
     expect_view(day(2024, 12, 29), day(2025, 1, 4));
-    EXPECT_EQ(layout().lblYear, "2025");
+    EXPECT_EQ(layout().lblYear(), "2025");
 }
 
 TEST_F(Jumps, GoToTodayWithTheFirstDayOfTheWeekReadAnew) {
     start();
     have_settings("[Settings]\n1stday=2\n");
     jump_to("Today + 1 month");
-    EXPECT_EQ(layout().StartDate, day(2024, 2, 4));
+    EXPECT_EQ(layout().StartDate(), day(2024, 2, 4));
     jump_to("Today");
     expect_view(day(2024, 1, 8), day(2024, 1, 14));
 }
@@ -96,9 +96,9 @@ TEST_F(Jumps, HappenAtEnterAndAtNoOtherKey) {
     start();
     window.jump = "Today + 1 year";
     navigation.cboGoTo_KeyPress(32);
-    EXPECT_EQ(layout().StartDate, day(2024, 1, 7));
+    EXPECT_EQ(layout().StartDate(), day(2024, 1, 7));
     navigation.cboGoTo_KeyPress(13);
-    EXPECT_EQ(layout().StartDate, day(2025, 1, 5));
+    EXPECT_EQ(layout().StartDate(), day(2025, 1, 5));
 }
 
 TEST_F(Jumps, KeepTheSizesThatAChangeOfViewGivesBack) {

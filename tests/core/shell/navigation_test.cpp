@@ -43,9 +43,9 @@ TEST_F(Navigation, StepsOverDaysOffInItsDirection) {
 TEST_F(Navigation, StepsToTheSeventhDayTriedWhenAllAreOff) {
     have_settings("[DaysOff]\n1=1\n2=1\n3=1\n4=1\n5=1\n6=1\n7=1\n");
     start_daily();
-    const DateTime before = layout().StartDate;
+    const DateTime before = layout().StartDate();
     navigation.cmdNext_Click();
-    EXPECT_EQ(layout().StartDate, before.plus_days(1 + 6));
+    EXPECT_EQ(layout().StartDate(), before.plus_days(1 + 6));
 }
 
 TEST_F(Navigation, StepsOfMoreThanADayDontAvoidDaysOff) {
@@ -107,7 +107,7 @@ TEST_F(Navigation, KeepsTheYearOfTheWeeksFirstDayAcrossNewYear) {
     start();
     navigation.cmdNext_Click();
     expect_view(day(2024, 12, 29), day(2025, 1, 4));
-    EXPECT_EQ(layout().lblYear, "2024");
+    EXPECT_EQ(layout().lblYear(), "2024");
 }
 
 class Views : public Navigation {};
@@ -119,13 +119,13 @@ TEST_F(Views, DailyShowsTheDayOfTheSelectedCell) {
     window.calls.clear();
     window.set_chkView(0, true);
     EXPECT_FALSE(window.view_boxes[1]);
-    EXPECT_EQ(layout().NumDays, 1);
+    EXPECT_EQ(layout().NumDays(), 1);
     expect_view(day(2024, 1, 12), day(2024, 1, 12));
     EXPECT_EQ(calendar.grid.msgSched.Cols(), 3);
     EXPECT_NE(at_nine(2), "");
     EXPECT_EQ(calendar.grid.msgSched.Row(), 1);
     EXPECT_EQ(calendar.grid.msgSched.Col(), 2);
-    EXPECT_EQ(calendar.grid.selection.SelectedCell, layout().Cells.reference(1, 2));
+    EXPECT_EQ(calendar.grid.selection.SelectedCell.get(), &layout().Cells(1, 2));
     EXPECT_EQ(Texts(window.calls.begin(), window.calls.begin() + 3),
               (Texts{"focus_grid", "show_hourglass", "repaint"}));
     EXPECT_TRUE(pointer_is_back());
@@ -146,7 +146,7 @@ TEST_F(Views, WeeklyShowsTheWeekOfTheSelectedCell) {
     select(2);
     window.set_chkView(1, true);
     EXPECT_FALSE(window.view_boxes[0]);
-    EXPECT_EQ(layout().NumDays, 7);
+    EXPECT_EQ(layout().NumDays(), 7);
     expect_view(day(2024, 2, 4), day(2024, 2, 10));
     EXPECT_EQ(calendar.grid.msgSched.Cols(), 9);
     EXPECT_TRUE(pointer_is_back());
@@ -158,7 +158,7 @@ TEST_F(Views, StayWhenABoxThatIsOnGoesOff) {
     window.set_chkView(1, false);
     EXPECT_FALSE(window.view_boxes[0]);
     EXPECT_TRUE(window.calls.empty());
-    EXPECT_EQ(layout().NumDays, 7);
+    EXPECT_EQ(layout().NumDays(), 7);
 }
 
 TEST_F(Views, SwitchToTheDayOfAColumnAndBack) {

@@ -27,8 +27,8 @@ protected:
         navigation.cboGoTo_Click();
     }
     void expect_view(values::DateTime first, values::DateTime last) {
-        EXPECT_EQ(layout().StartDate, first);
-        EXPECT_EQ(layout().EndDate, last);
+        EXPECT_EQ(layout().StartDate(), first);
+        EXPECT_EQ(layout().EndDate(), last);
     }
     std::string title(int column) { return calendar.grid.msgSched.TextMatrix(0, column); }
     // Selects the cell in row 1 of a column, as a press on it does.

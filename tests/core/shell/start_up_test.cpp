@@ -21,13 +21,13 @@ TEST_F(StartUp, ComesUpWithoutABoxAndInFront) {
 
 TEST_F(StartUp, ShowsTheWeekOfTodayWithARowForEachUserInNineSlots) {
     start();
-    EXPECT_EQ(layout().NumDays, 7);
-    EXPECT_EQ(layout().StartDate, DateTime::of(2024, 1, 7));
-    EXPECT_EQ(layout().EndDate, DateTime::of(2024, 1, 13));
+    EXPECT_EQ(layout().NumDays(), 7);
+    EXPECT_EQ(layout().StartDate(), DateTime::of(2024, 1, 7));
+    EXPECT_EQ(layout().EndDate(), DateTime::of(2024, 1, 13));
     EXPECT_EQ(calendar.grid.msgSched.Rows(), 9 * 2 + 1);
     EXPECT_EQ(calendar.grid.msgSched.Cols(), 2 + 7);
     EXPECT_EQ(calendar.grid.msgSched.TextMatrix(0, 5), "Wednesday Jan. 10");
-    EXPECT_EQ(layout().lblYear, "2024");
+    EXPECT_EQ(layout().lblYear(), "2024");
 }
 
 TEST_F(StartUp, FillsTheGridWithTheActivitiesOfTheWeek) {
@@ -87,7 +87,7 @@ TEST_F(StartUp, WithoutACTSaysSoAndStops) {
 TEST_F(StartUp, FindsTheSettingsFileInTheProgramsFolder) {
     have_settings("[Settings]\r\nStdColWidth=2345\r\n");
     start();
-    EXPECT_EQ(layout().StdColWidth, 2345);
+    EXPECT_EQ(layout().StdColWidth(), 2345);
     EXPECT_EQ(stored("SettingsFile"), "absent");
 }
 
@@ -98,7 +98,7 @@ TEST_F(StartUp, KeepsAStoredPathAtWhichNoSettingsFileStands) {
     EXPECT_EQ(box.shown[0].text, "The program's settings file has been deleted or moved or is unaccessible.\r"
                                  "A new settings file will be created in the program's folder");
     EXPECT_EQ(box.shown[0].icon, Icon::critical);
-    calendar.ini.WriteKeyValue("Settings", "1stday", "2");
+    calendar.settings.ini.WriteKeyValue("Settings", "1stday", "2");
     EXPECT_TRUE(files.exists("/elsewhere/my.ini"));
     EXPECT_FALSE(files.exists("/program/Orvanta.ini"));
 }
@@ -109,7 +109,7 @@ TEST_F(StartUp, TellsOfAStoredPathWithoutAFileOnceAtEachStartUntilTheFileIsThere
     EXPECT_EQ(box.shown.size(), 1U);
     load();
     EXPECT_EQ(box.shown.size(), 2U);
-    calendar.ini.WriteKeyValue("Settings", "1stday", "2");
+    calendar.settings.ini.WriteKeyValue("Settings", "1stday", "2");
     load();
     EXPECT_EQ(box.shown.size(), 2U);
 }
@@ -119,7 +119,7 @@ TEST_F(StartUp, ReadsAStoredSettingsFileThatIsThere) {
     files.content["elsewhere/my.ini"] = "[Settings]\nStdRowHeight=500\n";
     start();
     EXPECT_EQ(boxes(), Texts{});
-    EXPECT_EQ(layout().StdRowHeight, 500);
+    EXPECT_EQ(layout().StdRowHeight(), 500);
 }
 
 TEST_F(StartUp, TakesTheContactFieldFrom25On) {
@@ -141,8 +141,8 @@ TEST_F(StartUp, FillsTheJumpListWithItsSixteenEntries) {
 TEST_F(StartUp, TakesUpTheDailyView) {
     store("WeeklyView", "0");
     start();
-    EXPECT_EQ(layout().NumDays, 1);
-    EXPECT_EQ(layout().StartDate, DateTime::of(2024, 1, 10));
+    EXPECT_EQ(layout().NumDays(), 1);
+    EXPECT_EQ(layout().StartDate(), DateTime::of(2024, 1, 10));
     EXPECT_TRUE(window.view_boxes[0]);
     EXPECT_FALSE(window.view_boxes[1]);
 }
@@ -150,7 +150,7 @@ TEST_F(StartUp, TakesUpTheDailyView) {
 TEST_F(StartUp, HasAsManyColumnsAsAnOddStoredViewGivesDays) {
     store("WeeklyView", "2");
     start();
-    EXPECT_EQ(layout().NumDays, 13);
+    EXPECT_EQ(layout().NumDays(), 13);
     EXPECT_EQ(calendar.grid.msgSched.Cols(), 2 + 13);
     EXPECT_FALSE(window.view_boxes[0]);
     EXPECT_TRUE(window.view_boxes[1]);
@@ -159,7 +159,7 @@ TEST_F(StartUp, HasAsManyColumnsAsAnOddStoredViewGivesDays) {
 TEST_F(StartUp, CountsTheDaysOfAnyOddWeeklyViewAndSelectsDailyForOneDayOnly) {
     store("WeeklyView", "-1");
     start();
-    EXPECT_EQ(layout().NumDays, -5);
+    EXPECT_EQ(layout().NumDays(), -5);
     EXPECT_FALSE(window.view_boxes[0]);
     EXPECT_TRUE(window.view_boxes[1]);
 }
@@ -176,43 +176,43 @@ TEST_F(StartUp, LeavesTheFourSizesOfTheViewsUnwritten) {
 TEST_F(StartUp, ReadsTheHolidays) {
     files.content["/program/holidays.dat"] = "[Holidays]\r\n1/10/2024=Founders' day\r\n";
     start();
-    EXPECT_EQ(calendar.grid.background.HolidaysFile, "/program/holidays.dat");
-    EXPECT_EQ(calendar.grid.background.Holidays, "|1/10/2024|");
+    EXPECT_EQ(calendar.grid.background.holidays.HolidaysFile, "/program/holidays.dat");
+    EXPECT_EQ(calendar.grid.background.holidays.Holidays, "|1/10/2024|");
 }
 
 TEST_F(StartUp, ReadsTheSettingsOfTheGrid) {
     have_settings("[Settings]\nStdColWidth=2000\nStdRowHeight=900\nCollColWidth=99\nSpanText=(more)\n"
                   "OneRowPerUser=0\nCheckRecurring=0\n[DaysOff]\n1=1\n2=0\n3=11\n7=1\n");
     start();
-    EXPECT_EQ(layout().StdColWidth, 2000);
-    EXPECT_EQ(layout().StdRowHeight, 900);
+    EXPECT_EQ(layout().StdColWidth(), 2000);
+    EXPECT_EQ(layout().StdRowHeight(), 900);
     EXPECT_EQ(calendar.start_up.CollColWidth, 99);
     EXPECT_EQ(calendar.grid.rendering.SpanText, "(more)");
-    EXPECT_EQ(layout().DaysOff, "17");
-    EXPECT_FALSE(layout().OneRowPerUser);
-    EXPECT_EQ(layout().FixedCols, 1);
+    EXPECT_EQ(layout().DaysOff(), "17");
+    EXPECT_FALSE(layout().OneRowPerUser());
+    EXPECT_EQ(layout().FixedCols(), 1);
     EXPECT_FALSE(calendar.engine.refresh.CheckRecurring);
 }
 
 TEST_F(StartUp, HasItsDefaultsWithoutASettingsFile) {
     start();
-    EXPECT_EQ(layout().StdColWidth, 1800);
-    EXPECT_EQ(layout().StdRowHeight, 820);
+    EXPECT_EQ(layout().StdColWidth(), 1800);
+    EXPECT_EQ(layout().StdRowHeight(), 820);
     EXPECT_EQ(calendar.start_up.CollColWidth, 180);
     EXPECT_EQ(calendar.grid.rendering.SpanText, "( Continued )");
-    EXPECT_EQ(layout().DaysOff, "");
-    EXPECT_TRUE(layout().OneRowPerUser);
-    EXPECT_EQ(layout().FixedCols, 2);
+    EXPECT_EQ(layout().DaysOff(), "");
+    EXPECT_TRUE(layout().OneRowPerUser());
+    EXPECT_EQ(layout().FixedCols(), 2);
     EXPECT_TRUE(calendar.engine.refresh.CheckRecurring);
     EXPECT_EQ(calendar.engine.cell_text.DisplayContactField, 26);
-    EXPECT_EQ(calendar.users.UsersFilter, " ");
+    EXPECT_EQ(calendar.act.users.UsersFilter, " ");
     EXPECT_FALSE(files.exists("/program/Orvanta.ini"));
 }
 
 TEST_F(StartUp, KnowsEveryUserByIdAndName) {
     start();
-    EXPECT_EQ(calendar.users.UserIdToName.at(id("Bob")), "Bob");
-    EXPECT_EQ(calendar.users.UserNameToId.at("Ann"), id("Ann"));
+    EXPECT_EQ(calendar.act.users.UserIdToName.at(id("Bob")), "Bob");
+    EXPECT_EQ(calendar.act.users.UserNameToId.at("Ann"), id("Ann"));
 }
 
 TEST_F(StartUp, LetsTheRefreshTimerTickOnceAMinute) {
@@ -231,11 +231,11 @@ TEST_F(StartUp, LeavesTheRefreshTimerAloneWithAPeriodOf0) {
 
 TEST_F(StartUp, RemembersWhenItRefreshedAndMakesTheTwoCellsOfTheMouse) {
     start();
-    EXPECT_EQ(calendar.engine.refresh.LastRefresh, clock.time);
+    EXPECT_EQ(calendar.engine.placing.LastRefresh, clock.time);
     EXPECT_TRUE(calendar.grid.msgSched.Redraw());
-    ASSERT_NE(calendar.grid.selection.SelectedCell, nullptr);
-    ASSERT_NE(calendar.grid.selection.DragSourceCell, nullptr);
-    EXPECT_NE(calendar.grid.selection.SelectedCell, calendar.grid.selection.DragSourceCell);
+    ASSERT_TRUE(calendar.grid.selection.SelectedCell);
+    ASSERT_TRUE(calendar.grid.selection.DragSourceCell);
+    EXPECT_NE(calendar.grid.selection.SelectedCell.get(), calendar.grid.selection.DragSourceCell.get());
     EXPECT_FALSE(calendar.grid.selection.SelectedCell->Initialized());
 }
 
@@ -282,7 +282,7 @@ TEST_F(StartUp, TellsOfAnACTThatFailsAndOfWhatIsMissingThen) {
     EXPECT_TRUE(told_by(3, "in frmMain: Sub Form_Load - Line # 170\r"));
     EXPECT_EQ(boxes().back(), "Error 91: '" + values::description_of(values::FailureNumber::object_not_set) + "'");
     EXPECT_EQ(window.unloads, 0);
-    EXPECT_FALSE(calendar.session.ActDatabase);
+    EXPECT_FALSE(calendar.act.session.ActDatabase);
 }
 
 } // namespace

@@ -10,7 +10,7 @@ namespace {
 class DialogsTest : public ::testing::Test, protected support::ShellWorld {
 protected:
     QWidget main_window;
-    ui::Dialogs shown{main_window, platform(server), calendar};
+    ui::FormOpener shown{main_window, calendar};
 };
 
 TEST_F(DialogsTest, ShowTheDaysOffOverTheWindowUntilTheyAreClosed) {

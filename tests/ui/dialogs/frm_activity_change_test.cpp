@@ -21,7 +21,7 @@ protected:
             user();
             EXPECT_FALSE(form.isVisible());
         });
-        answer = form.ask();
+        answer = static_cast<int>(form.ask());
         return answer;
     }
     QPushButton* cmdResponse(int index) {

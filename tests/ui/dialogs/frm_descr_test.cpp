@@ -1,7 +1,7 @@
 #include "ui/dialogs/frm_descr.h"
 
-#include "support/fake_message_box.h"
-#include "support/fake_shell.h"
+#include "support/fake_window.h"
+#include "support/platform_world.h"
 
 #include <QLineEdit>
 #include <QPushButton>
@@ -10,7 +10,7 @@
 
 namespace {
 
-class FrmDescr : public ::testing::Test {
+class FrmDescr : public ::testing::Test, protected support::PlatformWorld {
 protected:
     FrmDescr() {
         form.show();
@@ -20,11 +20,9 @@ protected:
     void click(const char* button) { QTest::mouseClick(form.findChild<QPushButton*>(button), Qt::LeftButton); }
 
     std::string sDescr = "before";
-    support::FakeMessageBox box;
-    support::FakeShell shell;
-    host::ApplicationInfo application{.title = "Orvanta"};
-    host::Guard guarded{box, application};
-    ui::frmDescr form{sDescr, shell, guarded, nullptr};
+    support::FakeWindow window;
+    const host::Platform here{machine(), window};
+    ui::frmDescr form{here, sDescr, nullptr};
     QLineEdit* txtDescr = form.findChild<QLineEdit*>("txtDescr");
 };
 

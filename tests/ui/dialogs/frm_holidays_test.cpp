@@ -26,18 +26,8 @@ protected:
         if (!holidays.empty())
             files.content[path] = "[Holidays]\r\n" + holidays;
         start();
-        form = std::make_unique<ui::frmHolidays>(ui::frmHolidays::Needs{.file = calendar.holidays,
-                                                                        .background = calendar.grid.background,
-                                                                        .layout = calendar.grid.layout,
-                                                                        .ini = calendar.ini,
-                                                                        .user_store = calendar.user_store,
-                                                                        .locale = values::english_us(),
-                                                                        .clock = clock,
-                                                                        .box = box,
-                                                                        .shell = shell,
-                                                                        .application = application,
-                                                                        .guarded = guarded},
-                                                 nullptr);
+        form = std::make_unique<ui::frmHolidays>(calendar.here(), calendar.settings,
+                                                 calendar.grid.background.holidays, calendar.grid.layout, nullptr);
         form->show();
         EXPECT_TRUE(QTest::qWaitForWindowActive(form.get()));
     }
@@ -84,7 +74,6 @@ protected:
         return lines;
     }
 
-    host::Guard guarded{box, application};
     std::unique_ptr<ui::frmHolidays> form;
 };
 
@@ -167,9 +156,9 @@ TEST_F(FrmHolidays, StoresTheTickedDays) {
     tick("chkday_7");
     click("cmdOK");
     EXPECT_EQ(boxes(), Lines{restart_message});
-    EXPECT_EQ(calendar.ini.GetKeyValue("DaysOff", "1", ""), "1");
-    EXPECT_EQ(calendar.ini.GetKeyValue("DaysOff", "4", ""), "0");
-    EXPECT_EQ(calendar.ini.GetKeyValue("DaysOff", "7", ""), "1");
+    EXPECT_EQ(calendar.settings.ini.GetKeyValue("DaysOff", "1", ""), "1");
+    EXPECT_EQ(calendar.settings.ini.GetKeyValue("DaysOff", "4", ""), "0");
+    EXPECT_EQ(calendar.settings.ini.GetKeyValue("DaysOff", "7", ""), "1");
 }
 
 TEST_F(FrmHolidays, TellsToRestartHoweverItIsClosedAfterAnEdit) {

@@ -1,5 +1,6 @@
 #include "ui/dialogs/frm_mini_calendar.h"
 
+#include "support/fake_window.h"
 #include "support/platform_world.h"
 
 #include <QApplication>
@@ -20,7 +21,7 @@ protected:
         dates.datCurrentNow = DateTime::of(2024, 2, 14); // a Wednesday
     }
     void open() {
-        form = std::make_unique<ui::frmMiniCalendar>(dates, values, guarded, nullptr);
+        form = std::make_unique<ui::frmMiniCalendar>(here, values, dates, nullptr);
         form->show();
         QCoreApplication::processEvents();
     }
@@ -45,7 +46,8 @@ protected:
     }
     QColor title_color() { return form->grab().toImage().pixelColor(5, 4); }
 
-    host::Guard guarded{box, application};
+    support::FakeWindow window;
+    const host::Platform here{machine(), window};
     forms::JumpDates dates;
     std::unique_ptr<ui::frmMiniCalendar> form;
 };

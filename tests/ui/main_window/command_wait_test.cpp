@@ -107,7 +107,7 @@ protected:
     apps::DeskServer server{link, values::english_us()};
     std::unique_ptr<act::EventControl> real_events = bus::make_event_control(link);
     std::unique_ptr<host::MessageBox> real_box = qt::make_message_box();
-    ui::frmMain window{platform(server, *real_box, *real_events)};
+    ui::frmMain window{outside(server, *real_box, *real_events)};
     ui::GridWidget* grid = window.findChild<ui::GridWidget*>("msgSched");
 };
 
@@ -140,7 +140,7 @@ TEST_F(CommandWait, ShowsWhatWasTypedInTheDialogOnceItHasClosed) {
 TEST_F(CommandWait, TakesNoInputAndDoesNotCarryItOutAfterwards) {
     auto* cmdNext = window.findChild<QToolButton*>("cmdNext");
     table::GridModel& msgSched = window.calendar().grid.msgSched;
-    const DateTime week = window.calendar().grid.layout.StartDate;
+    const DateTime week = window.calendar().grid.layout.StartDate();
     double_click_and(9, [&] {
         const int row = msgSched.Row(), col = msgSched.Col();
         QTest::mouseClick(grid->viewport(), Qt::LeftButton, {}, middle(13, 3));
@@ -161,13 +161,13 @@ TEST_F(CommandWait, TakesNoInputAndDoesNotCarryItOutAfterwards) {
     });
     QTest::qWait(50);
     EXPECT_EQ(commands(), std::vector{CommandNumber::edit_activity});
-    EXPECT_EQ(window.calendar().grid.layout.StartDate, week);
-    EXPECT_EQ(window.calendar().grid.layout.NumDays, 7);
+    EXPECT_EQ(window.calendar().grid.layout.StartDate(), week);
+    EXPECT_EQ(window.calendar().grid.layout.NumDays(), 7);
     EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
     EXPECT_EQ(program.ends, 0);
     EXPECT_TRUE(window.isVisible());
     QTest::mouseClick(cmdNext, Qt::LeftButton);
-    EXPECT_EQ(window.calendar().grid.layout.StartDate, week.plus_days(7)) << "and takes it again";
+    EXPECT_EQ(window.calendar().grid.layout.StartDate(), week.plus_days(7)) << "and takes it again";
 }
 
 TEST_F(CommandWait, HearsTheDesksEventAndFollowsItOnceTheProcedureIsOver) {

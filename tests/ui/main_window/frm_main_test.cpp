@@ -222,7 +222,7 @@ TEST_F(FrmMain, AtOnceClosesABoxThatAnEndAlreadyWaitsFor) {
 
 TEST_F(FrmMain, HidesAndWaitsTwoSecondsWhenItRestartsACT) {
     load();
-    window.calendar().closing.RestartAct = true;
+    window.calendar().departure.RestartAct = true;
     window.close();
     EXPECT_FALSE(window.isVisible());
     EXPECT_EQ(program.ends, 0);

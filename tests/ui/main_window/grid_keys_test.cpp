@@ -106,8 +106,8 @@ TEST_F(GridKeys, EnterOnAClickedDaysTitleOpensTheDay) {
     click(0, 5);
     press(Qt::Key_Return);
     settle();
-    EXPECT_EQ(window.calendar().grid.layout.NumDays, 1);
-    EXPECT_EQ(window.calendar().grid.layout.StartDate, values::DateTime::of(2024, 1, 10));
+    EXPECT_EQ(window.calendar().grid.layout.NumDays(), 1);
+    EXPECT_EQ(window.calendar().grid.layout.StartDate(), values::DateTime::of(2024, 1, 10));
     EXPECT_TRUE(commands().empty());
 }
 
@@ -115,7 +115,7 @@ TEST_F(GridKeys, EnterAfterAnArrowMeansTheCellAndNoLongerTheClickedTitle) {
     click(0, 5);
     press(Qt::Key_Down);
     press(Qt::Key_Return);
-    EXPECT_EQ(window.calendar().grid.layout.NumDays, 7);
+    EXPECT_EQ(window.calendar().grid.layout.NumDays(), 7);
     EXPECT_EQ(commands(), std::vector{CommandNumber::schedule_activity});
 }
 

@@ -66,7 +66,7 @@ public:
     TemporaryDatabase database;
     std::string ann, chris;
     HalfRealServer server{database.path()};
-    ui::frmMain window{platform(server)};
+    ui::frmMain window{outside(server)};
 };
 
 } // namespace support

@@ -1,0 +1,13 @@
+#include "core/grid/day_grid.h"
+
+#include "core/values/failure.h"
+
+namespace grid {
+
+int DayGrid::slot_of(int row) const {
+    if (cells_per_slot_ == 0)
+        throw values::Failure(values::FailureNumber::overflow);
+    return (row - first_row) / cells_per_slot_;
+}
+
+} // namespace grid

@@ -24,7 +24,7 @@ void Placing::read_settings() {
         date_texts_.clear();
 }
 
-void Placing::Treat_Activity(DateTime date, int duration, bool recurring) {
+void Placing::Treat_Activity(DateTime date, int duration, Kind kind) {
     here_.guarded("in modRefresh: Sub Treat_Activity - Line # ", [&](host::Step& step) {
         namespace field = act::activity_field;
         const act::Activity& activity = *act_.session.ActActivity;
@@ -71,7 +71,7 @@ void Placing::Treat_Activity(DateTime date, int duration, bool recurring) {
         layout_.Slots(*slot, col)
             .SetCell({.ActivityID = last_.id,
                       .ContactID = last_.contact,
-                      .Recurring = flag(recurring),
+                      .Recurring = flag(kind == Kind::of_series),
                       .Cleared = flag(last_.cleared),
                       .BackColor = "",
                       .ForeColor = last_.colour,

@@ -38,7 +38,8 @@ public:
 
     // Places an occurrence of the current activity that starts at `date` and takes `duration` minutes. One that
     // finds no slot is dropped.
-    void Treat_Activity(DateTime date, int duration, bool recurring);
+    enum class Kind { single, of_series };
+    void Treat_Activity(DateTime date, int duration, Kind kind);
     // How many slots, counted from the given one, an occurrence covers that ends at that time; the date doesn't
     // count. Has no failure handler.
     int GetSlotSpan(int first_slot, DateTime end_time) const { return slots_.span(first_slot, end_time); }

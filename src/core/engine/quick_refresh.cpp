@@ -43,7 +43,7 @@ void QuickRefresh::Add_New(DateTime since) {
                 clear_selected = selected.Row() != 0;
             }
             step = 50;
-            Refresh_Activity(id, clear_selected);
+            Refresh_Activity(id, clear_selected ? SelectedCell::cleared : SelectedCell::stays);
         }
         step = 60;
         here_.window.show_default_pointer();
@@ -92,10 +92,10 @@ std::string QuickRefresh::Find_New(DateTime since) {
     });
 }
 
-void QuickRefresh::Refresh_Activity(std::string id, bool clear_selected) {
+void QuickRefresh::Refresh_Activity(std::string id, SelectedCell selected) {
     here_.guarded("in modRefresh: Sub Refresh_Activity - Line # ", [&](host::Step& step) {
         step = 10;
-        if (clear_selected)
+        if (selected == SelectedCell::cleared)
             grid_.selection.selected().Clear();
         step = 20;
         placing_.read_settings();
@@ -126,7 +126,7 @@ void QuickRefresh::place_single(act::Activity& activity) {
     if (!passes_filters(activity) || !act_.users.passes_filter(text(activity, field::scheduled_for)))
         return;
     const DateTime start = values::to_date(text(activity, field::start), here_.locale);
-    placing_.Treat_Activity(start, values::int16_of(activity.Data(field::duration)), false);
+    placing_.Treat_Activity(start, values::int16_of(activity.Data(field::duration)), Placing::Kind::single);
 }
 
 bool QuickRefresh::passes_filters(const act::Activity& activity) const {
@@ -170,14 +170,14 @@ void QuickRefresh::Ask_Refresh(const Touched& touched) {
         grid_.layout.Slots(cell.Slot(), cell.Col()).DeleteCell(cell.ActivityID());
         step = 40;
         // The slot's number is the flag, so a cell in the first slot isn't cleared.
-        Refresh_Activity(cell.ActivityID(), cell.Slot() != 0);
+        Refresh_Activity(cell.ActivityID(), cell.Slot() != 0 ? SelectedCell::cleared : SelectedCell::stays);
         step = 50;
         if (touched.second_id.empty())
             return;
         grid_.selection.SelectedCell =
             grid_.layout.Cells.reference(touched.second_place.row, touched.second_place.col);
         step = 60;
-        Refresh_Activity(touched.second_id, true);
+        Refresh_Activity(touched.second_id, SelectedCell::cleared);
     });
 }
 

@@ -24,9 +24,10 @@ public:
     // The id of the activity last in the list of those edited after that moment, followed by the displayed ids
     // that the list no longer holds.
     std::string Find_New(DateTime since);
-    // Reads one activity again, from a new list without filters and scope. The selected cell can be cleared
-    // first.
-    void Refresh_Activity(std::string id, bool clear_selected);
+    // Reads one activity again, from a new list without filters and scope, after clearing the selected cell or
+    // not.
+    enum class SelectedCell { stays, cleared };
+    void Refresh_Activity(std::string id, SelectedCell selected);
     // What a command may have changed: the activity of the selected cell, and then a second one at a place of its
     // own, none where its id is empty. Nothing is known where neither is.
     struct Touched {

@@ -79,7 +79,8 @@ void Recurring::treat(std::string_view place, Walk walk, DateTime start, int dur
         step = 20;
         walk(rule, {layout_.StartDate(), layout_.EndDate()},
              {.Exception = [this](DateTime date) { return Exception(date); },
-              .occurrence = [&](DateTime date) { placing_.Treat_Activity(date, duration, true); }});
+              .occurrence =
+                  [&](DateTime date) { placing_.Treat_Activity(date, duration, Placing::Kind::of_series); }});
     });
 }
 

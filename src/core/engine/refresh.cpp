@@ -110,7 +110,7 @@ void Refresh::place_plain_activities(act::Activity& activity) {
         const auto start = values::date_of(activity.Data(field::start), here_.locale);
         if (!start || start->date() < grid_.layout.StartDate())
             continue;
-        placing_.Treat_Activity(*start, values::int16_of(activity.Data(field::duration)), false);
+        placing_.Treat_Activity(*start, values::int16_of(activity.Data(field::duration)), Placing::Kind::single);
     }
 }
 

@@ -17,7 +17,7 @@ void Background::Refresh_Colors() {
         step = 40;
         Insert_Holidays();
         step = 50;
-        inactive_slots.Color_offSlots(layout_.msgSched(), here_.window, true);
+        inactive_slots.Color_offSlots(layout_.msgSched(), here_.window, InactiveSlots::GridKind::main);
         step = 60;
         here_.window.unlock_updates();
     });

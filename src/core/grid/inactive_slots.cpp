@@ -11,7 +11,7 @@ namespace grid {
 using values::Failure;
 using values::FailureNumber;
 
-void InactiveSlots::Color_offSlots(table::GridModel& grid, host::Window& owner, bool main_grid) {
+void InactiveSlots::Color_offSlots(table::GridModel& grid, host::Window& owner, GridKind kind) {
     here_.guarded("in modColorOffSlot: Sub Color_offSlots - Line # ", [&](host::Step& step) {
         step = 10;
         owner.show_hourglass();
@@ -19,22 +19,22 @@ void InactiveSlots::Color_offSlots(table::GridModel& grid, host::Window& owner, 
         for (int day = 1; day <= layout_.NumDays(); ++day) {
             step = 20;
             const std::string ranges =
-                settings::read(settings_.ini, settings::keys::inactive_ranges(weekday_of(day, main_grid)));
+                settings::read(settings_.ini, settings::keys::inactive_ranges(weekday_of(day, kind)));
             if (ranges.empty())
                 continue;
             step = 30;
             read_ranges(ranges);
-            const int col = main_grid ? layout_.off_col(day) : day;
+            const int col = kind == GridKind::main ? layout_.off_col(day) : day;
             for (int row = DayGrid::first_row; row < grid.Rows(); ++row) {
                 step = 40;
-                if (In_Slot(grid, row, day, main_grid)) {
+                if (In_Slot(row, day, kind)) {
                     step = 50;
                     grid.Row(row);
                     grid.Col(col);
                     grid.CellBackColor(values::to_int32(layout_.Color3()));
-                    if (main_grid)
+                    if (kind == GridKind::main)
                         writer_.Add_toGridID(row, col, {.back_color = Bands::off_selector});
-                } else if (main_grid) {
+                } else if (kind == GridKind::main) {
                     step = 60;
                     grid.Row(row);
                     grid.Col(col);
@@ -50,8 +50,8 @@ void InactiveSlots::Color_offSlots(table::GridModel& grid, host::Window& owner, 
     });
 }
 
-std::string InactiveSlots::weekday_of(int day, bool main_grid) const {
-    if (main_grid)
+std::string InactiveSlots::weekday_of(int day, GridKind kind) const {
+    if (kind == GridKind::main)
         return values::weekday_name(layout_.nth_day(day), here_.locale);
     if (layout_.FirstDayOfWeek() < 1 || layout_.FirstDayOfWeek() > 7)
         throw Failure(FailureNumber::invalid_procedure_call);
@@ -70,10 +70,10 @@ void InactiveSlots::read_ranges(const std::string& ranges) {
     }
 }
 
-bool InactiveSlots::In_Slot(table::GridModel&, int row, int day, bool main_grid) {
+bool InactiveSlots::In_Slot(int row, int day, GridKind kind) {
     return here_.guarded("in modColorOffSlot: Function In_Slot - Line # ", [&](host::Step& step) {
         step = 10;
-        const values::DateTime time = main_grid ? time_of_row(row) : time_of_cell(row, day);
+        const values::DateTime time = kind == GridKind::main ? time_of_row(row) : time_of_cell(row, day);
         step = 20;
         for (std::size_t range = 0; range < OffStarts.size(); ++range)
             if (time >= OffStarts[range] && time < OffEnds[range])

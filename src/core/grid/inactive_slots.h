@@ -16,14 +16,16 @@ public:
         : here_(here), settings_(settings), layout_(writer.layout()), holidays_(holidays), bands_(bands),
           writer_(writer) {}
 
-    // Paints the inactive slots of a grid: of the main one, or of the dialog that edits them, which has a column
-    // a weekday. The owner is the window that shows the grid.
-    void Color_offSlots(table::GridModel& grid, host::Window& owner, bool main_grid);
+    // The main grid, or that of the dialog that edits the slots, which has a column a weekday.
+    enum class GridKind { main, dialog };
+
+    // Paints the inactive slots of a grid. The owner is the window that shows it.
+    void Color_offSlots(table::GridModel& grid, host::Window& owner, GridKind kind);
     // Whether the row lies in one of the ranges of the day last read. The end of a range is outside.
-    bool In_Slot(table::GridModel& grid, int row, int day, bool main_grid);
+    bool In_Slot(int row, int day, GridKind kind);
 
 private:
-    std::string weekday_of(int day, bool main_grid) const;
+    std::string weekday_of(int day, GridKind kind) const;
     void read_ranges(const std::string& ranges); // "start|end,start|end"
     values::DateTime time_of_row(int row);
     values::DateTime time_of_cell(int row, int day) const;

@@ -46,18 +46,19 @@ void Layout::Initialize_Dates(DateTime date) {
 }
 
 DateTime Layout::first_day_for(DateTime date) const {
-    return NumDays_ == days_of_week ? GetFirstDayOf(date) : GetNextNotHiddenDay(date, false);
+    return NumDays_ == days_of_week ? GetFirstDayOf(date) : GetNextNotHiddenDay(date, Direction::forward);
 }
 
 void Layout::move_by(int days) {
     const DateTime moved = StartDate_.plus_days(days);
-    show(days == 1 || days == -1 ? GetNextNotHiddenDay(moved, days < 0) : moved);
+    show(days == 1 || days == -1 ? GetNextNotHiddenDay(moved, days < 0 ? Direction::backward : Direction::forward)
+                                 : moved);
 }
 
-DateTime Layout::GetNextNotHiddenDay(DateTime date, bool backward) const {
+DateTime Layout::GetNextNotHiddenDay(DateTime date, Direction direction) const {
     DateTime candidate = date;
     for (int days = 0; days <= 6; ++days) {
-        candidate = date.plus_days(backward ? -days : days);
+        candidate = date.plus_days(direction == Direction::backward ? -days : days);
         if (!is_day_off(candidate))
             break;
     }

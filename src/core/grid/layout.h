@@ -92,7 +92,8 @@ public:
     bool is_day_off(values::DateTime date) const;
     // The date itself if it is shown, else the next one that is, in that direction; the seventh date tried when
     // all days are off.
-    values::DateTime GetNextNotHiddenDay(values::DateTime date, bool backward) const;
+    enum class Direction { forward, backward };
+    values::DateTime GetNextNotHiddenDay(values::DateTime date, Direction direction) const;
     // The first day of the date's week. Fails with 5 when FirstDayOfWeek is no weekday.
     values::DateTime GetFirstDayOf(values::DateTime date) const;
 

@@ -49,7 +49,8 @@ void Navigation::Move_Start(int days) {
         step = 70;
         grid_.background.Insert_Holidays();
         step = 80;
-        grid_.background.inactive_slots.Color_offSlots(grid_.msgSched, here_.window, true);
+        grid_.background.inactive_slots.Color_offSlots(grid_.msgSched, here_.window,
+                                                       grid::InactiveSlots::GridKind::main);
         step = 90;
         engine_.refresh.Refresh_Data();
         step = 100;

@@ -91,7 +91,7 @@ TEST_P(BrokenSeriesTest, IsReadAgainAloneWithoutHarmToTheOthers) {
     const std::string id = add_broken(GetParam());
     calendar.start_up.Form_Load();
     box.shown.clear();
-    calendar.engine.quick_refresh.Refresh_Activity(id, false);
+    calendar.engine.quick_refresh.Refresh_Activity(id, engine::QuickRefresh::SelectedCell::stays);
     EXPECT_LE(box.shown.size(), 1U);
     EXPECT_EQ(shown_at(sound_hour), all_week);
     EXPECT_EQ(shown_at(broken_hour), GetParam().shown);

@@ -22,7 +22,8 @@ protected:
     void treat(DateTime date, int duration = 60, bool recurring = false) {
         world_.engine.placing.read_settings();
         world_.session.ActActivity->MoveFirst();
-        world_.engine.placing.Treat_Activity(date, duration, recurring);
+        world_.engine.placing.Treat_Activity(
+            date, duration, recurring ? engine::Placing::Kind::of_series : engine::Placing::Kind::single);
     }
     std::string colour() {
         treat(DateTime::of(2024, 1, 10, 9, 0));
@@ -114,7 +115,7 @@ TEST_F(PlacingTest, ComposesATextAnewThatWasEmpty) {
     EXPECT_EQ(world_.only_record().Text, "");
     world_.calendar.layout.Slots(1, wednesday).ClearCells();
     world_.act_data.contacts["contact-----"][26] = std::string("Chris Smith");
-    world_.engine.placing.Treat_Activity(DateTime::of(2024, 1, 10, 9, 0), 60, false);
+    world_.engine.placing.Treat_Activity(DateTime::of(2024, 1, 10, 9, 0), 60, engine::Placing::Kind::single);
     EXPECT_EQ(world_.only_record().Text, "Chris Smith");
     EXPECT_EQ(world_.only_record().Detail, "Ann||1/10/2024 9:00:00 AMChris Smith");
 }
@@ -207,7 +208,7 @@ TEST_F(PlacingTest, ASlotWhoseStartIsNoTimeShowsTheBoxForEachActivityThatMeetsIt
 TEST_F(PlacingTest, TakesTheSlotsAsTheyWereWhenTheRefreshBegan) {
     treat(DateTime::of(2024, 1, 10, 8, 30));
     world_.set("Slots", "DurationSlot0", "20");
-    world_.engine.placing.Treat_Activity(DateTime::of(2024, 1, 11, 8, 30), 60, false);
+    world_.engine.placing.Treat_Activity(DateTime::of(2024, 1, 11, 8, 30), 60, engine::Placing::Kind::single);
     EXPECT_EQ(world_.placed(), (std::vector<std::string>{"0/5 Meet", "0/6 Meet"}));
     treat(DateTime::of(2024, 1, 12, 8, 30));
     EXPECT_EQ(world_.placed(), (std::vector<std::string>{"0/5 Meet", "0/6 Meet"}));

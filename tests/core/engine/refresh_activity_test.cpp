@@ -13,7 +13,8 @@ protected:
     Texts reread(const std::string& name, bool clear_selected = false) {
         for (grid::clsMsgSchedSlot& slot : world_.calendar.layout.Slots)
             slot.ClearCells();
-        quick_refresh().Refresh_Activity(id(name), clear_selected);
+        using Selected = engine::QuickRefresh::SelectedCell;
+        quick_refresh().Refresh_Activity(id(name), clear_selected ? Selected::cleared : Selected::stays);
         return world_.placed();
     }
 };

@@ -66,7 +66,7 @@ TEST_F(InactiveSlots, GiveTheBandBackWhenTheRangeHasChanged) {
     off("Monday", "8:00:00 AM|9:59:00 AM");
     open();
     off("Monday", "8:00:00 AM|8:59:00 AM");
-    background.inactive_slots.Color_offSlots(model, world.window, true);
+    background.inactive_slots.Color_offSlots(model, world.window, grid::InactiveSlots::GridKind::main);
     EXPECT_EQ(inactive_rows(3), (Rows{1, 2}));
     EXPECT_EQ(model.cell(3, 3).back_colour, odd);
 }
@@ -116,7 +116,7 @@ TEST_F(InactiveSlots, ShowTheFailureBoxForARangeThatIsNoTime) {
         if (model.Rows() == 1)
             open();
         else
-            background.inactive_slots.Color_offSlots(model, world.window, true);
+            background.inactive_slots.Color_offSlots(model, world.window, grid::InactiveSlots::GridKind::main);
         ASSERT_EQ(world.box.shown.size(), 1U) << ranges;
     }
     EXPECT_NE(world.box.shown[0].text.find("Error 9: "), std::string::npos);
@@ -159,9 +159,9 @@ TEST_F(InactiveSlots, AreNoneInARangeThatEndsBeforeItStartsOrLiesOnADate) {
 TEST_F(InactiveSlots, AreAskedForARowAndARangeAtATime) {
     off("Saturday", "8:00:00 AM|9:00:00 AM");
     open();
-    EXPECT_TRUE(background.inactive_slots.In_Slot(model, 1, 7, true));
-    EXPECT_FALSE(background.inactive_slots.In_Slot(model, 3, 7, true));
-    EXPECT_FALSE(background.inactive_slots.In_Slot(model, 99, 7, true));
+    EXPECT_TRUE(background.inactive_slots.In_Slot(1, 7, grid::InactiveSlots::GridKind::main));
+    EXPECT_FALSE(background.inactive_slots.In_Slot(3, 7, grid::InactiveSlots::GridKind::main));
+    EXPECT_FALSE(background.inactive_slots.In_Slot(99, 7, grid::InactiveSlots::GridKind::main));
     EXPECT_EQ(world.box.shown.size(), 1U);
 }
 
@@ -190,7 +190,7 @@ TEST_F(InactiveSlotsDialog, PaintsTheColumnOfTheWeekdayCountedFromTheFirstDay) {
     world.have_users({"Ann"});
     world.open(DateTime::of(2024, 1, 10));
     support::FakeWindow dialog;
-    background.inactive_slots.Color_offSlots(off_grid, dialog, false);
+    background.inactive_slots.Color_offSlots(off_grid, dialog, grid::InactiveSlots::GridKind::dialog);
     EXPECT_EQ(inactive_rows_of_dialog(1), (Rows{2}));
     EXPECT_EQ(inactive_rows_of_dialog(2), Rows{});
     EXPECT_EQ(dialog.calls, (std::vector<std::string>{"show_hourglass", "lock_updates", "unlock_updates",
@@ -203,7 +203,7 @@ TEST_F(InactiveSlotsDialog, TimesItsRowsByTheCalendarsRowsPerSlot) {
     off("Monday", "8:00:00 AM|9:00:00 AM");
     open(true, 1);
     support::FakeWindow dialog;
-    background.inactive_slots.Color_offSlots(off_grid, dialog, false);
+    background.inactive_slots.Color_offSlots(off_grid, dialog, grid::InactiveSlots::GridKind::dialog);
     EXPECT_EQ(inactive_rows_of_dialog(1), (Rows{1, 2}));
     EXPECT_EQ(inactive_rows_of_dialog(2), Rows{});
 }
@@ -214,7 +214,7 @@ TEST_F(InactiveSlotsDialog, GivesNoCellItsBandBack) {
     off_grid.Row(4);
     off_grid.Col(1);
     off_grid.CellBackColor(inactive);
-    background.inactive_slots.Color_offSlots(off_grid, world.window, false);
+    background.inactive_slots.Color_offSlots(off_grid, world.window, grid::InactiveSlots::GridKind::dialog);
     EXPECT_EQ(inactive_rows_of_dialog(1), (Rows{1, 2, 4}));
 }
 

@@ -55,11 +55,15 @@ TEST_F(LayoutTest, OpensOnTheLastDayTriedWhenAllDaysAreOff) {
 
 TEST_F(LayoutTest, StepsOverDaysOffInTheDirectionOfTravel) {
     layout.DaysOff("17");
-    EXPECT_EQ(layout.GetNextNotHiddenDay(DateTime::of(2024, 1, 13), false), DateTime::of(2024, 1, 15));
-    EXPECT_EQ(layout.GetNextNotHiddenDay(DateTime::of(2024, 1, 14), true), DateTime::of(2024, 1, 12));
-    EXPECT_EQ(layout.GetNextNotHiddenDay(DateTime::of(2024, 1, 10), true), DateTime::of(2024, 1, 10));
+    EXPECT_EQ(layout.GetNextNotHiddenDay(DateTime::of(2024, 1, 13), grid::Layout::Direction::forward),
+              DateTime::of(2024, 1, 15));
+    EXPECT_EQ(layout.GetNextNotHiddenDay(DateTime::of(2024, 1, 14), grid::Layout::Direction::backward),
+              DateTime::of(2024, 1, 12));
+    EXPECT_EQ(layout.GetNextNotHiddenDay(DateTime::of(2024, 1, 10), grid::Layout::Direction::backward),
+              DateTime::of(2024, 1, 10));
     layout.DaysOff("1234567");
-    EXPECT_EQ(layout.GetNextNotHiddenDay(DateTime::of(2024, 1, 10), true), DateTime::of(2024, 1, 4));
+    EXPECT_EQ(layout.GetNextNotHiddenDay(DateTime::of(2024, 1, 10), grid::Layout::Direction::backward),
+              DateTime::of(2024, 1, 4));
 }
 
 TEST_F(LayoutTest, NamesTheYearOfTheFirstDay) {

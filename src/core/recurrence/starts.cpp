@@ -3,6 +3,7 @@
 #include "core/values/failure.h"
 
 #include <algorithm>
+#include <vector>
 
 namespace recurrence {
 
@@ -21,6 +22,18 @@ std::array<bool, Size> flags_of(int bits) {
         }
     }
     return flags;
+}
+
+// The numbers whose flags are set, rising.
+template <std::size_t Size>
+std::vector<int> numbers_of(const std::array<bool, Size>& flags) {
+    std::vector<int> numbers;
+    for (int number = 0; const bool is_set : flags) {
+        if (is_set)
+            numbers.push_back(number);
+        ++number;
+    }
+    return numbers;
 }
 
 int step_of(const Rule& rule) { return std::max(1, rule.frequency); }
@@ -111,44 +124,38 @@ void daily_starts(const Rule& rule, const ShownDates& shown, const Visitor& visi
 }
 
 void weekly_starts(const Rule& rule, const ShownDates& shown, const Visitor& visitor) {
-    const auto days = GetDays(rule.days_of_week);
     const int start = rule.start.weekday();
-    for (int day = 1; day <= 7; ++day)
-        if (days[day]) {
-            const DateTime anchor = rule.start.plus_days((day + 7 - start) % 7);
-            tell_every(anchor, std::int64_t{7} * step_of(rule), rule.until, shown, visitor);
-        }
+    for (const int day : numbers_of(GetDays(rule.days_of_week))) {
+        const DateTime anchor = rule.start.plus_days((day + 7 - start) % 7);
+        tell_every(anchor, std::int64_t{7} * step_of(rule), rule.until, shown, visitor);
+    }
 }
 
 void custom_starts(const Rule& rule, const ShownDates& shown, const Visitor& visitor) {
-    const auto days = GetUniqueDays(rule.days_of_month);
     const auto reached = first_in_shown_months(rule, shown);
     if (!reached)
         return;
     DateTime date = *reached;
-    for (int day = 1; day <= 31; ++day)
-        if (days[day]) {
-            date = DateTime::of(shown.StartDate.year(), date.month(), day);
-            tell_in_month(date, rule, shown, visitor);
-        }
+    for (const int day : numbers_of(GetUniqueDays(rule.days_of_month))) {
+        date = DateTime::of(shown.StartDate.year(), date.month(), day);
+        tell_in_month(date, rule, shown, visitor);
+    }
 }
 
 void monthly_starts(const Rule& rule, const ShownDates& shown, const Visitor& visitor) {
-    const auto days = GetDays(rule.days_of_week);
     const auto weeks = GetWeek(rule.weeks_of_month);
     const auto reached = first_in_shown_months(rule, shown);
     if (!reached)
         return;
     DateTime date = *reached;
-    for (int day = 1; day <= 7; ++day)
-        for (int week = 1; week <= 5; ++week)
-            if (days[day] && weeks[week]) {
-                const auto named = GetDateOfDay(day, week, rule.start.month(), date.year(), weeks[4]);
-                if (!named)
-                    throw values::Failure(values::FailureNumber::type_mismatch);
-                date = *named;
-                tell_in_month(date, rule, shown, visitor);
-            }
+    for (const int day : numbers_of(GetDays(rule.days_of_week)))
+        for (const int week : numbers_of(weeks)) {
+            const auto named = GetDateOfDay(day, week, rule.start.month(), date.year(), weeks[4]);
+            if (!named)
+                throw values::Failure(values::FailureNumber::type_mismatch);
+            date = *named;
+            tell_in_month(date, rule, shown, visitor);
+        }
 }
 
 } // namespace recurrence

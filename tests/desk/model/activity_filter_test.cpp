@@ -2,6 +2,7 @@
 
 #include "core/values/failure.h"
 #include "desk/windows/desk_fixture.h"
+#include "support/locales.h"
 
 using namespace model;
 using store::ActivityType;
@@ -58,7 +59,7 @@ TEST(ActivityFilterCodes, WhatIsSetIsReadBackTheSame) {
 }
 
 TEST(ActivityFilterCodes, ARangeIsReadInTheShortDatesOfTheLocale) {
-    const auto filter = filter_of({228, "6\\05.01.2024\\12.01.2024", ""}, values::german());
+    const auto filter = filter_of({228, "6\\05.01.2024\\12.01.2024", ""}, support::german());
     EXPECT_EQ(filter.period, Period::range);
     EXPECT_EQ(filter.from, DateTime::of(2024, 1, 5));
     EXPECT_EQ(filter.to, DateTime::of(2024, 1, 12));

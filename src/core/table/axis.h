@@ -28,8 +28,6 @@ public:
     // Where a line begins on the screen, that is with the lines from fixed() to first() rolled away under the
     // fixed ones: negative, or inside the fixed lines, for one of those.
     int position(int line) const;
-    // The line at a place on the screen, fixed lines first; -1 beyond the last one.
-    int at(int place) const;
 
 private:
     void keep_first_inside();

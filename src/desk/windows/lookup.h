@@ -33,7 +33,6 @@ public:
     bool go_to(const std::string& contact);
     void step(int places); // along the lookup, as far as it goes
 
-    bool is_everybody() const { return is_everybody_; }
     const std::vector<std::string>& contacts() const { return contacts_; } // in the database's order
     const std::string& current() const { return current_; }                // empty for none
     int position() const; // of the current contact in the lookup, from 0; -1 outside

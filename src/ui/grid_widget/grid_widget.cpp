@@ -169,11 +169,6 @@ void GridWidget::paintEvent(QPaintEvent*) {
                    hasFocus() ? picture::Marks::with_focus : picture::Marks::without_focus);
 }
 
-QSize GridWidget::viewportSizeHint() const {
-    return {picture::PixelLines::whole(model_.columns()).total_end(),
-            picture::PixelLines::whole(model_.rows()).total_end()};
-}
-
 void GridWidget::resizeEvent(QResizeEvent*) {
     lines_are_stale_ = true;
     sync_scroll_bars();

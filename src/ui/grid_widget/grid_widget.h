@@ -72,7 +72,6 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
-    QSize viewportSizeHint() const override;
     // Hands what is new to screen readers, where one listens.
     virtual void tell(const GridNews& news);
 

@@ -38,7 +38,7 @@ QRect GridPainter::Scene::extent() const { return QRect(0, 0, cols.total_end(), 
 bool GridPainter::Scene::is_marked(int row, int col) const {
     const bool is_title = row < rows.fixed() || col < cols.fixed();
     const bool several = table::selected_rows(model).count() > 1 || table::selected_cols(model).count() > 1;
-    return marks != Marks::none && several && !is_title && table::is_selected(model, row, col);
+    return several && !is_title && table::is_selected(model, row, col);
 }
 
 void GridPainter::paint(QPainter& painter, const QRect& area, const table::GridModel& model,
@@ -52,8 +52,7 @@ void GridPainter::paint(QPainter& painter, const QRect& area, const table::GridM
             paint_ground(scene, row, col);
             paint_contents(scene, row, col);
         }
-    if (marks != Marks::none)
-        paint_current_frame(scene);
+    paint_current_frame(scene);
 }
 
 // The line at the right and lower edge is the ground made darker, darker still at the end of the titles. It stands

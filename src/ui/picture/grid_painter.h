@@ -9,8 +9,8 @@
 
 namespace picture {
 
-// Whether the current cell and the selection are drawn, and how.
-enum class Marks { none, without_focus, with_focus };
+// How the current cell is framed.
+enum class Marks { without_focus, with_focus };
 
 // Draws a grid's cells.
 class GridPainter {

@@ -4,14 +4,13 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <limits>
 
 namespace picture {
 
-PixelLines::PixelLines(const table::Axis& axis, int first, int extent)
+PixelLines::PixelLines(const table::Axis& axis, int extent)
     : fixed_(std::min(axis.fixed(), axis.count())), extent_(extent) {
     const int count = axis.count();
-    first_ = std::clamp(first, fixed_, count);
+    first_ = std::clamp(axis.first(), fixed_, count);
     edges_.resize(static_cast<std::size_t>(count) + 1);
     for (int line = 0; line <= count; ++line)
         edges_[static_cast<std::size_t>(line)] = (axis.offset(line) + twips_per_pixel / 2) / twips_per_pixel;
@@ -24,10 +23,6 @@ PixelLines::PixelLines(const table::Axis& axis, int first, int extent)
         if ((line < fixed_ || line >= first_) && begin(line) < extent_)
             shown_.push_back(line);
     }
-}
-
-PixelLines PixelLines::whole(const table::Axis& axis) {
-    return PixelLines(axis, axis.fixed(), std::numeric_limits<int>::max());
 }
 
 bool PixelLines::shows(int line) const { return std::binary_search(shown_.begin(), shown_.end(), line); }

@@ -12,9 +12,7 @@ class PixelLines {
 public:
     PixelLines() = default;
     // The lines as they show in a view of that many pixels, scrolled as the axis says.
-    PixelLines(const table::Axis& axis, int extent) : PixelLines(axis, axis.first(), extent) {}
-    // All lines, nothing scrolled away.
-    static PixelLines whole(const table::Axis& axis);
+    PixelLines(const table::Axis& axis, int extent);
 
     int count() const { return static_cast<int>(edges_.size()) - 1; }
     int begin(int line) const { return edge(line) - (line < fixed_ ? 0 : rolled_); }
@@ -47,7 +45,6 @@ public:
     int first_to_show(int line) const;
 
 private:
-    PixelLines(const table::Axis& axis, int first, int extent);
     int edge(int line) const { return edges_[static_cast<std::size_t>(line)]; }
     int position_of(int line) const;
     int first_that_leaves_room_for(int line) const;

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "core/values/text.h"
 #include "support/grid_world.h"
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <string>
 #include <vector>
 
@@ -53,8 +53,8 @@ public:
         std::vector<std::string> rows;
         for (int row = 1; row < calendar.msgSched.Rows(); ++row) {
             const table::GridCell& cell = calendar.msgSched.cell(row, col);
-            const std::string picture(values::file_name(calendar.msgSched.picture_path(cell)));
-            rows.push_back((picture.empty() ? "" : picture.substr(0, picture.find('.')) + ":") + cell.text);
+            const std::filesystem::path picture(calendar.msgSched.picture_path(cell));
+            rows.push_back((picture.empty() ? "" : picture.stem().string() + ":") + cell.text);
         }
         return rows;
     }

@@ -34,8 +34,8 @@ TEST(GridDrag, DropsWhatIsDraggedWhereTheButtonIsLetGo) {
     EXPECT_EQ(grid.selection(), "2,3 to 2,3") << "a drag draws no selection";
     ASSERT_EQ(grid.moves.size(), 1u);
     ASSERT_EQ(grid.drops.size(), 1u);
-    EXPECT_EQ(grid.model.rows().at(grid.drops[0].y()), 5);
-    EXPECT_EQ(grid.model.columns().at(grid.drops[0].x()), 4);
+    EXPECT_EQ(support::line_at(grid.model.rows(), grid.drops[0].y()), 5);
+    EXPECT_EQ(support::line_at(grid.model.columns(), grid.drops[0].x()), 4);
 }
 
 TEST(GridDrag, DropsNothingOutsideTheGrid) {
@@ -170,8 +170,8 @@ TEST(GridDrag, DropsOnTheCellThatHasScrolledUnderThePointer) {
     EXPECT_GT(row, row_before);
     grid.let_go(place);
     ASSERT_EQ(grid.drops.size(), 1u);
-    EXPECT_EQ(grid.model.rows().at(grid.drops[0].y()), row);
-    EXPECT_EQ(grid.model.columns().at(grid.drops[0].x()), 4);
+    EXPECT_EQ(support::line_at(grid.model.rows(), grid.drops[0].y()), row);
+    EXPECT_EQ(support::line_at(grid.model.columns(), grid.drops[0].x()), 4);
 }
 
 TEST(GridDrag, TellsOfThePlaceAgainWhenTheGridHasScrolledUnderThePointer) {

@@ -1,5 +1,7 @@
 #include "ui/picture/pixel_lines.h"
 
+#include "support/line_at.h"
+
 #include <gtest/gtest.h>
 
 namespace {
@@ -115,21 +117,13 @@ TEST(PixelLines, FindTheBorderNearAPlace) {
     EXPECT_EQ(lines.border_at(64, 3), -1);
 }
 
-TEST(PixelLines, HoldAllLinesWhenWhole) {
-    table::Axis axis = sample_axis();
-    axis.set_first(5);
-    const PixelLines lines = PixelLines::whole(axis);
-    EXPECT_EQ(lines.shown().size(), 11u);
-    EXPECT_EQ(lines.begin(10), 380);
-}
-
 TEST(PixelLines, FindALineThatIsNoLargerThanATwip) {
     table::Axis axis = sample_axis();
     axis.set_size(1, 607);
     axis.set_size(2, 1);
     const PixelLines lines(axis, 200);
     ASSERT_EQ(lines.at(60), 2);
-    EXPECT_EQ(axis.at(lines.to_twips(60, axis)), 2);
+    EXPECT_EQ(support::line_at(axis, lines.to_twips(60, axis)), 2);
 }
 
 } // namespace

@@ -16,12 +16,12 @@ bool has_text(const store::Contact& contact, const std::string& lower_text, cons
 
 } // namespace
 
-Lookup::Lookup(OpenDatabase& session) : session_(session) {
-    connect(&session, &OpenDatabase::opened, this, [this] {
+Lookup::Lookup(OpenDatabase& database) : database_(database) {
+    connect(&database, &OpenDatabase::opened, this, [this] {
         is_everybody_ = true;
         members_.clear();
     });
-    connect(&session, &OpenDatabase::changed, this, &Lookup::reread);
+    connect(&database, &OpenDatabase::changed, this, &Lookup::reread);
     reread();
 }
 
@@ -32,7 +32,7 @@ void Lookup::show(const std::vector<std::string>& contacts) { replace(false, {co
 std::vector<std::string> Lookup::matching(const std::string& text, const std::vector<int>& fields) const {
     std::vector<std::string> found;
     const std::string lower_text = values::lower(text);
-    for (const store::Contact& contact : session_.directory().contacts())
+    for (const store::Contact& contact : database_.directory().contacts())
         if (has_text(contact, lower_text, fields))
             found.push_back(contact.id);
     return found;
@@ -47,7 +47,7 @@ void Lookup::include(const std::string& contact) {
 }
 
 bool Lookup::go_to(const std::string& contact) {
-    if (!session_.directory().contact(contact))
+    if (!database_.directory().contact(contact))
         return false;
     make_current(contact);
     return true;
@@ -69,7 +69,7 @@ int Lookup::position() const {
 void Lookup::reread() {
     fill();
     const std::string before = current_;
-    if (!session_.directory().contact(current_))
+    if (!database_.directory().contact(current_))
         current_ = contacts_.empty() ? std::string() : contacts_.front();
     emit changed();
     if (current_ != before)
@@ -78,7 +78,7 @@ void Lookup::reread() {
 
 void Lookup::fill() {
     contacts_.clear();
-    for (const store::Contact& contact : session_.directory().contacts())
+    for (const store::Contact& contact : database_.directory().contacts())
         if (is_everybody_ || members_.contains(contact.id))
             contacts_.push_back(contact.id);
 }

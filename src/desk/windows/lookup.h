@@ -16,7 +16,7 @@ class Lookup : public QObject {
     Q_OBJECT
 
 public:
-    explicit Lookup(OpenDatabase& session);
+    explicit Lookup(OpenDatabase& database);
 
     // Called before another contact is shown; what it throws keeps the present one.
     std::function<void()> before_leaving;
@@ -47,7 +47,7 @@ private:
     void make_current(std::string contact);
     void replace(bool is_everybody, std::set<std::string> members);
 
-    OpenDatabase& session_;
+    OpenDatabase& database_;
     bool is_everybody_ = true;
     std::set<std::string> members_;
     std::vector<std::string> contacts_;

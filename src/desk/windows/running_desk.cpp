@@ -8,21 +8,22 @@
 
 namespace windows {
 
-RunningDesk::RunningDesk(OpenDatabase& session, Lookup& lookup, ContactPage& page, const CommandTable& commands,
+RunningDesk::RunningDesk(OpenDatabase& database, Lookup& lookup, ContactPage& page, const CommandTable& commands,
                          ActivityCommands& activity_commands)
-    : session_(session), lookup_(lookup), page_(page), commands_(commands), activity_commands_(activity_commands) {
+    : database_(database), lookup_(lookup), page_(page), commands_(commands),
+      activity_commands_(activity_commands) {
     activity_commands_.on_awaited_dialog = [this] {
         if (on_activity_dialog)
             on_activity_dialog();
     };
-    QObject::connect(&session, &OpenDatabase::closed, &page, [this] {
+    QObject::connect(&database, &OpenDatabase::closed, &page, [this] {
         if (on_database_closed)
             on_database_closed();
     });
 }
 
 std::string RunningDesk::database_path() const {
-    return session_.is_open() ? std::filesystem::absolute(session_.path()).string() : std::string();
+    return database_.is_open() ? std::filesystem::absolute(database_.path()).string() : std::string();
 }
 
 model::ActivityDialog* RunningDesk::activity_dialog() { return activity_commands_.awaited_dialog(); }
@@ -36,7 +37,7 @@ std::string RunningDesk::active_tab() const { return page_.active_tab(); }
 void RunningDesk::set_active_tab(const std::string& name) { page_.set_active_tab(name); }
 
 void RunningDesk::create_lookup(const std::vector<std::string>& contacts) {
-    session_.refresh();
+    database_.refresh();
     lookup_.show(contacts);
 }
 
@@ -44,17 +45,17 @@ int RunningDesk::contact_count() const { return static_cast<int>(lookup_.contact
 
 // The caller may have written a moment ago, so the desk looks at the database before it answers.
 std::string RunningDesk::go_to(const std::string& contact) {
-    session_.refresh();
+    database_.refresh();
     lookup_.go_to(contact);
     return lookup_.current();
 }
 
 act::ListFilter RunningDesk::activity_filter() const {
-    return model::codes_of(page_.activities().filter(), session_.locale());
+    return model::codes_of(page_.activities().filter(), database_.locale());
 }
 
 void RunningDesk::set_activity_filter(const act::ListFilter& filter) {
-    page_.activities().set_filter(model::filter_of(filter, session_.locale()));
+    page_.activities().set_filter(model::filter_of(filter, database_.locale()));
 }
 
 int RunningDesk::activity_count() const { return page_.activities().row_count(); }

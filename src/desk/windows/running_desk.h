@@ -12,7 +12,7 @@ class ContactPage;
 // The windows as other programs see them.
 class RunningDesk : public model::Desk, private model::ContactView {
 public:
-    RunningDesk(OpenDatabase& session, Lookup& lookup, ContactPage& page, const CommandTable& commands,
+    RunningDesk(OpenDatabase& database, Lookup& lookup, ContactPage& page, const CommandTable& commands,
                 ActivityCommands& activity_commands);
 
     std::string database_path() const override;
@@ -32,7 +32,7 @@ private:
     store::Activity activity(int row) const override;
     void select_activity(int row, bool selected) override;
 
-    OpenDatabase& session_;
+    OpenDatabase& database_;
     Lookup& lookup_;
     ContactPage& page_;
     const CommandTable& commands_;

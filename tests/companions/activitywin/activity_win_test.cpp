@@ -68,8 +68,8 @@ protected:
     std::unique_ptr<host::Files> files = qt::make_files();
     std::unique_ptr<host::UserStore> user_store = make_user_store();
     settings::PerUserStore values{*user_store};
-    DeskWindow window{session, Import()};
-    OpenToolbarCommands toolbar{session};
+    DeskWindow window{database, Import()};
+    OpenToolbarCommands toolbar{database};
     service::Service service{window.desk(), toolbar, values::english_us()};
     QDBusConnection caller = bus.connection();
     ApplicationProxy application{contract::bus_name, contract::application_path, caller};

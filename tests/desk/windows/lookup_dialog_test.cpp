@@ -13,8 +13,8 @@ namespace {
 
 class LookupDialogTest : public DeskTest {
 protected:
-    LookupDialogTest() : lookup(session) {
-        session.open(path);
+    LookupDialogTest() : lookup(database) {
+        database.open(path);
         dialog = std::make_unique<LookupDialog>(lookup, nullptr);
         dialog->show();
         line = child<QLineEdit>(*dialog, "text_edit");

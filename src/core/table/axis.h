@@ -22,7 +22,7 @@ public:
     int size(int line) const { return sizes_[static_cast<std::size_t>(line)]; }
     void set_size(int line, int twips);
 
-    // Where a line begins, counted from the axis' own begin, as if nothing were scrolled.
+    // Where a line begins, counted from the axis' own beginning, as if nothing were scrolled.
     int offset(int line) const;
     int total() const { return offset(count()); }
     // Where a line begins on the screen, that is with the lines from fixed() to first() rolled away under the

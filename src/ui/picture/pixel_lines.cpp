@@ -41,14 +41,15 @@ int PixelLines::border_at(int place, int reach) const {
     return -1;
 }
 
-int PixelLines::to_twips(int place, const table::Axis& axis) const {
+int PixelLines::twips_from_pixels(int place, const table::Axis& axis) const {
     const int line = at(place);
     if (line >= 0) {
-        const int inside = (place - begin(line)) * twips_per_pixel + twips_per_pixel / 2;
+        const int inside = picture::twips_from_pixels(place - begin(line)) + twips_per_pixel / 2;
         return axis.position(line) + std::clamp(inside, std::min(1, axis.size(line) - 1), axis.size(line) - 1);
     }
     const int end_of_all = axis.total() - axis.offset(first_) + axis.offset(fixed_);
-    return place < 0 ? place * twips_per_pixel : std::max(place * twips_per_pixel, end_of_all + 1);
+    const int twips = picture::twips_from_pixels(place);
+    return place < 0 ? twips : std::max(twips, end_of_all + 1);
 }
 
 int PixelLines::position_of(int line) const {

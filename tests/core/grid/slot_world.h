@@ -68,7 +68,7 @@ private:
         for (int row = 1; row < model.Rows(); ++row)
             for (int col = layout.FixedCols; col < model.Cols(); ++col)
                 layout.Cells(row, col).Clear();
-        model.clear_contents(1, model.Rows() - 1, layout.FixedCols, model.Cols() - 1);
+        model.clear_contents({.rows = {1, model.Rows() - 1}, .cols = {layout.FixedCols, model.Cols() - 1}});
     }
 };
 

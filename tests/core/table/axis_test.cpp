@@ -8,7 +8,7 @@ using support::line_at;
 
 namespace {
 
-// Five lines behind one fixed one; the third is hidden.
+// Five lines after one fixed one; the third is hidden.
 //
 //   line      0    1    2    3    4    5
 //   size     30  100  100    0  100   50

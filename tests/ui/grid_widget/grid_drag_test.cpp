@@ -163,10 +163,10 @@ TEST(GridDrag, RestsAwayFromTheEdgesAndOnceTheButtonIsLetGo) {
 TEST(GridDrag, DropsOnTheCellThatHasScrolledUnderThePointer) {
     DraggedGrid grid(3, 3);
     const QPoint place(grid.x(4), grid.bottom());
-    const int row_before = grid.widget->cell_at(place).first;
+    const int row_before = grid.widget->cell_at(place).row;
     grid.draw_to(place);
     EXPECT_TRUE(QTest::qWaitFor([&grid] { return grid.model.TopRow() > 3; }));
-    const int row = grid.widget->cell_at(place).first;
+    const int row = grid.widget->cell_at(place).row;
     EXPECT_GT(row, row_before);
     grid.let_go(place);
     ASSERT_EQ(grid.drops.size(), 1u);
@@ -184,7 +184,7 @@ TEST(GridDrag, TellsOfThePlaceAgainWhenTheGridHasScrolledUnderThePointer) {
 TEST(GridDrag, DoesNotScrollUnderAPointerThatHasNotLeftItsCell) {
     WatchedGrid grid;
     grid.drags = true;
-    const int last_row = grid.widget->cell_at(QPoint(0, grid.view()->height() - 1)).first;
+    const int last_row = grid.widget->cell_at(QPoint(0, grid.view()->height() - 1)).row;
     const QPoint low(grid.middle_of(3, 3).x(), grid.view()->height() - 12);
     grid.model.RowHeight(last_row, 3000); // so that the last row that shows reaches far below the edge
     ShownGrid::settle();

@@ -36,8 +36,7 @@ private:
         image.setDevicePixelRatio(ratio);
         QPainter painter(&image);
         picture::GridPainter grid_painter(QApplication::font());
-        grid_painter.paint(painter, QRect(0, 0, 640, 400), model, picture::PixelLines(model.rows(), 400),
-                           picture::PixelLines(model.columns(), 640), marks);
+        grid_painter.paint(painter, QRect(0, 0, 640, 400), model, picture::View(model, {640, 400}), marks);
         return image;
     }
 };
@@ -313,8 +312,8 @@ TEST(GridPainter, RecordsTextAsText) {
     QPicture recording;
     QPainter painter(&recording);
     picture::GridPainter(QApplication::font())
-        .paint(painter, QRect(0, 0, 640, 400), page.model, picture::PixelLines(page.model.rows(), 400),
-               picture::PixelLines(page.model.columns(), 640), picture::Marks::without_focus);
+        .paint(painter, QRect(0, 0, 640, 400), page.model, picture::View(page.model, {640, 400}),
+               picture::Marks::without_focus);
     painter.end();
     const QByteArray raw(recording.data(), static_cast<qsizetype>(recording.size()));
     QByteArray wanted;

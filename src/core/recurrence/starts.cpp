@@ -43,7 +43,7 @@ void tell(DateTime start, const ShownDates& shown, const Visitor& visitor) {
         visitor.occurrence(start);
 }
 
-// The starts at `first` and every `step_days` after it. `first` itself is told even when it lies behind `until`.
+// The starts at `first` and every `step_days` after it. `first` itself is told even when it lies after `until`.
 void tell_every(DateTime first, std::int64_t step_days, DateTime until, const ShownDates& shown,
                 const Visitor& visitor) {
     tell(first, shown, visitor);
@@ -106,15 +106,14 @@ std::array<bool, 8> GetDays(int days_of_week_bits) { return flags_of<8>(days_of_
 std::array<bool, 6> GetWeek(int weeks_of_month_bits) { return flags_of<6>(weeks_of_month_bits); }
 std::array<bool, 32> GetUniqueDays(int days_of_month_bits) { return flags_of<32>(days_of_month_bits); }
 
-std::optional<DateTime> GetDateOfDay(int day, int week, int month, int year, bool week_4_flagged) {
-    const DateTime first = DateTime::of(year, month, 1);
+std::optional<DateTime> GetDateOfDay(const WeekdayOfMonth& wanted) {
+    const DateTime first = DateTime::of(wanted.year, wanted.month, 1);
     const int weekday = first.weekday();
-    if (day < weekday)
-        day += 7;
-    const DateTime result = first.plus_days(day - weekday + (week - 1) * 7);
-    if (week != 5 || result.month() <= month)
+    const int day = wanted.day < weekday ? wanted.day + 7 : wanted.day;
+    const DateTime result = first.plus_days(day - weekday + (wanted.week - 1) * 7);
+    if (wanted.week != 5 || result.month() <= wanted.month)
         return result;
-    if (week_4_flagged)
+    if (wanted.week_4_flagged)
         return std::nullopt;
     return result.plus_days(-7);
 }
@@ -150,7 +149,11 @@ void monthly_starts(const Rule& rule, const ShownDates& shown, const Visitor& vi
     DateTime date = *reached;
     for (const int day : numbers_of(GetDays(rule.days_of_week)))
         for (const int week : numbers_of(weeks)) {
-            const auto named = GetDateOfDay(day, week, rule.start.month(), date.year(), weeks[4]);
+            const auto named = GetDateOfDay({.day = day,
+                                             .week = week,
+                                             .month = rule.start.month(),
+                                             .year = date.year(),
+                                             .week_4_flagged = weeks[4]});
             if (!named)
                 throw values::Failure(values::FailureNumber::type_mismatch);
             date = *named;

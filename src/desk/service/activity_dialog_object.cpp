@@ -27,8 +27,13 @@ void ActivityDialogObject::Fill(const QString& type, const QString& date, const 
     answer(*this, [&] {
         if (!dialog().is_new())
             model::refuse("The activity is stored already; its fields aren't filled.");
-        dialog().fill({from_wire(type), from_wire(date), from_wire(time), from_wire(duration),
-                       from_wire(regarding), from_wire(priority), from_wire(scheduled_for)});
+        dialog().fill({.type = from_wire(type),
+                       .date = from_wire(date),
+                       .time = from_wire(time),
+                       .duration = from_wire(duration),
+                       .regarding = from_wire(regarding),
+                       .priority = from_wire(priority),
+                       .scheduled_for = from_wire(scheduled_for)});
     });
 }
 

@@ -64,7 +64,7 @@ void DatabaseCommands::create() {
 // Activities are scheduled for users, so a database begins with one.
 void DatabaseCommands::make(const std::string& path, const std::string& user) {
     database_.create(path);
-    database_.store().add(store::User{{}, user, "Administrator", "Enabled"});
+    database_.store().add(store::User{.name = user, .security = "Administrator", .access = "Enabled"});
     database_.refresh();
 }
 
@@ -100,7 +100,7 @@ void DatabaseCommands::add_user() {
     if (name.isEmpty())
         return;
     attempt(&window_, [&] {
-        database_.store().add(store::User{{}, stored(name), "Standard", "Enabled"});
+        database_.store().add(store::User{.name = stored(name), .security = "Standard", .access = "Enabled"});
         database_.refresh();
     });
 }

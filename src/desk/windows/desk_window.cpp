@@ -45,7 +45,9 @@ DeskWindow::DeskWindow(OpenDatabase& database, Import import)
     connect_contact_menu();
     connect_schedule_menu();
     connect_view_menu();
-    desk_ = std::make_unique<RunningDesk>(database_, lookup_, *contact_page_, commands_, activity_commands_);
+    desk_ = std::make_unique<RunningDesk>(
+        database_, RunningDesk::Shown{.lookup = lookup_, .page = *contact_page_},
+        RunningDesk::Commands{.by_number = commands_, .on_activities = activity_commands_});
     fill_commands();
     connect(&database_, &OpenDatabase::opened, this, [this] { show_view(contact_list_); });
     connect(&database_, &OpenDatabase::closed, this, [this] { show_view(ui_->start_page); });

@@ -70,7 +70,7 @@ void GroupsView::add_group() {
     const QString name = QInputDialog::getText(this, tr("New Group"), tr("Name of the group:")).trimmed();
     if (name.isEmpty())
         return;
-    const std::string id = database_.store().add(store::Group{{}, stored(name), {}});
+    const std::string id = database_.store().add(store::Group{.name = stored(name)});
     database_.refresh();
     ui_->group_table->select(id);
 }

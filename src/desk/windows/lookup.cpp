@@ -17,17 +17,16 @@ bool has_text(const store::Contact& contact, const std::string& lower_text, cons
 } // namespace
 
 Lookup::Lookup(OpenDatabase& database) : database_(database) {
-    connect(&database, &OpenDatabase::opened, this, [this] {
-        is_everybody_ = true;
-        members_.clear();
-    });
+    connect(&database, &OpenDatabase::opened, this, [this] { members_.reset(); });
     connect(&database, &OpenDatabase::changed, this, &Lookup::reread);
     reread();
 }
 
-void Lookup::show_all() { replace(true, {}); }
+void Lookup::show_all() { replace(std::nullopt); }
 
-void Lookup::show(const std::vector<std::string>& contacts) { replace(false, {contacts.begin(), contacts.end()}); }
+void Lookup::show(const std::vector<std::string>& contacts) {
+    replace(std::set(contacts.begin(), contacts.end()));
+}
 
 std::vector<std::string> Lookup::matching(const std::string& text, const std::vector<int>& fields) const {
     std::vector<std::string> found;
@@ -39,8 +38,8 @@ std::vector<std::string> Lookup::matching(const std::string& text, const std::ve
 }
 
 void Lookup::include(const std::string& contact) {
-    if (!is_everybody_)
-        members_.insert(contact);
+    if (members_)
+        members_->insert(contact);
     fill();
     emit changed();
     go_to(contact);
@@ -79,11 +78,11 @@ void Lookup::reread() {
 void Lookup::fill() {
     contacts_.clear();
     for (const store::Contact& contact : database_.directory().contacts())
-        if (is_everybody_ || members_.contains(contact.id))
+        if (!members_ || members_->contains(contact.id))
             contacts_.push_back(contact.id);
 }
 
-// The id is a copy: leaving may store what was typed, and the lookup is then filled anew.
+// The id is a copy: leaving may store what was typed, and the lookup is then filled again.
 void Lookup::make_current(std::string contact) {
     if (before_leaving)
         before_leaving();
@@ -93,10 +92,9 @@ void Lookup::make_current(std::string contact) {
     emit current_changed();
 }
 
-void Lookup::replace(bool is_everybody, std::set<std::string> members) {
+void Lookup::replace(std::optional<std::set<std::string>> members) {
     if (before_leaving)
         before_leaving();
-    is_everybody_ = is_everybody;
     members_ = std::move(members);
     fill();
     emit changed();

@@ -5,6 +5,7 @@
 #include <QObject>
 
 #include <functional>
+#include <optional>
 #include <set>
 #include <string>
 #include <vector>
@@ -45,11 +46,10 @@ private:
     void reread();
     void fill();
     void make_current(std::string contact);
-    void replace(bool is_everybody, std::set<std::string> members);
+    void replace(std::optional<std::set<std::string>> members);
 
     OpenDatabase& database_;
-    bool is_everybody_ = true;
-    std::set<std::string> members_;
+    std::optional<std::set<std::string>> members_; // absent for all contacts
     std::vector<std::string> contacts_;
     std::string current_;
 };

@@ -10,7 +10,7 @@ namespace windows {
 NotesTab::NotesTab(OpenDatabase& database, QWidget* parent)
     : QWidget(parent), database_(database), ui_(std::make_unique<Ui::NotesTab>()) {
     ui_->setupUi(this);
-    ui_->note_table->set_columns(note_columns(), -1);
+    ui_->note_table->set_columns(note_columns());
     ui_->splitter->setSizes({3, 2});
     connect(ui_->note_table, &RecordTable::chosen, this, &NotesTab::show_note);
     connect(ui_->draft_edit, &QPlainTextEdit::textChanged, this,
@@ -34,7 +34,8 @@ void NotesTab::show_contact(const std::string& contact) {
 void NotesTab::save_draft() {
     if (!has_draft())
         return;
-    database_.store().add(store::Note{{}, contact_, database_.now(), stored(ui_->draft_edit->toPlainText())});
+    database_.store().add(store::Note{
+        .contact = contact_, .written = database_.now(), .text = stored(ui_->draft_edit->toPlainText())});
     ui_->draft_edit->clear();
     reload();
 }

@@ -18,7 +18,8 @@ class RunningDeskTest : public DeskTest {
 protected:
     RunningDeskTest()
         : lookup(database), page(database, lookup), activity_commands(database, lookup, page),
-          desk(database, lookup, page, commands, activity_commands) {
+          desk(database, {.lookup = lookup, .page = page},
+               {.by_number = commands, .on_activities = activity_commands}) {
         database.open(path);
     }
     model::ContactView& view() { return desk.contact_view(); }

@@ -39,7 +39,7 @@ protected:
     }
 
     std::unique_ptr<host::UserStore> make_user_store() {
-        qputenv("XDG_CONFIG_HOME", folder.path().toUtf8());
+        qputenv("XDG_CONFIG_HOME", folder.path().c_str());
         return qt::make_user_store(*files);
     }
     void start_companion() { EXPECT_TRUE(qt::make_shell()->start_companion("ActivityWin")); }

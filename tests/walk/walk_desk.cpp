@@ -28,9 +28,9 @@ int main(int argc, char** argv) {
         return 2;
     support::FakeMailProgram mail;
     const auto bus = QDBusConnection::connectToBus(QString::fromLocal8Bit(argv[1]), "walk_desk");
-    windows::OpenDatabase session(values::english_us());
-    windows::DeskWindow window(session, import_nothing);
-    windows::OpenToolbarCommands toolbar_commands(session);
+    windows::OpenDatabase database(values::english_us());
+    windows::DeskWindow window(database, import_nothing);
+    windows::OpenToolbarCommands toolbar_commands(database);
     service::Service service(window.desk(), toolbar_commands, values::english_us());
     window.show();
     window.open(argv[2]);

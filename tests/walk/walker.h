@@ -1,6 +1,6 @@
 #pragma once
 
-#include "adapters/bus/application_bridge.h"
+#include "adapters/bus/application_link.h"
 #include "adapters/qt/qt_clock.h"
 #include "adapters/qt/qt_files.h"
 #include "adapters/qt/qt_folders.h"
@@ -31,7 +31,7 @@ public:
     OpenCalendar(const QDBusConnection& bus, const std::string& folder);
 
     ui::frmMain& window() { return window_; }
-    bool waits_for_desk() const { return bus::command_waits(*link_); }
+    bool waits_for_desk() const { return link_->waits(); }
     bool has_ended() const { return process_.has_ended; }
 
 private:

@@ -18,8 +18,6 @@ namespace bus {
 // What the objects below share: the way to the desk, and whether a command waits.
 class Link;
 std::shared_ptr<Link> make_link(const QDBusConnection& bus);
-// Whether a command waits right now, for who drives the program from outside its procedures.
-bool command_waits(const Link& link);
 // A command that waits returns as if its dialog had been closed, which stays open: for a program that has to end.
 void abandon_command(Link& link);
 

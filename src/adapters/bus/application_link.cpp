@@ -117,8 +117,6 @@ void Link::wait_for(act::CommandNumber number) {
 
 std::shared_ptr<Link> make_link(const QDBusConnection& bus) { return std::make_shared<Link>(bus); }
 
-bool command_waits(const Link& link) { return link.waits(); }
-
 void abandon_command(Link& link) { link.abandon(); }
 
 } // namespace bus

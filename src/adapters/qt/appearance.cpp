@@ -8,7 +8,7 @@ namespace qt {
 
 namespace {
 
-// Buttons of boxes bear their captions alone.
+// Buttons of boxes show their captions alone, no icons.
 class PlainButtons : public QProxyStyle {
 public:
     PlainButtons() : QProxyStyle("Fusion") {}

@@ -55,7 +55,7 @@ private:
     static void hear(int number, struct sigaction& former) {
         struct sigaction action = {};
         action.sa_handler = pass_signal_on;
-        action.sa_flags = SA_RESTART | SA_RESETHAND;
+        action.sa_flags = static_cast<int>(SA_RESTART | SA_RESETHAND); // the system's headers give it as unsigned
         ::sigemptyset(&action.sa_mask);
         ::sigaction(number, &action, &former);
         if (former.sa_handler == SIG_IGN)

@@ -48,7 +48,7 @@ private:
         }
         late_.stop();
         running_ = true;
-        const std::function<void()> tick = tick_; // the call may start the timer anew
+        const std::function<void()> tick = tick_; // the call may start the timer again
         tick();
         running_ = false;
     }

@@ -13,7 +13,7 @@ namespace {
 
 constexpr int lock_milliseconds = 5000;
 
-// The file behind the links, so that a link stays one.
+// The file that the links lead to, so that a link stays one.
 QString target_of(const QString& path) {
     const QFileInfo info(path);
     return info.exists() ? info.canonicalFilePath() : path;

@@ -6,7 +6,7 @@
 
 namespace qt {
 
-// Files of the machine. A lock is a file beside the locked one, with ".lock" behind its name.
+// Files of the machine. A lock is a file beside the locked one, with ".lock" appended to its name.
 std::unique_ptr<host::Files> make_files();
 
 } // namespace qt

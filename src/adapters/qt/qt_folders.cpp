@@ -3,7 +3,6 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
-#include <QFileInfo>
 #include <QStandardPaths>
 #include <QTemporaryFile>
 
@@ -39,9 +38,6 @@ public:
         folder_ = own.toStdString();
     }
     std::string program_folder() const override { return folder_; }
-    bool exists(const std::string& path) const override {
-        return !path.empty() && QFileInfo::exists(QString::fromStdString(path));
-    }
 
 private:
     std::string folder_;

@@ -64,10 +64,13 @@ values::Locale locale_from(const QLocale& locale) {
     result.long_time = time_pattern(locale.timeFormat(QLocale::LongFormat)).toStdString();
     result.am = text_or(locale.amText(), "AM");
     result.pm = text_or(locale.pmText(), "PM");
-    for (int day = 0; day < 7; ++day) // the toolkit counts from Monday, 1, to Sunday, 7
-        result.weekdays[day] = locale.standaloneDayName(day == 0 ? 7 : day).toStdString();
-    for (int month = 0; month < 12; ++month)
-        result.months[month] = locale.standaloneMonthName(month + 1).toStdString();
+    // The toolkit counts from Monday, 1, to Sunday, 7.
+    for (int day = 7; std::string & name : result.weekdays) {
+        name = locale.standaloneDayName(day).toStdString();
+        day = day % 7 + 1;
+    }
+    for (int month = 1; std::string & name : result.months)
+        name = locale.standaloneMonthName(month++).toStdString();
     const QString point = locale.decimalPoint();
     result.decimal_point = point.size() == 1 && point[0].unicode() < 128 ? point[0].toLatin1() : '.';
     return result;

@@ -50,9 +50,9 @@ int run(const apps::ShowWindow& task, int argc, char** argv) {
     QApplication::setApplicationVersion(CONTACT_DESK_VERSION);
     qt::dress(application);
     const values::Locale locale = qt::system_locale();
-    windows::OpenDatabase session(locale);
-    windows::DeskWindow window(session, import_for_window);
-    windows::OpenToolbarCommands toolbar_commands(session);
+    windows::OpenDatabase database(locale);
+    windows::DeskWindow window(database, import_for_window);
+    windows::OpenToolbarCommands toolbar_commands(database);
     service::Service service(window.desk(), toolbar_commands, locale);
     window.show();
     if (!task.database.empty())

@@ -35,7 +35,7 @@ struct UsageError : std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
-// What the arguments, without the program's own name, ask for. A "--" makes everything behind it a file name.
+// What the arguments, without the program's own name, ask for. A "--" makes everything after it a file name.
 // Throws UsageError.
 Task task_of(const std::vector<std::string>& arguments);
 

@@ -203,7 +203,7 @@ void QuickRefresh::Erase_Slot(std::string_view id) {
             if (!cell.ActivityID().starts_with(id))
                 continue;
             step = 20;
-            grid_.msgSched.clear_contents(cell.Row(), cell.Row(), cell.Col(), cell.Col());
+            grid_.msgSched.clear_contents({.rows = {cell.Row(), cell.Row()}, .cols = {cell.Col(), cell.Col()}});
             step = 30;
             placing_.DisplayedIDs.remove(id);
             return;

@@ -80,7 +80,7 @@ void Refresh::clear_cells() {
             cell.DependsOnActivityX(0);
             cell.DependsOnActivityY(0);
         }
-    grid_.msgSched.clear_contents(1, last_row, first_col, last_col);
+    grid_.msgSched.clear_contents({.rows = {1, last_row}, .cols = {first_col, last_col}});
 }
 
 void Refresh::filter_list(act::Activity& activity) const {
@@ -117,7 +117,7 @@ void Refresh::place_plain_activities(act::Activity& activity) {
 void Refresh::Clear_Msg(int row_from, int row_to, int col_from, int col_to) {
     here_.guarded("in modRefresh: Sub Clear_Msg - Line # ", [&](host::Step& step) {
         step = 10;
-        grid_.msgSched.clear_contents(row_from, row_to, col_from, col_to);
+        grid_.msgSched.clear_contents({.rows = {row_from, row_to}, .cols = {col_from, col_to}});
     });
 }
 

@@ -13,8 +13,6 @@ public:
     virtual std::string program_folder() const = 0;
     // The full path of a name in the program's folder.
     std::string in_program_folder(const std::string& name) const { return program_folder() + "/" + name; }
-    // True for a file or a folder that is there.
-    virtual bool exists(const std::string& path) const = 0;
 };
 
 } // namespace host

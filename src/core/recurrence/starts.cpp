@@ -3,6 +3,7 @@
 #include "core/values/failure.h"
 
 #include <algorithm>
+#include <vector>
 
 namespace recurrence {
 
@@ -23,6 +24,18 @@ std::array<bool, Size> flags_of(int bits) {
     return flags;
 }
 
+// The numbers whose flags are set, rising.
+template <std::size_t Size>
+std::vector<int> numbers_of(const std::array<bool, Size>& flags) {
+    std::vector<int> numbers;
+    for (int number = 0; const bool is_set : flags) {
+        if (is_set)
+            numbers.push_back(number);
+        ++number;
+    }
+    return numbers;
+}
+
 int step_of(const Rule& rule) { return std::max(1, rule.frequency); }
 
 void tell(DateTime start, const ShownDates& shown, const Visitor& visitor) {
@@ -30,7 +43,7 @@ void tell(DateTime start, const ShownDates& shown, const Visitor& visitor) {
         visitor.occurrence(start);
 }
 
-// The starts at `first` and every `step_days` after it. `first` itself is told even when it lies behind `until`.
+// The starts at `first` and every `step_days` after it. `first` itself is told even when it lies after `until`.
 void tell_every(DateTime first, std::int64_t step_days, DateTime until, const ShownDates& shown,
                 const Visitor& visitor) {
     tell(first, shown, visitor);
@@ -93,15 +106,14 @@ std::array<bool, 8> GetDays(int days_of_week_bits) { return flags_of<8>(days_of_
 std::array<bool, 6> GetWeek(int weeks_of_month_bits) { return flags_of<6>(weeks_of_month_bits); }
 std::array<bool, 32> GetUniqueDays(int days_of_month_bits) { return flags_of<32>(days_of_month_bits); }
 
-std::optional<DateTime> GetDateOfDay(int day, int week, int month, int year, bool week_4_flagged) {
-    const DateTime first = DateTime::of(year, month, 1);
+std::optional<DateTime> GetDateOfDay(const WeekdayOfMonth& wanted) {
+    const DateTime first = DateTime::of(wanted.year, wanted.month, 1);
     const int weekday = first.weekday();
-    if (day < weekday)
-        day += 7;
-    const DateTime result = first.plus_days(day - weekday + (week - 1) * 7);
-    if (week != 5 || result.month() <= month)
+    const int day = wanted.day < weekday ? wanted.day + 7 : wanted.day;
+    const DateTime result = first.plus_days(day - weekday + (wanted.week - 1) * 7);
+    if (wanted.week != 5 || result.month() <= wanted.month)
         return result;
-    if (week_4_flagged)
+    if (wanted.week_4_flagged)
         return std::nullopt;
     return result.plus_days(-7);
 }
@@ -111,44 +123,42 @@ void daily_starts(const Rule& rule, const ShownDates& shown, const Visitor& visi
 }
 
 void weekly_starts(const Rule& rule, const ShownDates& shown, const Visitor& visitor) {
-    const auto days = GetDays(rule.days_of_week);
     const int start = rule.start.weekday();
-    for (int day = 1; day <= 7; ++day)
-        if (days[day]) {
-            const DateTime anchor = rule.start.plus_days((day + 7 - start) % 7);
-            tell_every(anchor, std::int64_t{7} * step_of(rule), rule.until, shown, visitor);
-        }
+    for (const int day : numbers_of(GetDays(rule.days_of_week))) {
+        const DateTime anchor = rule.start.plus_days((day + 7 - start) % 7);
+        tell_every(anchor, std::int64_t{7} * step_of(rule), rule.until, shown, visitor);
+    }
 }
 
 void custom_starts(const Rule& rule, const ShownDates& shown, const Visitor& visitor) {
-    const auto days = GetUniqueDays(rule.days_of_month);
     const auto reached = first_in_shown_months(rule, shown);
     if (!reached)
         return;
     DateTime date = *reached;
-    for (int day = 1; day <= 31; ++day)
-        if (days[day]) {
-            date = DateTime::of(shown.StartDate.year(), date.month(), day);
-            tell_in_month(date, rule, shown, visitor);
-        }
+    for (const int day : numbers_of(GetUniqueDays(rule.days_of_month))) {
+        date = DateTime::of(shown.StartDate.year(), date.month(), day);
+        tell_in_month(date, rule, shown, visitor);
+    }
 }
 
 void monthly_starts(const Rule& rule, const ShownDates& shown, const Visitor& visitor) {
-    const auto days = GetDays(rule.days_of_week);
     const auto weeks = GetWeek(rule.weeks_of_month);
     const auto reached = first_in_shown_months(rule, shown);
     if (!reached)
         return;
     DateTime date = *reached;
-    for (int day = 1; day <= 7; ++day)
-        for (int week = 1; week <= 5; ++week)
-            if (days[day] && weeks[week]) {
-                const auto named = GetDateOfDay(day, week, rule.start.month(), date.year(), weeks[4]);
-                if (!named)
-                    throw values::Failure(values::FailureNumber::type_mismatch);
-                date = *named;
-                tell_in_month(date, rule, shown, visitor);
-            }
+    for (const int day : numbers_of(GetDays(rule.days_of_week)))
+        for (const int week : numbers_of(weeks)) {
+            const auto named = GetDateOfDay({.day = day,
+                                             .week = week,
+                                             .month = rule.start.month(),
+                                             .year = date.year(),
+                                             .week_4_flagged = weeks[4]});
+            if (!named)
+                throw values::Failure(values::FailureNumber::type_mismatch);
+            date = *named;
+            tell_in_month(date, rule, shown, visitor);
+        }
 }
 
 } // namespace recurrence

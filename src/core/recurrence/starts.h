@@ -48,9 +48,18 @@ std::array<bool, 8> GetDays(int days_of_week_bits);
 std::array<bool, 6> GetWeek(int weeks_of_month_bits);
 std::array<bool, 32> GetUniqueDays(int days_of_month_bits);
 
-// The date of a weekday in a week of a month. A fifth week that the month doesn't have gives the fourth, or
-// nothing where week 4 is flagged itself; in December it runs on into January.
-std::optional<DateTime> GetDateOfDay(int day, int week, int month, int year, bool week_4_flagged);
+// A weekday in a week of a month.
+struct WeekdayOfMonth {
+    int day;  // 1 Sunday to 7 Saturday
+    int week; // 1 the first to 5 the fifth
+    int month;
+    int year;
+    bool week_4_flagged = false; // the rule names the fourth week too
+};
+
+// Its date. A fifth week that the month doesn't have gives the fourth, or nothing where week 4 is flagged itself;
+// in December it runs on into January.
+std::optional<DateTime> GetDateOfDay(const WeekdayOfMonth& wanted);
 
 void daily_starts(const Rule& rule, const ShownDates& shown, const Visitor& visitor);
 void weekly_starts(const Rule& rule, const ShownDates& shown, const Visitor& visitor);

@@ -37,15 +37,4 @@ int Axis::position(int line) const {
     return line < fixed_ ? offset(line) : offset(fixed_) + offset(line) - offset(first_);
 }
 
-int Axis::at(int place) const {
-    if (place < 0 || count() == 0)
-        return -1;
-    if (place >= offset(fixed_))
-        place += offset(first_) - offset(fixed_);
-    if (place >= total())
-        return -1;
-    // Of lines that begin at the same place all but the last are hidden.
-    return static_cast<int>(std::upper_bound(offsets_.begin(), offsets_.end(), place) - offsets_.begin()) - 1;
-}
-
 } // namespace table

@@ -22,14 +22,12 @@ public:
     int size(int line) const { return sizes_[static_cast<std::size_t>(line)]; }
     void set_size(int line, int twips);
 
-    // Where a line begins, counted from the axis' own begin, as if nothing were scrolled.
+    // Where a line begins, counted from the axis' own beginning, as if nothing were scrolled.
     int offset(int line) const;
     int total() const { return offset(count()); }
     // Where a line begins on the screen, that is with the lines from fixed() to first() rolled away under the
     // fixed ones: negative, or inside the fixed lines, for one of those.
     int position(int line) const;
-    // The line at a place on the screen, fixed lines first; -1 beyond the last one.
-    int at(int place) const;
 
 private:
     void keep_first_inside();

@@ -122,18 +122,20 @@ void GridModel::Clear() {
     notify(GridChange::cells);
 }
 
-void GridModel::clear_contents(int row_from, int row_to, int col_from, int col_to) {
-    if (row_from > row_to || col_from > col_to)
+void GridModel::clear_contents(const CellRange& cells) {
+    const auto& [rows, cols] = cells;
+    if (cells.count() == 0)
         return;
-    require_index(rows_.holds(row_from) && rows_.holds(row_to) && cols_.holds(col_from) && cols_.holds(col_to));
-    for (int row = row_from; row <= row_to; ++row)
-        for (int col = col_from; col <= col_to; ++col) {
+    require_index(rows_.holds(rows.first) && rows_.holds(rows.last) && cols_.holds(cols.first) &&
+                  cols_.holds(cols.last));
+    for (int row = rows.first; row <= rows.last; ++row)
+        for (int col = cols.first; col <= cols.last; ++col) {
             GridCell& cell = cells_[index(row, col)];
             cell.text.clear();
             cell.picture = 0;
         }
     notify(GridChange::cells);
-    move_to(row_to, col_to);
+    move_to(rows.last, cols.last);
 }
 
 int GridModel::RowHeight(int row) const {

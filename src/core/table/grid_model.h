@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/table/axis.h"
+#include "core/table/cell_range.h"
 
 #include <cstdint>
 #include <string>
@@ -23,13 +24,6 @@ enum class Alignment : std::uint8_t {
     right_top = 6,
     right_centre = 7,
     right_bottom = 8,
-};
-
-// Where a cell stands.
-struct Place {
-    int row = 0;
-    int col = 0;
-    friend bool operator==(const Place&, const Place&) = default;
 };
 
 // What one cell shows.
@@ -117,9 +111,9 @@ public:
 
     // Every cell as new: no text, picture, colour, alignment or font of its own. Sizes stay.
     void Clear();
-    // No text and no picture in the cells of a range, ends included; the range's last cell is the current one
-    // then. An empty range changes nothing.
-    void clear_contents(int row_from, int row_to, int col_from, int col_to);
+    // No text and no picture in the cells of a range; its last cell is the current one then. An empty range
+    // changes nothing.
+    void clear_contents(const CellRange& cells);
 
     // The colours of the cells that have none of their own.
     Colour ForeColor() const { return fore_colour_; }
@@ -134,7 +128,7 @@ public:
     // The top edge of a row and the left edge of a column on the screen, with the scroll position counted in.
     int RowPos(int row) const;
     int ColPos(int col) const;
-    // The first row and column shown behind the fixed ones.
+    // The first row and column shown after the fixed ones.
     int TopRow() const { return rows_.first(); }
     int LeftCol() const { return cols_.first(); }
     void TopRow(int row); // fails with 380 in the fixed rows or outside the grid

@@ -59,17 +59,17 @@ HalfDay half_of(const Token& token, const Locale& locale) {
 // Reads the time that begins with the first token, such as "9:05", "9:05:30 PM" or "9 AM", and gives how many
 // tokens it takes; 0 when none begins there.
 std::size_t read_time(Tokens tokens, const Locale& locale, DateParts& parts) {
-    const auto number_behind_colon = [&](std::size_t at) {
+    const auto number_after_colon = [&](std::size_t at) {
         return at + 1 < tokens.size() && tokens[at].is(":") && tokens[at + 1].is_number() &&
                tokens[at + 1].text.size() <= 2;
     };
     if (!tokens[0].is_number() || tokens[0].text.size() > 2)
         return 0;
     std::size_t length = 1;
-    if (number_behind_colon(1)) {
+    if (number_after_colon(1)) {
         parts.minute = tokens[2].number();
         length = 3;
-        if (number_behind_colon(3)) {
+        if (number_after_colon(3)) {
             parts.second = tokens[4].number();
             length = 5;
         }
@@ -162,7 +162,7 @@ std::optional<DateTime> date_from_digits(std::string_view digits, DateParts part
 std::optional<DateTime> read_date(Tokens tokens, const Locale& locale, const DateParts& parts) {
     std::vector<Token> numbers;
     int month = 0;
-    bool separated = true; // a mark stands only behind a number or a word, and never last
+    bool separated = true; // a mark stands only after a number or a word, and never last
     for (const Token& token : tokens) {
         if (token.kind == Kind::mark) {
             if (separated || !contains("/-.,", token.text))
@@ -201,14 +201,14 @@ std::optional<DateTime> read_freely(std::string_view text, const Locale& locale)
         if (length == 0)
             continue;
         Tokens before = tokens.first(i);
-        const Tokens behind = tokens.subspan(i + length);
+        const Tokens after = tokens.subspan(i + length);
         if (!before.empty() && (before.back().is("T") || before.back().is(",")))
             before = before.first(before.size() - 1);
-        if (!before.empty() && !behind.empty())
+        if (!before.empty() && !after.empty())
             return std::nullopt;
-        if (before.empty() && behind.empty())
+        if (before.empty() && after.empty())
             return i == 0 ? date_of(parts) : std::nullopt;
-        return read_date(before.empty() ? behind : before, locale, parts);
+        return read_date(before.empty() ? after : before, locale, parts);
     }
     return read_date(tokens, locale, {});
 }

@@ -8,11 +8,11 @@ namespace values {
 
 // A wall-clock date and time: whole seconds since 1899-12-30 00:00. It knows no time zone, so daylight saving
 // can't move an activity. The default value is the empty date, shown as 12:00:00 AM. Dates run from the year 100
-// to 9999; reckoning that leaves them fails with 5.
+// to 9999; arithmetic that leaves them fails with 5.
 class DateTime {
 public:
     constexpr DateTime() = default;
-    // Takes what is no date too, as a database can hold it, but nothing further away than days can be reckoned.
+    // Takes what is no date too, as a database can hold it, but nothing further away than days can be counted.
     static constexpr DateTime from_seconds(std::int64_t seconds) {
         constexpr std::int64_t furthest = 86400 * (std::int64_t{1} << 40); // whole days
         DateTime result;

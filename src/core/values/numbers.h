@@ -5,9 +5,9 @@
 #include <string>
 #include <string_view>
 
-// Numbers from text and back, as the platform converts them: blanks round a number are allowed, halves round to
+// Numbers from text and back, as the platform converts them: blanks around a number are allowed, halves round to
 // even, a text that is no number fails with 13 and one out of range with 6. "&H" texts are hexadecimal: up to four
-// digits make a signed number of 16 bits, up to eight one of 32 bits, so that "&HFFFF" is -1; with "&" behind them
+// digits make a signed number of 16 bits, up to eight one of 32 bits, so that "&HFFFF" is -1; with "&" after them
 // the 16-bit form isn't taken and "&HFFFF&" is 65535.
 namespace values {
 

@@ -125,9 +125,4 @@ std::optional<std::string> windows_1252_from_utf8(std::string_view text) {
     return bytes;
 }
 
-std::string_view file_name(std::string_view path) {
-    const std::size_t separator = path.find_last_of("\\/");
-    return separator == path.npos ? path : path.substr(separator + 1);
-}
-
 } // namespace values

@@ -25,7 +25,4 @@ std::string utf8_from_windows_1252(std::string_view bytes);
 // Absent when a character isn't in that code page.
 std::optional<std::string> windows_1252_from_utf8(std::string_view text);
 
-// The file name of a stored path, which may use "\" or "/".
-std::string_view file_name(std::string_view path);
-
 } // namespace values

@@ -16,11 +16,10 @@ std::string default_text(DateTime value, const Locale& locale) {
 }
 
 std::string yyyymmdd(DateTime value) { return written("yyyyMMdd", value, english_us()); }
-std::string hh_mm_ampm(DateTime value, const Locale& locale) { return written("hh:mm tt", value, locale); }
 std::string hh_nn_am_pm(DateTime value) { return written("hh:mm tt", value, english_us()); }
 std::string hh_nn(DateTime value) { return written("HH:mm", value, english_us()); }
 std::string h_nn(DateTime value) { return written("H:mm", value, english_us()); }
-std::string medium_time(DateTime value, const Locale& locale) { return hh_mm_ampm(value, locale); }
+std::string medium_time(DateTime value, const Locale& locale) { return written("hh:mm tt", value, locale); }
 std::string weekday_name(DateTime value, const Locale& locale) { return written("dddd", value, locale); }
 
 DateTime to_date(std::string_view text, const Locale& locale) {

@@ -15,11 +15,10 @@ std::string short_date(DateTime value, const Locale& locale); // "1/5/2024"
 // zero time or a zero date is left out: "1/5/2024 9:00:00 AM", "1/5/2024", "9:00:00 AM".
 std::string default_text(DateTime value, const Locale& locale);
 std::string yyyymmdd(DateTime value);                           // "20240105"
-std::string hh_mm_ampm(DateTime value, const Locale& locale);   // "09:05 AM", with the locale's marks
 std::string hh_nn_am_pm(DateTime value);                        // "09:05 AM", always AM and PM
 std::string hh_nn(DateTime value);                              // "09:05", "21:05"
 std::string h_nn(DateTime value);                               // "9:05", "21:05"
-std::string medium_time(DateTime value, const Locale& locale);  // "09:05 PM"
+std::string medium_time(DateTime value, const Locale& locale);  // "09:05 PM", with the locale's marks
 std::string weekday_name(DateTime value, const Locale& locale); // "Friday"
 
 // Reads whatever default_text and the other forms write in this locale, the locale's common forms, month names,

@@ -43,14 +43,14 @@ std::string date_text(DateTime date) {
 
 class Reader {
 public:
-    Reader(const Component& calendar, const LocalTime& local_time, DateTime today,
-           std::vector<FoundActivity>& found, Report& report)
-        : zones_(calendar), times_(zones_, local_time), today_(today), found_(found), report_(report) {
+    Reader(const Component& calendar, const Here& here, Report& report)
+        : zones_(calendar), times_(zones_, here.local_time), today_(here.today.date()), report_(report) {
         for (const Component& part : calendar.parts)
             sort_in(part);
         for (const Group& group : groups_)
             read(group);
     }
+    std::vector<FoundActivity> found() { return std::move(found_); }
 
 private:
     void skip(const Component& component, const std::string& why) {
@@ -232,17 +232,16 @@ private:
     Zones zones_;
     Times times_;
     const DateTime today_;
-    std::vector<FoundActivity>& found_;
     Report& report_;
+    std::vector<FoundActivity> found_;
     std::vector<Group> groups_;
     std::map<std::string, std::size_t> by_uid_;
 };
 
 } // namespace
 
-void read_calendar(const Component& calendar, const LocalTime& local_time, DateTime today,
-                   std::vector<FoundActivity>& found, Report& report) {
-    Reader(calendar, local_time, today.date(), found, report);
+std::vector<FoundActivity> read_calendar(const Component& calendar, const Here& here, Report& report) {
+    return Reader(calendar, here, report).found();
 }
 
 } // namespace importing

@@ -6,8 +6,13 @@
 
 namespace importing {
 
-// The activities of a VCALENDAR. What can't be taken, or not as it stands, is told in the report.
-void read_calendar(const Component& calendar, const LocalTime& local_time, values::DateTime today,
-                   std::vector<FoundActivity>& found, Report& report);
+// When and where an import takes place.
+struct Here {
+    values::DateTime today;
+    const LocalTime& local_time;
+};
+
+// The activities of a VCALENDAR. What can't be taken, or not as it stands, goes into the report.
+std::vector<FoundActivity> read_calendar(const Component& calendar, const Here& here, Report& report);
 
 } // namespace importing

@@ -13,7 +13,7 @@
 #include <utility>
 #include <vector>
 
-// Times of a calendar, with the zones that they are told in.
+// Times of a calendar, with their zones.
 namespace importing {
 
 struct FreeComponent {
@@ -51,8 +51,8 @@ class Times {
 public:
     Times(Zones& zones, const LocalTime& local_time) : zones_(zones), local_time_(local_time) {}
 
-    // The times that a property tells, in their own zone; those that there are not, as a 31st of June, or that lie
-    // outside the years 1900 to 2500, are left out.
+    // The times that a property holds, in their own zone. Impossible ones, as a 31st of June, and those outside
+    // the years 1900 to 2500 are left out.
     std::vector<icaltimetype> all(icalproperty* property);
     // That of the component's first property of a kind.
     std::optional<icaltimetype> first(icalcomponent* component, icalproperty_kind kind);

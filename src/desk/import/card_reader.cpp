@@ -5,6 +5,7 @@
 #include "desk/store/contact_fields.h"
 
 #include <algorithm>
+#include <initializer_list>
 
 namespace importing {
 namespace {
@@ -142,7 +143,8 @@ private:
         each("N", [&](const Property& p) {
             const auto parts = parts_of(p.value);
             std::string name;
-            for (const std::size_t number : {3, 1, 2, 0, 4}) // title, given, further, family, behind
+            // Title, given, further and family name, and what comes after it.
+            for (const std::size_t number : std::initializer_list<std::size_t>{3, 1, 2, 0, 4})
                 if (const std::string word = part(parts, number); !word.empty())
                     name += (name.empty() ? "" : " ") + word;
             set(field::name, name);
@@ -198,7 +200,7 @@ private:
             return;
         has_address_ = true;
         int line = field::address;
-        for (const std::size_t number : {2, 1, 0})
+        for (const std::size_t number : std::initializer_list<std::size_t>{2, 1, 0})
             if (set(line, part(parts, number)))
                 ++line;
         set(field::city, part(parts, 3));

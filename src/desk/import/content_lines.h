@@ -12,10 +12,10 @@ struct Line {
     std::string text{}; // unfolded, UTF-8
 };
 
-// The name of a line in capitals, without a group in front and parameters behind; empty when the line has none.
+// The name of a line in capitals, without a group before it and parameters after it; empty when the line has none.
 std::string name_of(const Line& line);
 
-// What stands behind the name and the parameters.
+// What comes after the name and the parameters.
 std::string_view value_of(const Line& line);
 
 struct Component {

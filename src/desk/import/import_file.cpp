@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 
 namespace importing {
 namespace {
@@ -59,9 +60,10 @@ Found read(std::string_view bytes, const Options& options, Report& report) {
     if (components.empty())
         fail("it has no calendar and no address card");
     Found found;
+    const Here here{.today = options.now, .local_time = options.local_time};
     for (const Component& component : components)
         if (component.name == "VCALENDAR")
-            read_calendar(component, options.local_time, options.now, found.activities, report);
+            std::ranges::move(read_calendar(component, here, report), std::back_inserter(found.activities));
         else if (component.name == "VCARD")
             found.cards.push_back(read_card(component));
         else

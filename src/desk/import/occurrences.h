@@ -12,7 +12,7 @@ struct FollowedRule {
     bool is_too_long = false;          // it has so many dates that only its first were followed
 };
 
-// Absent when the rule can't be followed: it says nothing that there is, or it steps by less than an hour.
+// Absent when the rule can't be followed: it makes no sense, or it steps by less than an hour.
 std::optional<FollowedRule> follow(icalproperty* rule, const icaltimetype& start, const Times& times,
                                    values::DateTime today);
 

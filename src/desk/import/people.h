@@ -16,7 +16,7 @@ struct Person {
 // The contacts of the database, by mail address and by name, and those that an import adds.
 class People {
 public:
-    // `user` is the name of whom the import is for: nobody makes a contact of himself.
+    // `user` is the name of the user whom the import is for: nobody becomes a contact of their own.
     People(store::Store& store, const std::string& user);
 
     // The contacts of these persons, each once: the one with the same mail address or else with the same name,

@@ -55,8 +55,8 @@ bool shows_in(const recurrence::ShownDates& shown, const Recurrence& series, con
     return std::equal(first, last, starts.begin(), starts.end());
 }
 
-// What the month rules show depends on the view, so the views round each start are tried, and between them one
-// behind the other.
+// What the month rules show depends on the view, so the views around each start are tried, and between them one
+// after the other.
 bool shows_in_views(DateTime last, const Recurrence& series, const RuleDates& dates) {
     for (const DateTime start : dates.starts) {
         const DateTime date = start.date();
@@ -76,7 +76,7 @@ bool shows_in_views(DateTime last, const Recurrence& series, const RuleDates& da
 }
 
 bool shows(const Recurrence& series, const RuleDates& dates) {
-    // Behind its end a series must show nothing: a weekday's first date can lie there.
+    // After its end a series must show nothing: a weekday's first date can lie there.
     const DateTime last = dates.ended ? dates.starts.back().date().plus_days(days_shown) : dates.known_to;
     if (series.kind == RecurrenceKind::daily || series.kind == RecurrenceKind::weekly)
         return shows_in({dates.starts.front().date(), last}, series, dates);

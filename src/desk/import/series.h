@@ -10,9 +10,9 @@ namespace importing {
 // The dates on which a rule of some other program falls.
 struct RuleDates {
     std::vector<store::DateTime> starts{}; // rising, to the minute, not empty
-    bool ended = false;                    // these are all; else the rule goes on behind `known_to`
+    bool ended = false;                    // these are all; else the rule goes on after `known_to`
     store::DateTime known_to{};            // a date
-    int days = 0;                          // the rule's step in the unit that it is told in, the others 0
+    int days = 0;                          // the rule's step in its own unit, the others 0
     int weeks = 0;
     int months = 0;
 };

@@ -1,5 +1,6 @@
 #include "desk/service/activity_dialog_object.h"
 
+#include "desk/model/refusal.h"
 #include "desk/service/answer.h"
 
 namespace service {
@@ -16,7 +17,7 @@ QString ActivityDialogObject::OpenDialog() const {
 model::ActivityDialog& ActivityDialogObject::dialog() const {
     model::ActivityDialog* open = desk_.activity_dialog();
     if (!open)
-        throw refusal("No activity is being worked on for another program.");
+        model::refuse("No activity is being worked on for another program.");
     return *open;
 }
 
@@ -25,9 +26,14 @@ void ActivityDialogObject::Fill(const QString& type, const QString& date, const 
                                 const QString& scheduled_for) {
     answer(*this, [&] {
         if (!dialog().is_new())
-            throw refusal("The activity is stored already; its fields aren't filled.");
-        dialog().fill({from_wire(type), from_wire(date), from_wire(time), from_wire(duration),
-                       from_wire(regarding), from_wire(priority), from_wire(scheduled_for)});
+            model::refuse("The activity is stored already; its fields aren't filled.");
+        dialog().fill({.type = from_wire(type),
+                       .date = from_wire(date),
+                       .time = from_wire(time),
+                       .duration = from_wire(duration),
+                       .regarding = from_wire(regarding),
+                       .priority = from_wire(priority),
+                       .scheduled_for = from_wire(scheduled_for)});
     });
 }
 

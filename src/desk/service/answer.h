@@ -1,7 +1,6 @@
 #pragma once
 
 #include "contract/names.h"
-#include "core/values/failure.h"
 
 #include <QDBusContext>
 
@@ -19,10 +18,6 @@ auto answer(QDBusContext& call, Body&& body) -> std::invoke_result_t<Body> {
         call.sendErrorReply(contract::failure_error, QString::fromUtf8(failure.what()));
     }
     return std::invoke_result_t<Body>();
-}
-
-inline values::Failure refusal(const std::string& sentence) {
-    return values::Failure(values::FailureNumber::automation, sentence);
 }
 
 } // namespace service

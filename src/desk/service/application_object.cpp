@@ -1,5 +1,6 @@
 #include "desk/service/application_object.h"
 
+#include "desk/model/refusal.h"
 #include "desk/service/answer.h"
 
 #include <QPointer>
@@ -21,7 +22,7 @@ act::CommandNumber command_of(int number) {
     case act::CommandNumber::activity_details:
         return command;
     }
-    throw refusal("The contact desk has no command " + std::to_string(number) + ".");
+    model::refuse("The contact desk has no command " + std::to_string(number) + ".");
 }
 
 bool same_file(const std::string& left, const std::string& right) {
@@ -39,9 +40,9 @@ void ApplicationObject::OpenFile(const QString& path) {
     answer(*this, [&] {
         const auto open = desk_.database_path();
         if (open.empty())
-            throw refusal("No database is open in the contact desk.");
+            model::refuse("No database is open in the contact desk.");
         if (const auto wanted = contract::from_wire(path); !wanted.empty() && !same_file(wanted, open))
-            throw refusal("The contact desk has another database open: " + open);
+            model::refuse("The contact desk has another database open: " + open);
     });
 }
 
@@ -51,9 +52,9 @@ void ApplicationObject::Command(int number) {
 
 void ApplicationObject::begin(act::CommandNumber number) {
     if (waiting_)
-        throw refusal("The contact desk is still busy with another command.");
+        model::refuse("The contact desk is still busy with another command.");
     if (number != act::CommandNumber::close_application && desk_.database_path().empty())
-        throw refusal("No database is open in the contact desk.");
+        model::refuse("No database is open in the contact desk.");
     setDelayedReply(true);
     waiting_ = Caller{connection(), message()};
     try {

@@ -17,8 +17,14 @@ int AuxCommandsObject::AddAuxCommand(const QString& name, const QString& program
     return answer(*this, [&] {
         if (name.isEmpty())
             return 1;
-        commands_.add({from_wire(name), from_wire(program), from_wire(folder), from_wire(title),
-                       from_wire(caption), from_wire(icon), from_wire(large_icon), flag});
+        commands_.add({.name = from_wire(name),
+                       .program = from_wire(program),
+                       .folder = from_wire(folder),
+                       .title = from_wire(title),
+                       .caption = from_wire(caption),
+                       .icon = from_wire(icon),
+                       .large_icon = from_wire(large_icon),
+                       .flag = flag});
         return 0;
     });
 }

@@ -1,6 +1,7 @@
 #include "desk/service/contact_view_object.h"
 
 #include "core/values/ids.h"
+#include "desk/model/refusal.h"
 #include "desk/service/answer.h"
 #include "desk/service/field_text.h"
 
@@ -11,14 +12,14 @@ using contract::on_wire;
 
 model::ContactView& ContactViewObject::view() const {
     if (desk_.database_path().empty())
-        throw refusal("No database is open in the contact desk.");
+        model::refuse("No database is open in the contact desk.");
     return desk_.contact_view();
 }
 
 model::ContactView& ContactViewObject::view_with_row(int row) const {
     auto& result = view();
     if (row < 0 || row >= result.activity_count())
-        throw refusal("The list of activities has no row " + std::to_string(row) + ".");
+        model::refuse("The list of activities has no row " + std::to_string(row) + ".");
     return result;
 }
 

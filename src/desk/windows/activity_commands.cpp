@@ -24,9 +24,9 @@ std::string first_enabled(const std::vector<store::User>& users) {
 
 } // namespace
 
-ActivityCommands::ActivityCommands(OpenDatabase& session, Lookup& lookup, QWidget& window)
-    : session_(session), lookup_(lookup), window_(window), sender_(session, window) {
-    QObject::connect(&session, &OpenDatabase::closed, &window, [this] { close_dialog(); });
+ActivityCommands::ActivityCommands(OpenDatabase& database, Lookup& lookup, QWidget& window)
+    : database_(database), lookup_(lookup), window_(window), sender_(database, window) {
+    QObject::connect(&database, &OpenDatabase::closed, &window, [this] { close_dialog(); });
 }
 
 void ActivityCommands::schedule(store::ActivityType type, Finished finished) {
@@ -34,19 +34,19 @@ void ActivityCommands::schedule(store::ActivityType type, Finished finished) {
     require_writable();
     store::Activity activity;
     activity.type = type;
-    activity.start = next_half_hour(session_.now());
+    activity.start = next_half_hour(database_.now());
     activity.duration = usual_duration(type);
     activity.alarm_lead = 15;
-    activity.user = first_enabled(session_.directory().users());
+    activity.user = first_enabled(database_.directory().users());
     if (!lookup_.current().empty())
         activity.contacts.push_back(lookup_.current());
-    open_fields(new ActivityDialog(session_, activity, &window_), std::move(finished));
+    open_fields(new ActivityDialog(database_, activity, &window_), std::move(finished));
 }
 
 void ActivityCommands::edit(const std::string& activity, ActivityDialog::Tab tab, Finished finished) {
     require_idle();
     require_writable();
-    auto* dialog = new ActivityDialog(session_, stored_activity(activity), &window_);
+    auto* dialog = new ActivityDialog(database_, stored_activity(activity), &window_);
     dialog->show_tab(tab);
     open_fields(dialog, std::move(finished));
 }
@@ -54,7 +54,7 @@ void ActivityCommands::edit(const std::string& activity, ActivityDialog::Tab tab
 void ActivityCommands::clear(const std::string& activity, Finished finished) {
     require_idle();
     require_writable();
-    open(new ClearDialog(session_, stored_activity(activity), &window_), std::move(finished));
+    open(new ClearDialog(database_, stored_activity(activity), &window_), std::move(finished));
 }
 
 void ActivityCommands::send(const std::string& activity, Finished finished) {
@@ -72,8 +72,8 @@ void ActivityCommands::remove(const std::string& activity) {
                                  : QObject::tr("Delete the whole series \"%1\"?");
     if (!confirm(&window_, QObject::tr("Delete Activity"), question.arg(shown(record.regarding))))
         return;
-    session_.store().remove_activity(activity);
-    session_.refresh();
+    database_.store().remove_activity(activity);
+    database_.refresh();
 }
 
 void ActivityCommands::close_dialog() {
@@ -88,14 +88,14 @@ void ActivityCommands::require_idle() const {
 }
 
 void ActivityCommands::require_writable() const {
-    if (session_.store().is_read_only())
+    if (database_.store().is_read_only())
         model::refuse("The database is open for reading alone.");
 }
 
 store::Activity ActivityCommands::stored_activity(const std::string& id) const {
     if (id.empty())
         model::refuse("No activity is selected.");
-    auto activity = session_.store().activity(id);
+    auto activity = database_.store().activity(id);
     if (!activity)
         model::refuse("The activity isn't in the database any more.");
     return *activity;
@@ -128,7 +128,7 @@ ActivityCommands::Finished ActivityCommands::ending(Finished finished) {
         is_under_way_ = false;
         dialog_ = nullptr;
         awaited_dialog_ = nullptr;
-        attempt(&window_, [this] { session_.refresh(); });
+        attempt(&window_, [this] { database_.refresh(); });
         if (finished)
             finished();
     };

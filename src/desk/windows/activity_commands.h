@@ -17,7 +17,7 @@ class ActivityCommands {
 public:
     using Finished = std::function<void()>;
 
-    ActivityCommands(OpenDatabase& session, Lookup& lookup, QWidget& window);
+    ActivityCommands(OpenDatabase& database, Lookup& lookup, QWidget& window);
 
     // Each begins the command and returns; `finished` is called once, when its dialog has closed, whichever way,
     // and what it stored is shown. Each fails with 440 and begins nothing when another one is under way, no
@@ -44,7 +44,7 @@ private:
     void open_fields(ActivityDialog* dialog, Finished finished);
     Finished ending(Finished finished); // what ends the command
 
-    OpenDatabase& session_;
+    OpenDatabase& database_;
     Lookup& lookup_;
     QWidget& window_;
     ActivitySender sender_;

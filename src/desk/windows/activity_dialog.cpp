@@ -25,8 +25,8 @@ std::string chosen(const QComboBox* box) { return stored(box->currentData().toSt
 
 } // namespace
 
-ActivityDialog::ActivityDialog(OpenDatabase& session, store::Activity activity, QWidget* parent)
-    : QDialog(parent), session_(session), activity_(std::move(activity)),
+ActivityDialog::ActivityDialog(OpenDatabase& database, store::Activity activity, QWidget* parent)
+    : QDialog(parent), database_(database), activity_(std::move(activity)),
       ui_(std::make_unique<Ui::ActivityDialog>()) {
     ui_->setupUi(this);
     setWindowTitle(activity_.id.empty() ? tr("Schedule Activity") : tr("Edit Activity"));
@@ -44,13 +44,13 @@ void ActivityDialog::show_choices() {
         ui_->type_box->addItem(type_icon(type), type_name(type), static_cast<int>(type));
     for (const auto priority : {store::Priority::high, store::Priority::medium, store::Priority::low})
         ui_->priority_box->addItem(priority_name(priority), static_cast<int>(priority));
-    for (const store::User& user : session_.directory().users())
+    for (const store::User& user : database_.directory().users())
         ui_->user_box->addItem(shown(user.name), shown(user.id));
     ui_->group_box->addItem(tr("None"), QString());
-    for (const store::Group& group : session_.directory().groups())
+    for (const store::Group& group : database_.directory().groups())
         ui_->group_box->addItem(shown(group.name), shown(group.id));
-    ui_->date_edit->set_locale(session_.locale());
-    ui_->time_edit->set_locale(session_.locale());
+    ui_->date_edit->set_locale(database_.locale());
+    ui_->time_edit->set_locale(database_.locale());
 }
 
 void ActivityDialog::show_activity() {
@@ -59,7 +59,7 @@ void ActivityDialog::show_activity() {
     ui_->date_edit->set_date(activity_.start);
     ui_->time_edit->set_time(activity_.start.value_or(store::DateTime()));
     ui_->duration_box->setValue(activity_.duration);
-    ui_->contact_chooser->show_contacts(activity_.contacts, session_.directory());
+    ui_->contact_chooser->show_contacts(activity_.contacts, database_.directory());
     ui_->regarding_edit->setText(shown(activity_.regarding));
     ui_->colour_box->set_colour(activity_.colour);
     choose(ui_->user_box, activity_.user, tr("Nobody"));
@@ -70,7 +70,7 @@ void ActivityDialog::show_activity() {
     ui_->alarm_lead_box->setEnabled(activity_.alarm);
     ui_->details_edit->setPlainText(shown(activity_.details));
     ui_->recurring_tab->show_rule(activity_.recurrence, activity_.exceptions,
-                                  activity_.start.value_or(session_.today()), session_.locale());
+                                  activity_.start.value_or(database_.today()), database_.locale());
 }
 
 void ActivityDialog::connect_parts() {
@@ -93,7 +93,7 @@ void ActivityDialog::show_tab(const std::string& name) {
 }
 
 void ActivityDialog::fill(const model::ActivityValues& values) {
-    const model::ReadValues read = model::read_values(values, session_.directory().users(), session_.locale());
+    const model::ReadValues read = model::read_values(values, database_.directory().users(), database_.locale());
     if (read.type)
         ui_->type_box->setCurrentIndex(ui_->type_box->findData(static_cast<int>(*read.type)));
     if (read.date)
@@ -154,9 +154,9 @@ store::Activity ActivityDialog::typed() const {
 void ActivityDialog::store_typed() {
     const store::Activity activity = typed();
     if (activity.id.empty())
-        session_.store().add(activity);
+        database_.store().add(activity);
     else
-        session_.store().update(activity);
+        database_.store().update(activity);
 }
 
 void ActivityDialog::accept() {

@@ -19,7 +19,7 @@ class ActivityDialog : public QDialog, public model::ActivityDialog {
     Q_OBJECT
 
 public:
-    ActivityDialog(OpenDatabase& session, store::Activity activity, QWidget* parent);
+    ActivityDialog(OpenDatabase& database, store::Activity activity, QWidget* parent);
     ~ActivityDialog() override;
 
     enum class Tab { general, details, recurring };
@@ -41,7 +41,7 @@ private:
     std::optional<store::DateTime> typed_start() const;
     void store_typed();
 
-    OpenDatabase& session_;
+    OpenDatabase& database_;
     const store::Activity activity_;
     std::unique_ptr<Ui::ActivityDialog> ui_;
 };

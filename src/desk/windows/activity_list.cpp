@@ -36,20 +36,20 @@ std::set<Kind> checked(const Choices& choices) {
 
 } // namespace
 
-ActivityList::ActivityList(OpenDatabase& session, Scope scope, QWidget* parent)
-    : QWidget(parent), session_(session), scope_(scope), ui_(std::make_unique<Ui::ActivityList>()) {
+ActivityList::ActivityList(OpenDatabase& database, Scope scope, QWidget* parent)
+    : QWidget(parent), database_(database), scope_(scope), ui_(std::make_unique<Ui::ActivityList>()) {
     ui_->setupUi(this);
     ui_->activity_table->set_columns(activity_columns(), date_column);
     for (DateField* field : {ui_->from_edit, ui_->to_edit}) {
-        field->set_locale(session.locale());
+        field->set_locale(database.locale());
         connect(field, &DateField::date_changed, this, &ActivityList::take_filter);
     }
-    filter_.from = filter_.to = session.today();
+    filter_.from = filter_.to = database.today();
     build_choices();
     show_users();
     show_filter();
     connect_bar();
-    connect(&session, &OpenDatabase::changed, this, [this] {
+    connect(&database, &OpenDatabase::changed, this, [this] {
         show_users();
         reload_when_seen();
     });
@@ -133,7 +133,7 @@ void ActivityList::show_filter() {
 void ActivityList::show_users() {
     ui_->user_box->clear();
     ui_->user_box->addItem(tr("Everyone"), QString());
-    for (const store::User& user : session_.directory().users())
+    for (const store::User& user : database_.directory().users())
         ui_->user_box->addItem(shown(user.name), shown(user.id));
     ui_->user_box->setCurrentIndex(ui_->user_box->findData(shown(filter_.users)));
 }
@@ -156,10 +156,10 @@ void ActivityList::reload() {
     is_stale_ = false;
     activities_.clear();
     const bool is_anybody = scope_ == Scope::everybody || !contact_.empty();
-    if (session_.is_open() && is_anybody)
-        activities_ = model::filtered(session_.store(), filter_, session_.today(),
+    if (database_.is_open() && is_anybody)
+        activities_ = model::filtered(database_.store(), filter_, database_.today(),
                                       scope_ == Scope::contact ? std::optional(contact_) : std::nullopt);
-    ui_->activity_table->show_rows(activity_rows(activities_, session_.directory(), session_.locale()));
+    ui_->activity_table->show_rows(activity_rows(activities_, database_.directory(), database_.locale()));
     ui_->count_label->setText(row_count() == 1 ? tr("1 activity") : tr("%1 activities").arg(row_count()));
 }
 

@@ -26,7 +26,7 @@ class ActivityList : public QWidget {
 public:
     enum class Scope { contact, everybody };
 
-    ActivityList(OpenDatabase& session, Scope scope, QWidget* parent = nullptr);
+    ActivityList(OpenDatabase& database, Scope scope, QWidget* parent = nullptr);
     ~ActivityList() override;
 
     // The contact whose activities are shown; nothing is shown with an empty id. Without meaning for everybody's.
@@ -64,7 +64,7 @@ private:
     void build_choices();
     void connect_bar();
 
-    OpenDatabase& session_;
+    OpenDatabase& database_;
     const Scope scope_;
     std::unique_ptr<Ui::ActivityList> ui_;
     std::vector<Choice<store::ActivityType>> types_;

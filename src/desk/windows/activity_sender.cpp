@@ -45,11 +45,11 @@ Message ActivitySender::message_of(const store::Activity& activity) const {
     Message message;
     std::vector<exporting::Participant> participants;
     for (const std::string& id : activity.contacts) {
-        const store::Contact* contact = session_.directory().contact(id);
+        const store::Contact* contact = database_.directory().contact(id);
         if (!contact)
             continue;
         const std::string mail = model::field_of(*contact, field::e_mail);
-        participants.push_back({session_.directory().contact_name(id), mail});
+        participants.push_back({database_.directory().contact_name(id), mail});
         message.addresses << shown(mail).trimmed();
     }
     message.subject = QStringLiteral("%1: %2").arg(type_name(activity.type), shown(activity.regarding));

@@ -13,7 +13,7 @@ namespace windows {
 // Sends an activity as a calendar file: by the mail program or, where there is none, into a file of the user's.
 class ActivitySender {
 public:
-    ActivitySender(OpenDatabase& session, QWidget& window) : session_(session), window_(window) {}
+    ActivitySender(OpenDatabase& database, QWidget& window) : database_(database), window_(window) {}
 
     // Returns at once; `finished` is called once from a later event, when the message is on its way or the last
     // dialog has closed. Fails with 440 when the activity has no date.
@@ -27,7 +27,7 @@ private:
     void ask_for_file(const Message& message, std::function<void()> finished);
     void open(QDialog* dialog, std::function<void(int result)> closed);
 
-    OpenDatabase& session_;
+    OpenDatabase& database_;
     QWidget& window_;
     Mail mail_;
     QPointer<QDialog> dialog_;

@@ -22,22 +22,22 @@ QStringList results_of(store::ActivityType type) {
     return {};
 }
 
-QString summary_of(const store::Activity& activity, const OpenDatabase& session) {
+QString summary_of(const store::Activity& activity, const OpenDatabase& database) {
     QStringList names;
     for (const std::string& contact : activity.contacts)
-        names << shown(session.directory().contact_name(contact));
+        names << shown(database.directory().contact_name(contact));
     QString summary = type_name(activity.type);
     if (activity.start)
         summary +=
             QObject::tr(" on %1, %2")
-                .arg(date_text(*activity.start, session.locale()), time_text(*activity.start, session.locale()));
+                .arg(date_text(*activity.start, database.locale()), time_text(*activity.start, database.locale()));
     return names.isEmpty() ? summary : QObject::tr("%1 with %2").arg(summary, names.join("; "));
 }
 
 } // namespace
 
-ClearDialog::ClearDialog(OpenDatabase& session, store::Activity activity, QWidget* parent)
-    : QDialog(parent), session_(session), activity_(std::move(activity)),
+ClearDialog::ClearDialog(OpenDatabase& database, store::Activity activity, QWidget* parent)
+    : QDialog(parent), database_(database), activity_(std::move(activity)),
       ui_(std::make_unique<Ui::ClearDialog>()) {
     ui_->setupUi(this);
     setTabOrder(ui_->buttons->button(QDialogButtonBox::Cancel), ui_->erase_button);
@@ -51,7 +51,7 @@ ClearDialog::ClearDialog(OpenDatabase& session, store::Activity activity, QWidge
 ClearDialog::~ClearDialog() = default;
 
 void ClearDialog::show_activity() {
-    ui_->summary_label->setText(summary_of(activity_, session_));
+    ui_->summary_label->setText(summary_of(activity_, database_));
     ui_->series_label->setVisible(is_series());
     ui_->result_box->addItems(results_of(activity_.type));
     const QString result = shown(activity_.result);
@@ -80,7 +80,7 @@ bool ClearDialog::may_clear() {
 }
 
 void ClearDialog::accept() {
-    if (may_clear() && attempt(this, [this] { session_.store().update(typed()); }))
+    if (may_clear() && attempt(this, [this] { database_.store().update(typed()); }))
         QDialog::accept();
 }
 
@@ -92,7 +92,7 @@ void ClearDialog::erase() {
     if (!confirm(this, tr("Erase Activity"), question.arg(shown(activity_.regarding))))
         return;
     const bool is_erased = attempt(this, [this] {
-        store::Store& store = session_.store();
+        store::Store& store = database_.store();
         store.together([&] {
             const auto present = store.activity(activity_.id);
             model::require(!present || present->revision == activity_.revision,

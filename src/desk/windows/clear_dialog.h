@@ -19,7 +19,7 @@ class ClearDialog : public QDialog {
     Q_OBJECT
 
 public:
-    ClearDialog(OpenDatabase& session, store::Activity activity, QWidget* parent);
+    ClearDialog(OpenDatabase& database, store::Activity activity, QWidget* parent);
     ~ClearDialog() override;
 
     void accept() override;
@@ -31,7 +31,7 @@ private:
     store::Activity typed() const;
     void erase();
 
-    OpenDatabase& session_;
+    OpenDatabase& database_;
     const store::Activity activity_;
     std::unique_ptr<Ui::ClearDialog> ui_;
 };

@@ -24,15 +24,15 @@ const std::vector<std::vector<int>> columns = {
 } // namespace
 
 ContactForm::ContactForm(QGridLayout& grid, QWidget* page) : QObject(page) {
-    for (int column = 0; column < static_cast<int>(columns.size()); ++column) {
-        const auto& numbers = columns[static_cast<std::size_t>(column)];
-        for (int row = 0; row < static_cast<int>(numbers.size()); ++row)
-            add_line(grid, page, numbers[static_cast<std::size_t>(row)], row, 2 * column);
-        grid.setColumnStretch(2 * column + 1, 1);
+    for (int column = 0; const auto& numbers : columns) {
+        for (int row = 0; const int number : numbers)
+            add_line(grid, page, number, {.row = row++, .column = column});
+        grid.setColumnStretch(column + 1, 1);
+        column += 2;
     }
 }
 
-void ContactForm::add_line(QGridLayout& grid, QWidget* page, int number, int row, int column) {
+void ContactForm::add_line(QGridLayout& grid, QWidget* page, int number, Place place) {
     const QString name = field_label(number);
     auto* label = new QLabel(name + ":", page);
     auto* line = new QLineEdit(page);
@@ -40,8 +40,8 @@ void ContactForm::add_line(QGridLayout& grid, QWidget* page, int number, int row
     line->setAccessibleName(name);
     label->setBuddy(line);
     label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    grid.addWidget(label, row, column);
-    grid.addWidget(line, row, column + 1);
+    grid.addWidget(label, place.row, place.column);
+    grid.addWidget(line, place.row, place.column + 1);
     lines_[number] = line;
     connect(line, &QLineEdit::textEdited, this, &ContactForm::edited);
 }

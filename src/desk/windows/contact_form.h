@@ -30,7 +30,11 @@ signals:
     void edited();
 
 private:
-    void add_line(QGridLayout& grid, QWidget* page, int number, int row, int column);
+    struct Place {
+        int row;
+        int column; // of the label; the line stands in the next
+    };
+    void add_line(QGridLayout& grid, QWidget* page, int number, Place place);
 
     store::Contact shown_;
     std::map<int, QLineEdit*> lines_; // by field number

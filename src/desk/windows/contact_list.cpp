@@ -8,8 +8,8 @@
 
 namespace windows {
 
-ContactList::ContactList(OpenDatabase& session, Lookup& lookup, QWidget* parent)
-    : QWidget(parent), session_(session), lookup_(lookup), table_(new RecordTable(this)) {
+ContactList::ContactList(OpenDatabase& database, Lookup& lookup, QWidget* parent)
+    : QWidget(parent), database_(database), lookup_(lookup), table_(new RecordTable(this)) {
     table_->setObjectName("contact_table");
     table_->setAccessibleName(tr("Contacts"));
     table_->set_columns(contact_columns(), 0);
@@ -23,7 +23,7 @@ ContactList::ContactList(OpenDatabase& session, Lookup& lookup, QWidget* parent)
 }
 
 void ContactList::reload() {
-    table_->show_rows(contact_rows(lookup_.contacts(), session_.directory()));
+    table_->show_rows(contact_rows(lookup_.contacts(), database_.directory()));
     table_->select(lookup_.current());
 }
 

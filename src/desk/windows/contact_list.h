@@ -15,7 +15,7 @@ class ContactList : public QWidget {
     Q_OBJECT
 
 public:
-    ContactList(OpenDatabase& session, Lookup& lookup, QWidget* parent = nullptr);
+    ContactList(OpenDatabase& database, Lookup& lookup, QWidget* parent = nullptr);
 
 signals:
     void opened(const std::string& contact);
@@ -24,7 +24,7 @@ private:
     void reload();
     void follow(const std::string& contact);
 
-    OpenDatabase& session_;
+    OpenDatabase& database_;
     Lookup& lookup_;
     RecordTable* table_;
 };

@@ -24,8 +24,8 @@ QString heading_of(const store::Contact& contact) {
 
 } // namespace
 
-ContactPage::ContactPage(OpenDatabase& session, Lookup& lookup, QWidget* parent)
-    : QWidget(parent), session_(session), lookup_(lookup), ui_(std::make_unique<Ui::ContactPage>()) {
+ContactPage::ContactPage(OpenDatabase& database, Lookup& lookup, QWidget* parent)
+    : QWidget(parent), database_(database), lookup_(lookup), ui_(std::make_unique<Ui::ContactPage>()) {
     ui_->setupUi(this);
     ui_->previous_button->setIcon(QIcon(":/desk/previous.svg"));
     ui_->next_button->setIcon(QIcon(":/desk/next.svg"));
@@ -34,9 +34,9 @@ ContactPage::ContactPage(OpenDatabase& session, Lookup& lookup, QWidget* parent)
     large.setBold(true);
     ui_->name_label->setFont(large);
     form_ = new ContactForm(*ui_->fields_grid, this);
-    activities_ = new ActivityList(session, ActivityList::Scope::contact);
-    notes_ = new NotesTab(session);
-    groups_ = new GroupsTab(session);
+    activities_ = new ActivityList(database, ActivityList::Scope::contact);
+    notes_ = new NotesTab(database);
+    groups_ = new GroupsTab(database);
     ui_->tabs->addTab(activities_, tr("Act&ivities"));
     ui_->tabs->addTab(notes_, tr("N&otes"));
     ui_->tabs->addTab(groups_, tr("&Groups"));
@@ -53,7 +53,7 @@ void ContactPage::connect_parts() {
     lookup_.before_leaving = [this] { save(); };
     connect(&lookup_, &Lookup::current_changed, this, [this] { attempt(window(), [this] { show_current(); }); });
     connect(&lookup_, &Lookup::changed, this, &ContactPage::show_heading);
-    connect(&session_, &OpenDatabase::changed, this, [this] { attempt(window(), [this] { show_again(); }); });
+    connect(&database_, &OpenDatabase::changed, this, [this] { attempt(window(), [this] { show_again(); }); });
     connect(form_, &ContactForm::edited, this, &ContactPage::show_heading);
     connect(ui_->save_button, &QPushButton::clicked, this, [this] { attempt(window(), [this] { save(); }); });
     connect(ui_->undo_button, &QPushButton::clicked, this, [this] { attempt(window(), [this] { undo(); }); });
@@ -92,12 +92,12 @@ void ContactPage::save() {
     }
     store::Contact contact = form_->contact();
     if (is_new_)
-        contact.id = session_.store().add(contact);
+        contact.id = database_.store().add(contact);
     else
-        session_.store().update(contact);
+        database_.store().update(contact);
     const bool was_new = std::exchange(is_new_, false);
-    show_contact(*session_.store().contact(contact.id));
-    session_.refresh();
+    show_contact(*database_.store().contact(contact.id));
+    database_.refresh();
     if (was_new)
         lookup_.include(contact.id);
 }
@@ -109,7 +109,7 @@ void ContactPage::undo() {
 
 void ContactPage::show_current() {
     is_new_ = false;
-    const store::Contact* contact = session_.directory().contact(lookup_.current());
+    const store::Contact* contact = database_.directory().contact(lookup_.current());
     show_contact(contact ? *contact : store::Contact());
 }
 
@@ -141,7 +141,7 @@ void ContactPage::show_heading() {
                                                          : tr("%1 of %2").arg(position + 1).arg(count));
     ui_->previous_button->setEnabled(position > 0);
     ui_->next_button->setEnabled(count > 0 && position < count - 1);
-    const bool is_writable = session_.is_open() && !session_.store().is_read_only();
+    const bool is_writable = database_.is_open() && !database_.store().is_read_only();
     form_->set_enabled(is_somebody && is_writable);
     ui_->save_button->setEnabled(form_->is_changed());
     ui_->undo_button->setEnabled(is_new_ || form_->is_changed());

@@ -24,7 +24,7 @@ class ContactPage : public QWidget {
     Q_OBJECT
 
 public:
-    ContactPage(OpenDatabase& session, Lookup& lookup, QWidget* parent = nullptr);
+    ContactPage(OpenDatabase& database, Lookup& lookup, QWidget* parent = nullptr);
     ~ContactPage() override;
 
     ActivityList& activities() { return *activities_; }
@@ -48,7 +48,7 @@ private:
     void show_contact(const store::Contact& contact);
     void connect_parts();
 
-    OpenDatabase& session_;
+    OpenDatabase& database_;
     Lookup& lookup_;
     std::unique_ptr<Ui::ContactPage> ui_;
     ContactForm* form_;

@@ -25,24 +25,24 @@ std::string absolute(const QString& path) { return QFileInfo(path).absoluteFileP
 
 } // namespace
 
-DatabaseCommands::DatabaseCommands(OpenDatabase& session, Lookup& lookup, QWidget& window, Import import)
-    : session_(session), lookup_(lookup), window_(window), import_(std::move(import)) {}
+DatabaseCommands::DatabaseCommands(OpenDatabase& database, Lookup& lookup, QWidget& window, Import import)
+    : database_(database), lookup_(lookup), window_(window), import_(std::move(import)) {}
 
 void DatabaseCommands::open(const std::string& path) {
     if (leave())
-        attempt(&window_, [&] { session_.open(path); });
+        attempt(&window_, [&] { database_.open(path); });
 }
 
 void DatabaseCommands::open_another() {
     const QString file =
-        QFileDialog::getOpenFileName(&window_, tr("Open Database"), folder_of(session_.path()), databases());
+        QFileDialog::getOpenFileName(&window_, tr("Open Database"), folder_of(database_.path()), databases());
     if (!file.isEmpty())
         open(absolute(file));
 }
 
 // A file that is there already isn't overwritten: making the database fails then, which is told.
 QString DatabaseCommands::ask_new_file(const QString& title, const QString& suggestion) {
-    QFileDialog dialog(&window_, title, folder_of(session_.path()), databases());
+    QFileDialog dialog(&window_, title, folder_of(database_.path()), databases());
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setOption(QFileDialog::DontConfirmOverwrite);
     dialog.setDefaultSuffix("desk");
@@ -63,9 +63,9 @@ void DatabaseCommands::create() {
 
 // Activities are scheduled for users, so a database begins with one.
 void DatabaseCommands::make(const std::string& path, const std::string& user) {
-    session_.create(path);
-    session_.store().add(store::User{{}, user, "Administrator", "Enabled"});
-    session_.refresh();
+    database_.create(path);
+    database_.store().add(store::User{.name = user, .security = "Administrator", .access = "Enabled"});
+    database_.refresh();
 }
 
 void DatabaseCommands::create_sample() {
@@ -73,8 +73,8 @@ void DatabaseCommands::create_sample() {
     if (file.isEmpty() || !leave())
         return;
     attempt(&window_, [&] {
-        windows::create_sample(absolute(file), session_.today());
-        session_.open(absolute(file));
+        windows::create_sample(absolute(file), database_.today());
+        database_.open(absolute(file));
     });
 }
 
@@ -84,15 +84,15 @@ void DatabaseCommands::import_file() {
     if (file.isEmpty())
         return;
     attempt(&window_, [&] {
-        const std::string result = import_(session_.store(), absolute(file));
-        session_.refresh();
+        const std::string result = import_(database_.store(), absolute(file));
+        database_.refresh();
         tell(&window_, tr("Import"), shown(result));
     });
 }
 
 void DatabaseCommands::close() {
     if (leave())
-        attempt(&window_, [this] { session_.close(); });
+        attempt(&window_, [this] { database_.close(); });
 }
 
 void DatabaseCommands::add_user() {
@@ -100,8 +100,8 @@ void DatabaseCommands::add_user() {
     if (name.isEmpty())
         return;
     attempt(&window_, [&] {
-        session_.store().add(store::User{{}, stored(name), "Standard", "Enabled"});
-        session_.refresh();
+        database_.store().add(store::User{.name = stored(name), .security = "Standard", .access = "Enabled"});
+        database_.refresh();
     });
 }
 

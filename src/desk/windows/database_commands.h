@@ -16,7 +16,7 @@ using Import = std::function<std::string(store::Store& store, const std::string&
 class DatabaseCommands {
 public:
     // Without an import there is no command for it.
-    DatabaseCommands(OpenDatabase& session, Lookup& lookup, QWidget& window, Import import);
+    DatabaseCommands(OpenDatabase& database, Lookup& lookup, QWidget& window, Import import);
 
     void open(const std::string& path);
     // These ask for the file in a dialog.
@@ -37,7 +37,7 @@ private:
     void make(const std::string& path, const std::string& user);
     QString ask_new_file(const QString& title, const QString& suggestion);
 
-    OpenDatabase& session_;
+    OpenDatabase& database_;
     Lookup& lookup_;
     QWidget& window_;
     const Import import_;

@@ -32,10 +32,11 @@ model::ActivityFilter today_and_later() {
 
 } // namespace
 
-DeskWindow::DeskWindow(OpenDatabase& session, Import import)
-    : session_(session), ui_(std::make_unique<Ui::DeskWindow>()), lookup_(session),
-      activity_commands_(session, lookup_, *this), database_commands_(session, lookup_, *this, std::move(import)),
-      view_actions_(this), count_label_(new QLabel(this)) {
+DeskWindow::DeskWindow(OpenDatabase& database, Import import)
+    : database_(database), ui_(std::make_unique<Ui::DeskWindow>()), lookup_(database),
+      activity_commands_(database, lookup_, *this),
+      database_commands_(database, lookup_, *this, std::move(import)), view_actions_(this),
+      count_label_(new QLabel(this)) {
     ui_->setupUi(this);
     setWindowIcon(picture("contact_desk"));
     resize(size().boundedTo(screen()->availableSize()));
@@ -44,16 +45,18 @@ DeskWindow::DeskWindow(OpenDatabase& session, Import import)
     connect_contact_menu();
     connect_schedule_menu();
     connect_view_menu();
-    desk_ = std::make_unique<RunningDesk>(session_, lookup_, *contact_page_, commands_, activity_commands_);
+    desk_ = std::make_unique<RunningDesk>(
+        database_, RunningDesk::Shown{.lookup = lookup_, .page = *contact_page_},
+        RunningDesk::Commands{.by_number = commands_, .on_activities = activity_commands_});
     fill_commands();
-    connect(&session_, &OpenDatabase::opened, this, [this] { show_view(contact_list_); });
-    connect(&session_, &OpenDatabase::closed, this, [this] { show_view(ui_->start_page); });
-    connect(&session_, &OpenDatabase::changed, this, &DeskWindow::show_state);
+    connect(&database_, &OpenDatabase::opened, this, [this] { show_view(contact_list_); });
+    connect(&database_, &OpenDatabase::closed, this, [this] { show_view(ui_->start_page); });
+    connect(&database_, &OpenDatabase::changed, this, &DeskWindow::show_state);
     connect(&lookup_, &Lookup::changed, this, &DeskWindow::show_state);
     connect(&lookup_, &Lookup::current_changed, this, &DeskWindow::show_state);
     connect(&poll_, &QTimer::timeout, this, &DeskWindow::look_for_changes);
     poll_.start(poll_milliseconds);
-    show_view(session_.is_open() ? contact_list_ : ui_->start_page);
+    show_view(database_.is_open() ? contact_list_ : ui_->start_page);
     show_state();
 }
 
@@ -65,10 +68,10 @@ DeskWindow::~DeskWindow() {
 }
 
 void DeskWindow::build_views() {
-    auto* contact_list = new ContactList(session_, lookup_);
-    auto* groups = new GroupsView(session_, lookup_);
-    contact_page_ = new ContactPage(session_, lookup_);
-    task_list_ = new ActivityList(session_, ActivityList::Scope::everybody);
+    auto* contact_list = new ContactList(database_, lookup_);
+    auto* groups = new GroupsView(database_, lookup_);
+    contact_page_ = new ContactPage(database_, lookup_);
+    task_list_ = new ActivityList(database_, ActivityList::Scope::everybody);
     task_list_->set_filter(today_and_later());
     task_list_->layout()->setContentsMargins(contact_list->layout()->contentsMargins());
     contact_list_ = contact_list;
@@ -235,14 +238,14 @@ ActivityList& DeskWindow::shown_activities() {
 }
 
 void DeskWindow::show_state() {
-    const bool is_open = session_.is_open();
-    const bool is_writable = is_open && !session_.store().is_read_only();
-    const QString file = QFileInfo(shown(session_.path())).fileName();
+    const bool is_open = database_.is_open();
+    const bool is_writable = is_open && !database_.store().is_read_only();
+    const QString file = QFileInfo(shown(database_.path())).fileName();
     const QString mark = is_open && !is_writable ? tr(" (read-only)") : QString();
     setWindowTitle(is_open ? tr("%1%2 - Contact Desk").arg(file, mark) : tr("Contact Desk"));
     count_label_->setText(
         is_open
-            ? tr("%1 of %2 contacts").arg(lookup_.contacts().size()).arg(session_.directory().contacts().size())
+            ? tr("%1 of %2 contacts").arg(lookup_.contacts().size()).arg(database_.directory().contacts().size())
             : QString());
     for (QAction* action : {ui_->file_close, ui_->contact_edit, ui_->contact_save, ui_->contact_previous,
                             ui_->contact_next, ui_->lookup_all, ui_->lookup_by_name})
@@ -263,7 +266,7 @@ void DeskWindow::show_state() {
 // A database that can't be read is told once, not every second.
 void DeskWindow::look_for_changes() {
     try {
-        session_.refresh();
+        database_.refresh();
         is_poll_failing_ = false;
     } catch (const std::exception&) {
         if (!std::exchange(is_poll_failing_, true))
@@ -285,7 +288,7 @@ void DeskWindow::closeEvent(QCloseEvent* event) {
     }
     if (desk_->on_user_wants_to_close)
         desk_->on_user_wants_to_close();
-    session_.close();
+    database_.close();
     event->accept();
 }
 

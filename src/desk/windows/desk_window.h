@@ -28,7 +28,7 @@ class DeskWindow : public QMainWindow {
     Q_OBJECT
 
 public:
-    DeskWindow(OpenDatabase& session, Import import);
+    DeskWindow(OpenDatabase& database, Import import);
     ~DeskWindow() override;
 
     // Opens a database. A failure shows its box, and what was open stays so.
@@ -57,7 +57,7 @@ private:
     ActivityList& shown_activities();
     void look_for_changes();
 
-    OpenDatabase& session_;
+    OpenDatabase& database_;
     std::unique_ptr<Ui::DeskWindow> ui_;
     Lookup lookup_;
     ActivityCommands activity_commands_;

@@ -11,8 +11,8 @@
 
 namespace windows {
 
-GroupsTab::GroupsTab(OpenDatabase& session, QWidget* parent)
-    : QWidget(parent), session_(session), list_(new QListWidget(this)) {
+GroupsTab::GroupsTab(OpenDatabase& database, QWidget* parent)
+    : QWidget(parent), database_(database), list_(new QListWidget(this)) {
     list_->setObjectName("group_ticks");
     list_->setAccessibleName(tr("Groups of the contact"));
     list_->setAlternatingRowColors(true);
@@ -35,13 +35,13 @@ void GroupsTab::reload() {
     const QSignalBlocker no_ticks(list_);
     const int row = list_->currentRow();
     list_->clear();
-    for (const store::Group& group : session_.directory().groups()) {
+    for (const store::Group& group : database_.directory().groups()) {
         auto* item = new QListWidgetItem(shown(group.name), list_);
         const bool is_member =
             std::find(group.contacts.begin(), group.contacts.end(), contact_) != group.contacts.end();
         item->setData(Qt::UserRole, shown(group.id));
         item->setCheckState(is_member ? Qt::Checked : Qt::Unchecked);
-        item->setFlags(contact_.empty() || session_.store().is_read_only()
+        item->setFlags(contact_.empty() || database_.store().is_read_only()
                            ? Qt::ItemIsSelectable
                            : Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);
     }
@@ -51,9 +51,9 @@ void GroupsTab::reload() {
 void GroupsTab::take_tick(const QListWidgetItem& item) {
     const std::string group = stored(item.data(Qt::UserRole).toString());
     if (item.checkState() == Qt::Checked)
-        add_members(session_, group, {contact_});
+        add_members(database_, group, {contact_});
     else
-        remove_member(session_, group, contact_);
+        remove_member(database_, group, contact_);
 }
 
 } // namespace windows

@@ -14,7 +14,7 @@ class GroupsTab : public QWidget {
     Q_OBJECT
 
 public:
-    explicit GroupsTab(OpenDatabase& session, QWidget* parent = nullptr);
+    explicit GroupsTab(OpenDatabase& database, QWidget* parent = nullptr);
 
     void show_contact(const std::string& contact); // empty for none
 
@@ -22,7 +22,7 @@ private:
     void reload();
     void take_tick(const QListWidgetItem& item);
 
-    OpenDatabase& session_;
+    OpenDatabase& database_;
     QListWidget* list_;
     std::string contact_;
 };

@@ -18,7 +18,7 @@ class GroupsView : public QWidget {
     Q_OBJECT
 
 public:
-    GroupsView(OpenDatabase& session, Lookup& lookup, QWidget* parent = nullptr);
+    GroupsView(OpenDatabase& database, Lookup& lookup, QWidget* parent = nullptr);
     ~GroupsView() override;
 
 signals:
@@ -36,7 +36,7 @@ private:
     void look_up();
     std::string group() const; // the chosen one, empty for none
 
-    OpenDatabase& session_;
+    OpenDatabase& database_;
     Lookup& lookup_;
     std::unique_ptr<Ui::GroupsView> ui_;
 };

@@ -16,38 +16,37 @@ bool has_text(const store::Contact& contact, const std::string& lower_text, cons
 
 } // namespace
 
-Lookup::Lookup(OpenDatabase& session) : session_(session) {
-    connect(&session, &OpenDatabase::opened, this, [this] {
-        is_everybody_ = true;
-        members_.clear();
-    });
-    connect(&session, &OpenDatabase::changed, this, &Lookup::reread);
+Lookup::Lookup(OpenDatabase& database) : database_(database) {
+    connect(&database, &OpenDatabase::opened, this, [this] { members_.reset(); });
+    connect(&database, &OpenDatabase::changed, this, &Lookup::reread);
     reread();
 }
 
-void Lookup::show_all() { replace(true, {}); }
+void Lookup::show_all() { replace(std::nullopt); }
 
-void Lookup::show(const std::vector<std::string>& contacts) { replace(false, {contacts.begin(), contacts.end()}); }
+void Lookup::show(const std::vector<std::string>& contacts) {
+    replace(std::set(contacts.begin(), contacts.end()));
+}
 
 std::vector<std::string> Lookup::matching(const std::string& text, const std::vector<int>& fields) const {
     std::vector<std::string> found;
     const std::string lower_text = values::lower(text);
-    for (const store::Contact& contact : session_.directory().contacts())
+    for (const store::Contact& contact : database_.directory().contacts())
         if (has_text(contact, lower_text, fields))
             found.push_back(contact.id);
     return found;
 }
 
 void Lookup::include(const std::string& contact) {
-    if (!is_everybody_)
-        members_.insert(contact);
+    if (members_)
+        members_->insert(contact);
     fill();
     emit changed();
     go_to(contact);
 }
 
 bool Lookup::go_to(const std::string& contact) {
-    if (!session_.directory().contact(contact))
+    if (!database_.directory().contact(contact))
         return false;
     make_current(contact);
     return true;
@@ -69,7 +68,7 @@ int Lookup::position() const {
 void Lookup::reread() {
     fill();
     const std::string before = current_;
-    if (!session_.directory().contact(current_))
+    if (!database_.directory().contact(current_))
         current_ = contacts_.empty() ? std::string() : contacts_.front();
     emit changed();
     if (current_ != before)
@@ -78,12 +77,12 @@ void Lookup::reread() {
 
 void Lookup::fill() {
     contacts_.clear();
-    for (const store::Contact& contact : session_.directory().contacts())
-        if (is_everybody_ || members_.contains(contact.id))
+    for (const store::Contact& contact : database_.directory().contacts())
+        if (!members_ || members_->contains(contact.id))
             contacts_.push_back(contact.id);
 }
 
-// The id is a copy: leaving may store what was typed, and the lookup is then filled anew.
+// The id is a copy: leaving may store what was typed, and the lookup is then filled again.
 void Lookup::make_current(std::string contact) {
     if (before_leaving)
         before_leaving();
@@ -93,10 +92,9 @@ void Lookup::make_current(std::string contact) {
     emit current_changed();
 }
 
-void Lookup::replace(bool is_everybody, std::set<std::string> members) {
+void Lookup::replace(std::optional<std::set<std::string>> members) {
     if (before_leaving)
         before_leaving();
-    is_everybody_ = is_everybody;
     members_ = std::move(members);
     fill();
     emit changed();

@@ -5,6 +5,7 @@
 #include <QObject>
 
 #include <functional>
+#include <optional>
 #include <set>
 #include <string>
 #include <vector>
@@ -16,7 +17,7 @@ class Lookup : public QObject {
     Q_OBJECT
 
 public:
-    explicit Lookup(OpenDatabase& session);
+    explicit Lookup(OpenDatabase& database);
 
     // Called before another contact is shown; what it throws keeps the present one.
     std::function<void()> before_leaving;
@@ -33,7 +34,6 @@ public:
     bool go_to(const std::string& contact);
     void step(int places); // along the lookup, as far as it goes
 
-    bool is_everybody() const { return is_everybody_; }
     const std::vector<std::string>& contacts() const { return contacts_; } // in the database's order
     const std::string& current() const { return current_; }                // empty for none
     int position() const; // of the current contact in the lookup, from 0; -1 outside
@@ -46,11 +46,10 @@ private:
     void reread();
     void fill();
     void make_current(std::string contact);
-    void replace(bool is_everybody, std::set<std::string> members);
+    void replace(std::optional<std::set<std::string>> members);
 
-    OpenDatabase& session_;
-    bool is_everybody_ = true;
-    std::set<std::string> members_;
+    OpenDatabase& database_;
+    std::optional<std::set<std::string>> members_; // absent for all contacts
     std::vector<std::string> contacts_;
     std::string current_;
 };

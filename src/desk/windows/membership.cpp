@@ -8,29 +8,29 @@ namespace windows {
 namespace {
 
 template <typename Change>
-void change_group(OpenDatabase& session, const std::string& id, Change&& change) {
-    session.store().together([&] {
-        auto group = session.store().group(id);
+void change_group(OpenDatabase& database, const std::string& id, Change&& change) {
+    database.store().together([&] {
+        auto group = database.store().group(id);
         if (!group)
             model::refuse("The group isn't in the database any more.");
         change(group->contacts);
-        session.store().update(*group);
+        database.store().update(*group);
     });
-    session.refresh();
+    database.refresh();
 }
 
 } // namespace
 
-void add_members(OpenDatabase& session, const std::string& group, const std::vector<std::string>& contacts) {
-    change_group(session, group, [&](std::vector<std::string>& members) {
+void add_members(OpenDatabase& database, const std::string& group, const std::vector<std::string>& contacts) {
+    change_group(database, group, [&](std::vector<std::string>& members) {
         for (const std::string& contact : contacts)
             if (std::find(members.begin(), members.end(), contact) == members.end())
                 members.push_back(contact);
     });
 }
 
-void remove_member(OpenDatabase& session, const std::string& group, const std::string& contact) {
-    change_group(session, group, [&](std::vector<std::string>& members) { std::erase(members, contact); });
+void remove_member(OpenDatabase& database, const std::string& group, const std::string& contact) {
+    change_group(database, group, [&](std::vector<std::string>& members) { std::erase(members, contact); });
 }
 
 } // namespace windows

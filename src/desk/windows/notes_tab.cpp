@@ -7,10 +7,10 @@
 
 namespace windows {
 
-NotesTab::NotesTab(OpenDatabase& session, QWidget* parent)
-    : QWidget(parent), session_(session), ui_(std::make_unique<Ui::NotesTab>()) {
+NotesTab::NotesTab(OpenDatabase& database, QWidget* parent)
+    : QWidget(parent), database_(database), ui_(std::make_unique<Ui::NotesTab>()) {
     ui_->setupUi(this);
-    ui_->note_table->set_columns(note_columns(), -1);
+    ui_->note_table->set_columns(note_columns());
     ui_->splitter->setSizes({3, 2});
     connect(ui_->note_table, &RecordTable::chosen, this, &NotesTab::show_note);
     connect(ui_->draft_edit, &QPlainTextEdit::textChanged, this,
@@ -26,7 +26,7 @@ void NotesTab::show_contact(const std::string& contact) {
     if (contact != contact_)
         ui_->draft_edit->clear();
     contact_ = contact;
-    ui_->draft_edit->setEnabled(!contact.empty() && !session_.store().is_read_only());
+    ui_->draft_edit->setEnabled(!contact.empty() && !database_.store().is_read_only());
     ui_->add_note_button->setEnabled(has_draft());
     reload();
 }
@@ -34,7 +34,8 @@ void NotesTab::show_contact(const std::string& contact) {
 void NotesTab::save_draft() {
     if (!has_draft())
         return;
-    session_.store().add(store::Note{{}, contact_, session_.now(), stored(ui_->draft_edit->toPlainText())});
+    database_.store().add(store::Note{
+        .contact = contact_, .written = database_.now(), .text = stored(ui_->draft_edit->toPlainText())});
     ui_->draft_edit->clear();
     reload();
 }
@@ -44,8 +45,8 @@ bool NotesTab::has_draft() const {
 }
 
 void NotesTab::reload() {
-    notes_ = contact_.empty() ? std::vector<store::Note>() : session_.store().notes(contact_);
-    ui_->note_table->show_rows(note_rows(notes_, session_.locale()));
+    notes_ = contact_.empty() ? std::vector<store::Note>() : database_.store().notes(contact_);
+    ui_->note_table->show_rows(note_rows(notes_, database_.locale()));
     show_note(ui_->note_table->current_id());
 }
 

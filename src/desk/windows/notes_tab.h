@@ -19,7 +19,7 @@ class NotesTab : public QWidget {
     Q_OBJECT
 
 public:
-    explicit NotesTab(OpenDatabase& session, QWidget* parent = nullptr);
+    explicit NotesTab(OpenDatabase& database, QWidget* parent = nullptr);
     ~NotesTab() override;
 
     void show_contact(const std::string& contact); // empty for none
@@ -31,7 +31,7 @@ private:
     void reload();
     void show_note(const std::string& id);
 
-    OpenDatabase& session_;
+    OpenDatabase& database_;
     std::unique_ptr<Ui::NotesTab> ui_;
     std::string contact_;
     std::vector<store::Note> notes_;

@@ -8,7 +8,7 @@ namespace windows {
 // The toolbar commands of whichever database is open. Without one every member fails with 440.
 class OpenToolbarCommands : public store::ToolbarCommands {
 public:
-    explicit OpenToolbarCommands(const OpenDatabase& session) : session_(session) {}
+    explicit OpenToolbarCommands(const OpenDatabase& database) : database_(database) {}
 
     std::vector<store::ToolbarCommand> all() override { return commands().all(); }
     std::vector<store::ToolbarCommand> at(store::CommandPlace place, int view) override {
@@ -27,9 +27,9 @@ public:
     }
 
 private:
-    store::ToolbarCommands& commands() const { return session_.store().toolbar_commands(); }
+    store::ToolbarCommands& commands() const { return database_.store().toolbar_commands(); }
 
-    const OpenDatabase& session_;
+    const OpenDatabase& database_;
 };
 
 } // namespace windows

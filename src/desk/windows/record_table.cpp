@@ -46,12 +46,12 @@ RecordTable::RecordTable(QWidget* parent) : QTableView(parent) {
     connect(this, &QTableView::doubleClicked, this, [this] { emit opened(current_id()); });
 }
 
-void RecordTable::set_columns(std::vector<Column> columns, int sorted_by) {
+void RecordTable::set_columns(std::vector<Column> columns, std::optional<int> sorted_by) {
     model_ = new RecordModel(std::move(columns), this);
     sorted_.setSourceModel(model_);
     setModel(&sorted_);
     setSortingEnabled(true);
-    sortByColumn(sorted_by, Qt::AscendingOrder);
+    sortByColumn(sorted_by.value_or(-1), Qt::AscendingOrder);
 }
 
 void RecordTable::show_rows(std::vector<Row> rows) {

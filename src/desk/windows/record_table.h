@@ -5,6 +5,7 @@
 #include <QSortFilterProxyModel>
 #include <QTableView>
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -17,8 +18,9 @@ class RecordTable : public QTableView {
 public:
     explicit RecordTable(QWidget* parent = nullptr);
 
-    // Called once, before the rows are shown. Sorts by the column, or keeps the order of the rows with -1.
-    void set_columns(std::vector<Column> columns, int sorted_by);
+    // Called once, before the rows are shown. Sorts by the column of that number, from 0; without one the rows
+    // keep their order.
+    void set_columns(std::vector<Column> columns, std::optional<int> sorted_by = std::nullopt);
     void show_rows(std::vector<Row> rows);
 
     int row_count() const;

@@ -30,7 +30,7 @@ public:
                    store::DateTime start, const values::Locale& locale);
     void set_start(store::DateTime start) { start_ = start; }
 
-    // The rule as it stands. Fails with 440 when it can't bring forth a date: no day is chosen, or the end lies
+    // The rule as it stands. Fails with 440 when no date can follow from it: no day is chosen, or the end lies
     // before the start.
     store::Recurrence rule() const;
     std::vector<store::DateTime> exceptions() const; // rising; none when the activity doesn't repeat

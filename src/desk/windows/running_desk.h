@@ -12,8 +12,16 @@ class ContactPage;
 // The windows as other programs see them.
 class RunningDesk : public model::Desk, private model::ContactView {
 public:
-    RunningDesk(OpenDatabase& session, Lookup& lookup, ContactPage& page, const CommandTable& commands,
-                ActivityCommands& activity_commands);
+    struct Shown {
+        Lookup& lookup;
+        ContactPage& page;
+    };
+    struct Commands {
+        const CommandTable& by_number;
+        ActivityCommands& on_activities;
+    };
+    // What it is given outlives it.
+    RunningDesk(OpenDatabase& database, const Shown& shown, const Commands& commands);
 
     std::string database_path() const override;
     model::ContactView& contact_view() override { return *this; }
@@ -32,11 +40,9 @@ private:
     store::Activity activity(int row) const override;
     void select_activity(int row, bool selected) override;
 
-    OpenDatabase& session_;
-    Lookup& lookup_;
-    ContactPage& page_;
-    const CommandTable& commands_;
-    ActivityCommands& activity_commands_;
+    OpenDatabase& database_;
+    const Shown shown_;
+    const Commands commands_;
 };
 
 } // namespace windows

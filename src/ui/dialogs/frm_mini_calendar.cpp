@@ -61,16 +61,17 @@ void frmMiniCalendar::Form_Load() {
         QList<QRect> screens;
         for (const QScreen* screen : QGuiApplication::screens())
             screens << screen->geometry();
-        move(place_in_view(
-            {picture::pixels(place.left), picture::pixels(place.top), sizeHint().width(), sizeHint().height()},
-            screens));
+        move(place_in_view({picture::pixels_from_twips(place.left), picture::pixels_from_twips(place.top),
+                            sizeHint().width(), sizeHint().height()},
+                           screens));
     });
 }
 
 void frmMiniCalendar::Form_Unload() {
     here_.guarded("in frmMiniCalendar: Sub Form_Unload - Line # ", [&](host::Step& step) {
         step = 10;
-        forms::store_mini_calendar_place({.top = picture::twips(y()), .left = picture::twips(x())}, store_);
+        forms::store_mini_calendar_place(
+            {.top = picture::twips_from_pixels(y()), .left = picture::twips_from_pixels(x())}, store_);
     });
 }
 

@@ -1,6 +1,6 @@
 #include "ui/grid_widget/accessible_cell.h"
 
-#include "core/table/selection_range.h"
+#include "core/table/selection.h"
 
 namespace ui {
 
@@ -62,7 +62,9 @@ void* AccessibleCell::interface_cast(QAccessible::InterfaceType type) {
     return type == QAccessible::TableCellInterface ? static_cast<QAccessibleTableCellInterface*>(this) : nullptr;
 }
 
-bool AccessibleCell::isSelected() const { return isValid() && table::is_selected(model(), row_, col_); }
+bool AccessibleCell::isSelected() const {
+    return isValid() && table::selected_cells(model()).holds({.row = row_, .col = col_});
+}
 
 QList<QAccessibleInterface*> AccessibleCell::columnHeaderCells() const {
     QList<QAccessibleInterface*> headers;

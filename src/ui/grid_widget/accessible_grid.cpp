@@ -1,6 +1,6 @@
 #include "ui/grid_widget/accessible_grid.h"
 
-#include "core/table/selection_range.h"
+#include "core/table/selection.h"
 #include "ui/grid_widget/accessible_cell.h"
 #include "ui/grid_widget/grid_widget.h"
 
@@ -81,26 +81,25 @@ public:
         return titles.join(QLatin1Char(' '));
     }
 
-    int selectedCellCount() const override {
-        return table::selected_rows(model()).count() * table::selected_cols(model()).count();
-    }
+    int selectedCellCount() const override { return table::selected_cells(model()).count(); }
     QList<QAccessibleInterface*> selectedCells() const override {
         QList<QAccessibleInterface*> cells;
-        for (const int row : lines(table::selected_rows(model())))
-            for (const int col : lines(table::selected_cols(model())))
+        const table::CellRange selected = table::selected_cells(model());
+        for (const int row : lines(selected.rows))
+            for (const int col : lines(selected.cols))
                 cells.append(cellAt(row, col));
         return cells;
     }
     // A row or column counts as selected when all of it but its titles is.
     QList<int> selectedRows() const override {
-        const table::LineRange cols = table::selected_cols(model());
+        const auto [rows, cols] = table::selected_cells(model());
         const bool from_end_to_end = cols.first <= model().FixedCols() && cols.last == columnCount() - 1;
-        return from_end_to_end ? lines(table::selected_rows(model())) : QList<int>();
+        return from_end_to_end ? lines(rows) : QList<int>();
     }
     QList<int> selectedColumns() const override {
-        const table::LineRange rows = table::selected_rows(model());
+        const auto [rows, cols] = table::selected_cells(model());
         const bool from_end_to_end = rows.first <= model().FixedRows() && rows.last == rowCount() - 1;
-        return from_end_to_end ? lines(table::selected_cols(model())) : QList<int>();
+        return from_end_to_end ? lines(cols) : QList<int>();
     }
     int selectedRowCount() const override { return static_cast<int>(selectedRows().size()); }
     int selectedColumnCount() const override { return static_cast<int>(selectedColumns().size()); }
@@ -138,7 +137,12 @@ int cell_count(const QRegion& region) {
                            [](int count, const QRect& part) { return count + part.width() * part.height(); });
 }
 
-void tell_selection(QAccessibleInterface& table, const QRect& before, const QRect& now,
+// Columns as x and rows as y, so that ranges can be taken from each other.
+QRect area_of(const table::CellRange& cells) {
+    return QRect(QPoint(cells.cols.first, cells.rows.first), QPoint(cells.cols.last, cells.rows.last));
+}
+
+void tell_selection(QAccessibleInterface& table, const table::CellRange& before, const table::CellRange& now,
                     const std::function<void(QAccessibleEvent*)>& tell) {
     const auto tell_of = [&](QAccessibleInterface* about, QAccessible::Event what) {
         QAccessibleEvent event(about, what);
@@ -151,9 +155,10 @@ void tell_selection(QAccessibleInterface& table, const QRect& before, const QRec
                     if (QAccessibleInterface* cell = table.tableInterface()->cellAt(row, col))
                         tell_of(cell, what);
     };
-    const QRegion added = QRegion(now) - before, removed = QRegion(before) - now;
-    if (now.size() == QSize(1, 1)) {
-        tell_of_cells(now, QAccessible::Selection);
+    const QRegion added = QRegion(area_of(now)) - area_of(before),
+                  removed = QRegion(area_of(before)) - area_of(now);
+    if (now.count() == 1) {
+        tell_of_cells(area_of(now), QAccessible::Selection);
     } else if (cell_count(added) + cell_count(removed) > most_cells_told) {
         tell_of(&table, QAccessible::SelectionWithin);
     } else {
@@ -168,11 +173,6 @@ QAccessibleInterface* make_accessible(const QString&, QObject* object) {
 }
 
 } // namespace
-
-QRect selected_cells(const table::GridModel& model) {
-    const table::LineRange rows = table::selected_rows(model), cols = table::selected_cols(model);
-    return {cols.first, rows.first, cols.count(), rows.count()};
-}
 
 void install_grid_accessibility() { QAccessible::installFactory(make_accessible); }
 
@@ -190,7 +190,7 @@ void tell_screen_readers(GridWidget& widget, const GridNews& news,
     }
     QAccessibleInterface* table = QAccessible::queryAccessibleInterface(&widget);
     if (news.selection_before)
-        tell_selection(*table, *news.selection_before, selected_cells(model), tell);
+        tell_selection(*table, *news.selection_before, table::selected_cells(model), tell);
     if (news.focus && widget.hasFocus()) {
         QAccessibleEvent focus(table->tableInterface()->cellAt(model.Row(), model.Col()), QAccessible::Focus);
         tell(&focus);

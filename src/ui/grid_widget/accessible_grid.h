@@ -1,9 +1,8 @@
 #pragma once
 
-#include "core/table/grid_model.h"
+#include "core/table/cell_range.h"
 
 #include <QAccessible>
-#include <QRect>
 
 #include <functional>
 #include <optional>
@@ -12,15 +11,12 @@ namespace ui {
 
 class GridWidget;
 
-// The columns and rows of a grid's selection.
-QRect selected_cells(const table::GridModel& model);
-
 // What a turn of the event loop has changed.
 struct GridNews {
     bool cells = false;
-    bool size = false;                          // the number of rows or columns
-    bool focus = false;                         // the current cell is another one, or the grid has got the focus
-    std::optional<QRect> selection_before = {}; // its columns and rows, where another is selected now
+    bool size = false;  // the number of rows or columns
+    bool focus = false; // the current cell is another one, or the grid has got the focus
+    std::optional<table::CellRange> selection_before = {}; // where others are selected now
 };
 
 // Makes screen readers find a grid widget as a table: its cells by row and column, fixed ones included, the fixed

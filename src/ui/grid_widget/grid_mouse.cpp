@@ -59,12 +59,12 @@ void GridWidget::mousePressEvent(QMouseEvent* event) {
     if (button == 0 || is_dragging_ || sizer_.is_sizing())
         return;
     if (button == 1) {
-        if (sizer_.begin(place, rows(), cols()))
+        if (sizer_.begin(place, view()))
             return;
         press_left(place, event->modifiers() & Qt::ShiftModifier);
     }
-    const QPoint twips = to_twips(place);
-    emit mouse_pressed(button, shift_number(event->modifiers()), twips.x(), twips.y());
+    const TwipsPlace twips = twips_from_pixels(place);
+    emit mouse_pressed(button, shift_number(event->modifiers()), twips.x, twips.y);
 }
 
 void GridWidget::press_left(QPoint place, bool extends) {
@@ -110,8 +110,8 @@ void GridWidget::mouseReleaseEvent(QMouseEvent* event) {
     const bool drops = is_dragging_;
     end_drag();
     if (drops && viewport()->rect().contains(place)) {
-        const QPoint twips = to_twips(place);
-        emit dropped(twips.x(), twips.y());
+        const TwipsPlace twips = twips_from_pixels(place);
+        emit dropped(twips.x, twips.y);
     }
 }
 
@@ -120,13 +120,13 @@ void GridWidget::mouseDoubleClickEvent(QMouseEvent* event) {
         mousePressEvent(event);
         return;
     }
-    if (!LineSizer::cursor_at(event->position().toPoint(), rows(), cols()))
+    if (!LineSizer::cursor_at(event->position().toPoint(), view()))
         emit double_clicked();
 }
 
 void GridWidget::extend_selection_to(QPoint place) {
-    const int row = nearest_line(rows(), place.y());
-    const int col = nearest_line(cols(), place.x());
+    const int row = nearest_line(view().rows, place.y());
+    const int col = nearest_line(view().cols, place.x());
     if (row < 0 || col < 0)
         return;
     if (row != model_.RowSel())
@@ -137,13 +137,12 @@ void GridWidget::extend_selection_to(QPoint place) {
 
 // The view without the titles.
 QRect GridWidget::cells_rect() const {
-    return viewport()->rect().adjusted(cols().fixed_end(), rows().fixed_end(), 0, 0);
+    return viewport()->rect().adjusted(view().cols.fixed_end(), view().rows.fixed_end(), 0, 0);
 }
 
-// By columns and rows, -1 back and 1 on: for a selection that is drawn beyond the view, for a drag already near
-// its edge. A drag that has not left its own cell doesn't scroll, or a click in the last row could move an
-// activity.
-QPoint GridWidget::scroll_direction() const {
+// A selection scrolls when it is drawn beyond the view, a drag already near its edge. A drag that has not left its
+// own cell doesn't scroll, or a click in the last row could move an activity.
+GridWidget::Scrolling GridWidget::wanted_scrolling() const {
     const QRect cells = cells_rect();
     if (is_dragging_ && !dragged_cell_.isEmpty())
         return {};
@@ -151,22 +150,23 @@ QPoint GridWidget::scroll_direction() const {
         const int reach = is_dragging_ ? std::min(drag_reach, (end - begin) / 4) : 0;
         return at < begin + reach ? -1 : at > end - reach ? 1 : 0;
     };
-    return {direction(pointer_.x(), cells.left(), cells.right()),
-            direction(pointer_.y(), cells.top(), cells.bottom())};
+    return {.rows = direction(pointer_.y(), cells.top(), cells.bottom()),
+            .cols = direction(pointer_.x(), cells.left(), cells.right())};
 }
 
 void GridWidget::scroll_if_at_edge() {
-    if (scroll_direction().isNull())
+    const Scrolling wanted = wanted_scrolling();
+    if (wanted.rows == 0 && wanted.cols == 0)
         scroll_timer_.stop();
     else if (!scroll_timer_.isActive())
         scroll_timer_.start(is_dragging_ ? drag_interval : selection_interval);
 }
 
 void GridWidget::scroll_on() {
-    const QPoint direction = scroll_direction();
+    const Scrolling wanted = wanted_scrolling();
     const auto scroll = [](QScrollBar* bar, int lines) { bar->setValue(bar->value() + lines); };
-    scroll(horizontalScrollBar(), direction.x());
-    scroll(verticalScrollBar(), direction.y());
+    scroll(horizontalScrollBar(), wanted.cols);
+    scroll(verticalScrollBar(), wanted.rows);
     if (is_dragging_)
         tell_drag_moved();
     else
@@ -174,12 +174,12 @@ void GridWidget::scroll_on() {
 }
 
 void GridWidget::tell_drag_moved() {
-    const QPoint twips = to_twips(pointer_);
-    emit drag_moved(twips.x(), twips.y());
+    const TwipsPlace twips = twips_from_pixels(pointer_);
+    emit drag_moved(twips.x, twips.y);
 }
 
 void GridWidget::update_pointer(QPoint place) {
-    if (const auto shape = LineSizer::cursor_at(place, rows(), cols()))
+    if (const auto shape = LineSizer::cursor_at(place, view()))
         viewport()->setCursor(*shape);
     else
         viewport()->unsetCursor();
@@ -189,7 +189,7 @@ void GridWidget::begin_drag() {
     is_dragging_ = true;
     is_selecting_ = false;
     dragged_cell_ = cell_rect(model_.Row(), model_.Col());
-    bars_at_drag_ = {horizontalScrollBar()->value(), verticalScrollBar()->value()};
+    bars_at_drag_ = {.vertical = verticalScrollBar()->value(), .horizontal = horizontalScrollBar()->value()};
     show_drop_permitted(true);
 }
 
@@ -211,8 +211,8 @@ void GridWidget::abandon_mouse_work() {
         sizer_.abandon();
     if (is_dragging_) {
         end_drag();
-        horizontalScrollBar()->setValue(bars_at_drag_.x());
-        verticalScrollBar()->setValue(bars_at_drag_.y());
+        horizontalScrollBar()->setValue(bars_at_drag_.horizontal);
+        verticalScrollBar()->setValue(bars_at_drag_.vertical);
     }
     is_selecting_ = false;
     scroll_timer_.stop();

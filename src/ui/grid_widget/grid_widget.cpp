@@ -1,6 +1,6 @@
 #include "ui/grid_widget/grid_widget.h"
 
-#include "core/table/selection_range.h"
+#include "core/table/selection.h"
 #include "ui/grid_widget/accessible_grid.h"
 #include "ui/grid_widget/cursor_keys.h"
 #include "ui/picture/style.h"
@@ -23,12 +23,15 @@ int scrolled_line(const picture::PixelLines& lines, int position, int present) {
                : present;
 }
 
+table::CellRange all_cells(const table::GridModel& model) {
+    return {.rows = {0, model.Rows() - 1}, .cols = {0, model.Cols() - 1}};
+}
+
 } // namespace
 
 GridWidget::GridWidget(table::GridModel& model, QWidget* parent)
-    : QAbstractScrollArea(parent), model_(model), painter_(font()), sizer_(model),
-      told_size_(model.Cols(), model.Rows()), told_current_(model.Col(), model.Row()),
-      told_selection_(selected_cells(model)) {
+    : QAbstractScrollArea(parent), model_(model), painter_(font()), sizer_(model), told_cells_(all_cells(model)),
+      told_current_(table::current_cell(model)), told_selection_(table::selected_cells(model)) {
     install_grid_accessibility();
     setFocusPolicy(Qt::StrongFocus);
     setFrameShape(QFrame::NoFrame);
@@ -58,7 +61,7 @@ void GridWidget::grid_changed(table::GridChange change) {
         cells_changed_ = true;
         break;
     case table::GridChange::shape:
-        shape_changed_ = lines_are_stale_ = true;
+        shape_changed_ = is_view_stale_ = true;
         break;
     case table::GridChange::current:
         break;
@@ -87,17 +90,17 @@ void GridWidget::settle() {
 
 // A refresh moves the current cell about and back again, of which nobody needs to hear.
 void GridWidget::tell_what_is_new() {
-    const QSize size(model_.Cols(), model_.Rows());
-    const QPoint current(model_.Col(), model_.Row());
-    const QRect selection = selected_cells(model_);
-    const bool is_reshaped = size != told_size_;
+    const table::CellRange cells = all_cells(model_);
+    const table::Place current = table::current_cell(model_);
+    const table::CellRange selection = table::selected_cells(model_);
+    const bool is_reshaped = cells != told_cells_;
     GridNews news{.cells = cells_changed_,
                   .size = is_reshaped,
                   .focus = current != told_current_ || is_reshaped || focus_came_};
     if (selection != told_selection_)
         news.selection_before = told_selection_;
     tell(news);
-    told_size_ = size;
+    told_cells_ = cells;
     told_current_ = current;
     told_selection_ = selection;
 }
@@ -107,22 +110,11 @@ void GridWidget::tell(const GridNews& news) {
         tell_screen_readers(*this, news);
 }
 
-void GridWidget::refresh_lines() const {
-    if (!lines_are_stale_)
-        return;
-    rows_ = picture::PixelLines(model_.rows(), viewport()->height());
-    cols_ = picture::PixelLines(model_.columns(), viewport()->width());
-    lines_are_stale_ = false;
-}
-
-const picture::PixelLines& GridWidget::rows() const {
-    refresh_lines();
-    return rows_;
-}
-
-const picture::PixelLines& GridWidget::cols() const {
-    refresh_lines();
-    return cols_;
+const picture::View& GridWidget::view() const {
+    if (is_view_stale_)
+        view_ = picture::View(model_, viewport()->size());
+    is_view_stale_ = false;
+    return view_;
 }
 
 void GridWidget::sync_scroll_bars() {
@@ -131,51 +123,46 @@ void GridWidget::sync_scroll_bars() {
         bar->setPageStep(lines.lines_in_view());
         bar->setValue(lines.scroll_position());
     };
-    sync(verticalScrollBar(), rows());
-    sync(horizontalScrollBar(), cols());
+    sync(verticalScrollBar(), view().rows);
+    sync(horizontalScrollBar(), view().cols);
 }
 
 // A scroll bar has got a new value: from the user, or because the model no longer reaches as far as it was
 // scrolled.
 void GridWidget::scrollContentsBy(int, int) {
-    scroll_to(scrolled_line(rows(), verticalScrollBar()->value(), model_.TopRow()),
-              scrolled_line(cols(), horizontalScrollBar()->value(), model_.LeftCol()));
+    scroll_to({.row = scrolled_line(view().rows, verticalScrollBar()->value(), model_.TopRow()),
+               .col = scrolled_line(view().cols, horizontalScrollBar()->value(), model_.LeftCol())});
 }
 
 void GridWidget::make_visible(int row, int col) {
-    scroll_to(rows().first_to_show(row), cols().first_to_show(col));
+    scroll_to({.row = view().rows.first_to_show(row), .col = view().cols.first_to_show(col)});
 }
 
-void GridWidget::scroll_to(int top, int left) {
-    if (top != model_.TopRow())
-        model_.TopRow(top);
-    if (left != model_.LeftCol())
-        model_.LeftCol(left);
+void GridWidget::scroll_to(table::Place first) {
+    if (first.row != model_.TopRow())
+        model_.TopRow(first.row);
+    if (first.col != model_.LeftCol())
+        model_.LeftCol(first.col);
 }
 
 QRect GridWidget::cell_rect(int row, int col) const {
-    if (!rows().shows(row) || !cols().shows(col))
-        return {};
-    return QRect(cols().begin(col), rows().begin(row), cols().size(col), rows().size(row));
+    const table::Place cell{.row = row, .col = col};
+    return view().shows(cell) ? view().rect_of(cell) : QRect();
 }
 
-QPoint GridWidget::to_twips(QPoint place) const {
-    return {cols().to_twips(place.x(), model_.columns()), rows().to_twips(place.y(), model_.rows())};
+GridWidget::TwipsPlace GridWidget::twips_from_pixels(QPoint place) const {
+    return {.x = view().cols.twips_from_pixels(place.x(), model_.columns()),
+            .y = view().rows.twips_from_pixels(place.y(), model_.rows())};
 }
 
 void GridWidget::paintEvent(QPaintEvent*) {
     QPainter painter(viewport());
-    painter_.paint(painter, viewport()->rect(), model_, rows(), cols(),
+    painter_.paint(painter, viewport()->rect(), model_, view(),
                    hasFocus() ? picture::Marks::with_focus : picture::Marks::without_focus);
 }
 
-QSize GridWidget::viewportSizeHint() const {
-    return {picture::PixelLines::whole(model_.columns()).total_end(),
-            picture::PixelLines::whole(model_.rows()).total_end()};
-}
-
 void GridWidget::resizeEvent(QResizeEvent*) {
-    lines_are_stale_ = true;
+    is_view_stale_ = true;
     sync_scroll_bars();
 }
 
@@ -189,7 +176,7 @@ void GridWidget::changeEvent(QEvent* event) {
 
 void GridWidget::focusInEvent(QFocusEvent* event) {
     QAbstractScrollArea::focusInEvent(event);
-    focus_came_ = true; // the cell is told behind the widget itself, so that it is what is spoken last
+    focus_came_ = true; // the cell is told after the widget itself, so that it is what is spoken last
     settle_soon();
 }
 
@@ -203,7 +190,7 @@ void GridWidget::keyPressEvent(QKeyEvent* event) {
     if (is_dragging_ && event->key() != Qt::Key_Escape)
         return; // what is drawn mustn't lose the ground it came from
     const bool extends = event->modifiers() & Qt::ShiftModifier;
-    if (move_cursor(model_, event->key(), event->modifiers(), rows().lines_in_view())) {
+    if (move_cursor(model_, event->key(), event->modifiers(), view().rows.lines_in_view())) {
         make_visible(extends ? model_.RowSel() : model_.Row(), extends ? model_.ColSel() : model_.Col());
         emit cursor_moved();
         return;
@@ -244,8 +231,8 @@ bool GridWidget::show_current_cell() {
 void GridWidget::request_menu() {
     if (!show_current_cell())
         return;
-    const QPoint middle = to_twips(cell_rect(model_.Row(), model_.Col()).center());
-    emit menu_requested(middle.x(), middle.y());
+    const TwipsPlace middle = twips_from_pixels(cell_rect(model_.Row(), model_.Col()).center());
+    emit menu_requested(middle.x, middle.y);
 }
 
 } // namespace ui

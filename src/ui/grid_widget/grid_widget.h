@@ -3,13 +3,12 @@
 #include "core/table/grid_model.h"
 #include "ui/grid_widget/line_sizer.h"
 #include "ui/picture/grid_painter.h"
-#include "ui/picture/pixel_lines.h"
+#include "ui/picture/view.h"
 
 #include <QAbstractScrollArea>
 #include <QTimer>
 
 #include <optional>
-#include <utility>
 
 namespace ui {
 
@@ -36,8 +35,8 @@ public:
     void make_visible(int row, int col);
     // Where a cell lies in the viewport, in pixels; empty for a hidden or rolled away one.
     QRect cell_rect(int row, int col) const;
-    // Row and column at a place in the viewport; -1 where there is none.
-    std::pair<int, int> cell_at(QPoint place) const { return {rows().at(place.y()), cols().at(place.x())}; }
+    // The cell at a place in the viewport; its row or column is -1 where there is none.
+    table::Place cell_at(QPoint place) const { return view().cell_at(place); }
 
     // The user draws the current cell from the press on until the button is let go. At an edge of the view the
     // grid scrolls. Escape, or somebody else's getting the focus, gives the drag up and scrolls back.
@@ -72,7 +71,6 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
-    QSize viewportSizeHint() const override;
     // Hands what is new to screen readers, where one listens.
     virtual void tell(const GridNews& news);
 
@@ -83,16 +81,21 @@ private:
     void settle();
     void tell_what_is_new();
     void sync_scroll_bars();
-    void scroll_to(int top, int left); // the first row and column behind the titles
-    const picture::PixelLines& rows() const;
-    const picture::PixelLines& cols() const;
-    void refresh_lines() const;
-    QPoint to_twips(QPoint place) const;
+    void scroll_to(table::Place first); // the first row and column after the titles
+    const picture::View& view() const;
+    struct TwipsPlace {
+        int x, y;
+    };
+    TwipsPlace twips_from_pixels(QPoint place) const;
 
     void press_left(QPoint place, bool extends);
     void extend_selection_to(QPoint place);
     QRect cells_rect() const;
-    QPoint scroll_direction() const;
+    struct Scrolling { // by lines, -1 back and 1 on
+        int rows = 0;
+        int cols = 0;
+    };
+    Scrolling wanted_scrolling() const;
     void scroll_if_at_edge();
     void scroll_on();
     void tell_drag_moved();
@@ -109,13 +112,17 @@ private:
     QPoint pointer_;      // where the pointer was last, in the viewport
     QRect dragged_cell_;  // where the cell lies that is dragged, until the pointer has left it
     std::optional<bool> shown_permission_; // what the pointer says while something is dragged
-    QPoint bars_at_drag_;                  // the scroll bars' values when the drag began
-    mutable picture::PixelLines rows_, cols_;
-    mutable bool lines_are_stale_ = true;
-    // What screen readers know of, in columns and rows.
-    QSize told_size_;
-    QPoint told_current_;
-    QRect told_selection_;
+    struct BarValues {
+        int vertical = 0;
+        int horizontal = 0;
+    };
+    BarValues bars_at_drag_; // when the drag began
+    mutable picture::View view_;
+    mutable bool is_view_stale_ = true;
+    // What screen readers know of.
+    table::CellRange told_cells_; // all of the grid
+    table::Place told_current_;
+    table::CellRange told_selection_;
     bool is_locked_ = false;
     bool is_selecting_ = false;
     bool is_dragging_ = false;

@@ -6,39 +6,37 @@
 
 namespace ui {
 
-std::optional<LineSizer::Border> LineSizer::border_at(QPoint place, const picture::PixelLines& rows,
-                                                      const picture::PixelLines& cols) {
-    if (place.y() >= 0 && place.y() < rows.fixed_end())
-        if (const int col = cols.border_at(place.x(), reach); col >= 0)
-            return Border{false, col};
-    if (place.x() >= 0 && place.x() < cols.fixed_end())
-        if (const int row = rows.border_at(place.y(), reach); row >= 0)
-            return Border{true, row};
+std::optional<LineSizer::Border> LineSizer::border_at(QPoint place, const picture::View& view) {
+    if (place.y() >= 0 && place.y() < view.rows.fixed_end())
+        if (const int col = view.cols.border_at(place.x(), reach); col >= 0)
+            return Border{Kind::column, col};
+    if (place.x() >= 0 && place.x() < view.cols.fixed_end())
+        if (const int row = view.rows.border_at(place.y(), reach); row >= 0)
+            return Border{Kind::row, row};
     return std::nullopt;
 }
 
-std::optional<Qt::CursorShape> LineSizer::cursor_at(QPoint place, const picture::PixelLines& rows,
-                                                    const picture::PixelLines& cols) {
-    const auto border = border_at(place, rows, cols);
+std::optional<Qt::CursorShape> LineSizer::cursor_at(QPoint place, const picture::View& view) {
+    const auto border = border_at(place, view);
     if (!border)
         return std::nullopt;
-    return border->of_row ? Qt::SplitVCursor : Qt::SplitHCursor;
+    return border->kind == Kind::row ? Qt::SplitVCursor : Qt::SplitHCursor;
 }
 
-bool LineSizer::begin(QPoint place, const picture::PixelLines& rows, const picture::PixelLines& cols) {
-    const auto border = border_at(place, rows, cols);
+bool LineSizer::begin(QPoint place, const picture::View& view) {
+    const auto border = border_at(place, view);
     if (!border)
         return false;
-    sizes_row_ = border->of_row;
+    kind_ = border->kind;
     line_ = border->line;
-    pressed_at_ = sizes_row_ ? place.y() : place.x();
-    size_before_ = sizes_row_ ? model_.RowHeight(line_) : model_.ColWidth(line_);
+    pressed_at_ = along_axis(place);
+    size_before_ = kind_ == Kind::row ? model_.RowHeight(line_) : model_.ColWidth(line_);
     return true;
 }
 
 void LineSizer::move_to(QPoint place) {
-    const int moved = (sizes_row_ ? place.y() : place.x()) - pressed_at_;
-    set_size(std::max(least_size * picture::twips_per_pixel, size_before_ + moved * picture::twips_per_pixel));
+    const int moved = along_axis(place) - pressed_at_;
+    set_size(std::max(picture::twips_from_pixels(least_size), size_before_ + picture::twips_from_pixels(moved)));
 }
 
 void LineSizer::abandon() {
@@ -47,9 +45,9 @@ void LineSizer::abandon() {
 }
 
 void LineSizer::set_size(int twips) {
-    if (line_ >= (sizes_row_ ? model_.Rows() : model_.Cols()))
+    if (line_ >= (kind_ == Kind::row ? model_.Rows() : model_.Cols()))
         return; // the grid has been reshaped meanwhile
-    if (sizes_row_)
+    if (kind_ == Kind::row)
         model_.RowHeight(line_, twips);
     else
         model_.ColWidth(line_, twips);

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/table/grid_model.h"
-#include "ui/picture/pixel_lines.h"
+#include "ui/picture/view.h"
 
 #include <QPoint>
 #include <Qt>
@@ -16,10 +16,9 @@ public:
     explicit LineSizer(table::GridModel& model) : model_(model) {}
 
     // The pointer for a place over the grid, if a press there would begin to resize.
-    static std::optional<Qt::CursorShape> cursor_at(QPoint place, const picture::PixelLines& rows,
-                                                    const picture::PixelLines& cols);
+    static std::optional<Qt::CursorShape> cursor_at(QPoint place, const picture::View& view);
     // Begins to resize when a border is there.
-    bool begin(QPoint place, const picture::PixelLines& rows, const picture::PixelLines& cols);
+    bool begin(QPoint place, const picture::View& view);
     bool is_sizing() const { return line_ >= 0; }
     // Gives the line the size to which the pointer has been drawn. It doesn't get so small that it couldn't be
     // drawn back.
@@ -32,16 +31,17 @@ public:
     static constexpr int least_size = 12; // pixels
 
 private:
+    enum class Kind { row, column };
     struct Border {
-        bool of_row;
+        Kind kind;
         int line;
     };
-    static std::optional<Border> border_at(QPoint place, const picture::PixelLines& rows,
-                                           const picture::PixelLines& cols);
+    static std::optional<Border> border_at(QPoint place, const picture::View& view);
+    int along_axis(QPoint place) const { return kind_ == Kind::row ? place.y() : place.x(); }
     void set_size(int twips);
 
     table::GridModel& model_;
-    bool sizes_row_ = false;
+    Kind kind_ = Kind::row; // of the line that is sized
     int line_ = -1;
     int pressed_at_ = 0;  // pixels along the axis
     int size_before_ = 0; // twips

@@ -24,7 +24,7 @@ WindowFace::WindowFace(QMainWindow& window, Ui::frmMain& controls, std::function
       window_(window), controls_(controls), unload_(std::move(unload)) {
     // The bar is as wide as the grid, and its controls have to stand beside each other.
     window.setMinimumWidth(controls.picBar->minimumSizeHint().width() +
-                           picture::pixels(shell::Sizing::beside_grid));
+                           picture::pixels_from_twips(shell::Sizing::beside_grid));
 }
 
 // The frame's corner and the size inside the frame, as move and resize take them.
@@ -40,21 +40,21 @@ QRect WindowFace::normal_place() const {
     return {is_unmoved ? given_corner_ : corner, normal.size()};
 }
 
-int WindowFace::left() const { return picture::twips(normal_place().x()); }
-int WindowFace::top() const { return picture::twips(normal_place().y()); }
-int WindowFace::width() const { return picture::twips(normal_place().width()); }
-int WindowFace::height() const { return picture::twips(normal_place().height()); }
-void WindowFace::set_left(int twips) { move_to({picture::pixels(twips), window_.y()}); }
-void WindowFace::set_top(int twips) { move_to({window_.x(), picture::pixels(twips)}); }
+int WindowFace::left() const { return picture::twips_from_pixels(normal_place().x()); }
+int WindowFace::top() const { return picture::twips_from_pixels(normal_place().y()); }
+int WindowFace::width() const { return picture::twips_from_pixels(normal_place().width()); }
+int WindowFace::height() const { return picture::twips_from_pixels(normal_place().height()); }
+void WindowFace::set_left(int twips) { move_to({picture::pixels_from_twips(twips), window_.y()}); }
+void WindowFace::set_top(int twips) { move_to({window_.x(), picture::pixels_from_twips(twips)}); }
 void WindowFace::move_to(QPoint corner) {
     given_corner_ = corner;
     window_.move(corner);
 }
 void WindowFace::set_size(int width, int height) {
-    window_.resize(picture::pixels(width), picture::pixels(height));
+    window_.resize(picture::pixels_from_twips(width), picture::pixels_from_twips(height));
 }
-int WindowFace::screen_width() const { return picture::twips(window_.screen()->size().width()); }
-int WindowFace::screen_height() const { return picture::twips(window_.screen()->size().height()); }
+int WindowFace::screen_width() const { return picture::twips_from_pixels(window_.screen()->size().width()); }
+int WindowFace::screen_height() const { return picture::twips_from_pixels(window_.screen()->size().height()); }
 
 shell::WindowState WindowFace::window_state() const {
     if (window_.isMinimized())
@@ -78,12 +78,13 @@ void WindowFace::set_window_state(shell::WindowState state) {
 
 void WindowFace::hide() { window_.hide(); }
 
-int WindowFace::present_width() const { return picture::twips(window_.width()); }
-int WindowFace::present_height() const { return picture::twips(window_.height()); }
+int WindowFace::present_width() const { return picture::twips_from_pixels(window_.width()); }
+int WindowFace::present_height() const { return picture::twips_from_pixels(window_.height()); }
 
 // The bar stands above the year and the grid below it, all as wide as the grid and in the middle of the window.
 void WindowFace::set_grid_size(int width, int height) {
-    const QSize size(std::max(picture::pixels(width), 0), std::max(picture::pixels(height), 0));
+    const QSize size(std::max(picture::pixels_from_twips(width), 0),
+                     std::max(picture::pixels_from_twips(height), 0));
     const int left = (controls_.picForm->width() - size.width()) / 2;
     controls_.picBar->setGeometry(left, controls_.picBar->y(), size.width(), controls_.picBar->height());
     controls_.lblYear->move(left, controls_.lblYear->y());
@@ -92,7 +93,7 @@ void WindowFace::set_grid_size(int width, int height) {
 }
 
 void WindowFace::set_lblYear_width(int width) {
-    controls_.lblYear->resize(std::max(picture::pixels(width), 0), controls_.lblYear->height());
+    controls_.lblYear->resize(std::max(picture::pixels_from_twips(width), 0), controls_.lblYear->height());
 }
 
 bool WindowFace::chkView(int index) const { return view_boxes[static_cast<std::size_t>(index)]->isChecked(); }

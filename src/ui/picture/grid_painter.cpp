@@ -1,6 +1,6 @@
 #include "ui/picture/grid_painter.h"
 
-#include "core/table/selection_range.h"
+#include "core/table/selection.h"
 #include "ui/picture/style.h"
 
 #include <QPaintEngine>
@@ -14,12 +14,14 @@ namespace picture {
 
 namespace {
 
-// Where something of that size begins in its room: at the begin (0), in the middle (1) or at the end (2).
+// Where something of that size begins in its room: at the start (0), in the middle (1) or at the end (2).
 int placed(int begin, int room, int size, int where) { return begin + std::max(0, room - size) * where / 2; }
 
 // 0 top, 1 centre, 2 bottom; 0 left, 1 centre, 2 right.
 int vertical(table::Alignment alignment) { return static_cast<int>(alignment) % 3; }
 int horizontal(table::Alignment alignment) { return std::min(2, static_cast<int>(alignment) / 3); }
+
+TextBlock::Side side_of(table::Alignment alignment) { return static_cast<TextBlock::Side>(horizontal(alignment)); }
 
 // How many dots of the device a pixel has; enough for paper where there is no screen.
 qreal picture_ratio(const QPainter& painter) {
@@ -33,53 +35,51 @@ std::string_view without_leading_blanks(std::string_view text) {
 
 } // namespace
 
-QRect GridPainter::Scene::extent() const { return QRect(0, 0, cols.total_end(), rows.total_end()); }
+QRect GridPainter::Scene::extent() const { return QRect(0, 0, view.cols.total_end(), view.rows.total_end()); }
 
-bool GridPainter::Scene::is_marked(int row, int col) const {
-    const bool is_title = row < rows.fixed() || col < cols.fixed();
-    const bool several = table::selected_rows(model).count() > 1 || table::selected_cols(model).count() > 1;
-    return marks != Marks::none && several && !is_title && table::is_selected(model, row, col);
+bool GridPainter::Scene::is_marked(table::Place cell) const {
+    const table::CellRange selected = table::selected_cells(model);
+    return selected.count() > 1 && !view.is_title(cell) && selected.holds(cell);
 }
 
-void GridPainter::paint(QPainter& painter, const QRect& area, const table::GridModel& model,
-                        const PixelLines& rows, const PixelLines& cols, Marks marks) {
-    const Scene scene{painter, model, rows, cols, marks};
+void GridPainter::paint(QPainter& painter, const QRect& area, const table::GridModel& model, const View& view,
+                        Marks marks) {
+    const Scene scene{painter, model, view, marks};
     for (const QRect& rest : QRegion(area) - scene.extent())
         painter.fillRect(rest, style::beyond);
-    // Cell by cell, ground and text together: what was just filled is still at hand for the text to go on.
-    for (const int row : rows.shown())
-        for (const int col : cols.shown()) {
-            paint_ground(scene, row, col);
-            paint_contents(scene, row, col);
+    // Cell by cell, ground and text together: what was just filled is still cached when the text goes over it.
+    for (const int row : view.rows.shown())
+        for (const int col : view.cols.shown()) {
+            paint_ground(scene, {.row = row, .col = col});
+            paint_contents(scene, {.row = row, .col = col});
         }
-    if (marks != Marks::none)
-        paint_current_frame(scene);
+    paint_current_frame(scene);
 }
 
 // The line at the right and lower edge is the ground made darker, darker still at the end of the titles. It stands
 // on the last pixel and is opaque, which is far quicker than half clear lines laid over all.
-void GridPainter::paint_ground(const Scene& scene, int row, int col) const {
-    const bool is_title = row < scene.rows.fixed() || col < scene.cols.fixed();
-    QColor colour = screen_colour(scene.model.cell(row, col).back_colour, is_title ? style::title : style::ground);
-    if (scene.is_marked(row, col))
+void GridPainter::paint_ground(const Scene& scene, table::Place cell) const {
+    QColor colour = screen_colour(scene.model.cell(cell.row, cell.col).back_colour,
+                                  scene.view.is_title(cell) ? style::title : style::ground);
+    if (scene.is_marked(cell))
         colour = mixed(colour, style::selection, style::selection_percent);
     const auto line_colour = [&](bool ends_titles) {
         return mixed(colour, style::line, ends_titles ? style::title_line_percent : style::line_percent);
     };
-    const QRect rect = scene.cell_rect(row, col);
+    const QRect rect = scene.view.rect_of(cell);
     scene.painter.fillRect(rect, colour);
     scene.painter.fillRect(QRect(rect.right(), rect.top(), 1, rect.height()),
-                           line_colour(col == scene.cols.fixed() - 1));
+                           line_colour(cell.col == scene.view.cols.fixed() - 1));
     scene.painter.fillRect(QRect(rect.left(), rect.bottom(), rect.width(), 1),
-                           line_colour(row == scene.rows.fixed() - 1));
+                           line_colour(cell.row == scene.view.rows.fixed() - 1));
 }
 
-void GridPainter::paint_contents(const Scene& scene, int row, int col) {
-    const table::GridCell& cell = scene.model.cell(row, col);
+void GridPainter::paint_contents(const Scene& scene, table::Place place) {
+    const table::GridCell& cell = scene.model.cell(place.row, place.col);
     if (cell.text.empty() && cell.picture == 0)
         return;
     QPainter& painter = scene.painter;
-    const QRect rect = scene.cell_rect(row, col).adjusted(0, 0, -1, -1);
+    const QRect rect = scene.view.rect_of(place).adjusted(0, 0, -1, -1);
     QRect room = rect.adjusted(style::padding_x, 0, -style::padding_x, 0);
     const int padding = std::min(style::padding_y, rect.height() / 4);
     std::string_view text = cell.text;
@@ -99,11 +99,11 @@ void GridPainter::paint_contents(const Scene& scene, int row, int col) {
             const QSize size = picture.deviceIndependentSize().toSize();
             const int top = placed(room.top() + padding, room.height() - 2 * padding, size.height(),
                                    vertical(cell.picture_alignment));
-            const auto on_dot = [ratio](int place) { return std::round(place * ratio) / ratio; };
+            const auto on_dot = [ratio](int edge) { return std::round(edge * ratio) / ratio; };
             keep_inside(QRect(QPoint(room.left(), top), size));
             painter.drawPixmap(QPointF(on_dot(room.left()), on_dot(top)), picture);
             room.setLeft(room.left() + size.width() + style::picture_gap);
-            // The blanks at the text's begin are the room that it leaves for the picture.
+            // The blanks at the beginning of the text are the room that it leaves for the picture.
             text = without_leading_blanks(text);
         }
     }
@@ -115,8 +115,9 @@ void GridPainter::paint_contents(const Scene& scene, int row, int col) {
         text = bare;
     }
     if (!text.empty() && room.width() > 0) {
-        const TextBlock& block = texts_.block(text, cell.bold, room.width(), room.height() - 2 * padding);
-        const bool in_title_row = row < scene.rows.fixed();
+        const TextBlock& block = texts_.block(text, cell.bold ? Weight::bold : Weight::regular,
+                                              {room.width(), room.height() - 2 * padding});
+        const bool in_title_row = place.row < scene.view.rows.fixed();
         const bool is_tight = block.height() > room.height() - 2 * padding;
         const int part = in_title_row || is_tight ? 1 : vertical(cell.alignment);
         const int inset = is_tight ? 0 : padding;
@@ -124,20 +125,20 @@ void GridPainter::paint_contents(const Scene& scene, int row, int col) {
         const QColor own = screen_colour(scene.model.ForeColor(), style::text);
         keep_inside(QRect(room.left(), top, room.width(), block.height()));
         painter.setPen(screen_colour(cell.fore_colour, own));
-        block.draw(painter, QPoint(room.left(), top), room.width(),
-                   static_cast<TextBlock::Side>(horizontal(cell.alignment)), cell.strike_through);
+        block.draw(painter, QPoint(room.left(), top), side_of(cell.alignment),
+                   cell.strike_through ? Stroke::struck_through : Stroke::plain);
     }
     if (reaches_out)
         painter.restore();
 }
 
 void GridPainter::paint_current_frame(const Scene& scene) const {
-    const int row = scene.model.Row(), col = scene.model.Col();
-    if (!scene.rows.shows(row) || !scene.cols.shows(col))
+    const table::Place current = table::current_cell(scene.model);
+    if (!scene.view.shows(current))
         return;
     const QColor colour = scene.marks == Marks::with_focus ? style::accent : style::frame_without_focus;
     const int width = style::frame_width;
-    const QRect rect = scene.cell_rect(row, col);
+    const QRect rect = scene.view.rect_of(current);
     scene.painter.fillRect(QRect(rect.left(), rect.top(), rect.width(), width), colour);
     scene.painter.fillRect(QRect(rect.left(), rect.bottom() + 1 - width, rect.width(), width), colour);
     scene.painter.fillRect(QRect(rect.left(), rect.top(), width, rect.height()), colour);

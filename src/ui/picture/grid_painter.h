@@ -2,15 +2,15 @@
 
 #include "core/table/grid_model.h"
 #include "ui/picture/picture_cache.h"
-#include "ui/picture/pixel_lines.h"
 #include "ui/picture/text_blocks.h"
+#include "ui/picture/view.h"
 
 #include <QRect>
 
 namespace picture {
 
-// Whether the current cell and the selection are drawn, and how.
-enum class Marks { none, without_focus, with_focus };
+// How the current cell is framed.
+enum class Marks { without_focus, with_focus };
 
 // Draws a grid's cells.
 class GridPainter {
@@ -18,27 +18,22 @@ public:
     explicit GridPainter(const QFont& font) : texts_(font) {}
     void set_font(const QFont& font) { texts_.set_font(font); }
 
-    // Fills the area, drawing the cells that the lines show.
-    void paint(QPainter& painter, const QRect& area, const table::GridModel& model, const PixelLines& rows,
-               const PixelLines& cols, Marks marks);
+    // Fills the area, drawing the cells that the view shows.
+    void paint(QPainter& painter, const QRect& area, const table::GridModel& model, const View& view, Marks marks);
 
 private:
     struct Scene {
         QPainter& painter;
         const table::GridModel& model;
-        const PixelLines& rows;
-        const PixelLines& cols;
+        const View& view;
         Marks marks;
 
-        QRect cell_rect(int row, int col) const {
-            return QRect(cols.begin(col), rows.begin(row), cols.size(col), rows.size(row));
-        }
         QRect extent() const;
-        bool is_marked(int row, int col) const;
+        bool is_marked(table::Place cell) const;
     };
 
-    void paint_ground(const Scene& scene, int row, int col) const;
-    void paint_contents(const Scene& scene, int row, int col);
+    void paint_ground(const Scene& scene, table::Place cell) const;
+    void paint_contents(const Scene& scene, table::Place cell);
     void paint_current_frame(const Scene& scene) const;
 
     TextBlocks texts_;

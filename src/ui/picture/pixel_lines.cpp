@@ -4,14 +4,13 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <limits>
 
 namespace picture {
 
-PixelLines::PixelLines(const table::Axis& axis, int first, int extent)
+PixelLines::PixelLines(const table::Axis& axis, int extent)
     : fixed_(std::min(axis.fixed(), axis.count())), extent_(extent) {
     const int count = axis.count();
-    first_ = std::clamp(first, fixed_, count);
+    first_ = std::clamp(axis.first(), fixed_, count);
     edges_.resize(static_cast<std::size_t>(count) + 1);
     for (int line = 0; line <= count; ++line)
         edges_[static_cast<std::size_t>(line)] = (axis.offset(line) + twips_per_pixel / 2) / twips_per_pixel;
@@ -24,10 +23,6 @@ PixelLines::PixelLines(const table::Axis& axis, int first, int extent)
         if ((line < fixed_ || line >= first_) && begin(line) < extent_)
             shown_.push_back(line);
     }
-}
-
-PixelLines PixelLines::whole(const table::Axis& axis) {
-    return PixelLines(axis, axis.fixed(), std::numeric_limits<int>::max());
 }
 
 bool PixelLines::shows(int line) const { return std::binary_search(shown_.begin(), shown_.end(), line); }
@@ -46,14 +41,15 @@ int PixelLines::border_at(int place, int reach) const {
     return -1;
 }
 
-int PixelLines::to_twips(int place, const table::Axis& axis) const {
+int PixelLines::twips_from_pixels(int place, const table::Axis& axis) const {
     const int line = at(place);
     if (line >= 0) {
-        const int inside = (place - begin(line)) * twips_per_pixel + twips_per_pixel / 2;
+        const int inside = picture::twips_from_pixels(place - begin(line)) + twips_per_pixel / 2;
         return axis.position(line) + std::clamp(inside, std::min(1, axis.size(line) - 1), axis.size(line) - 1);
     }
     const int end_of_all = axis.total() - axis.offset(first_) + axis.offset(fixed_);
-    return place < 0 ? place * twips_per_pixel : std::max(place * twips_per_pixel, end_of_all + 1);
+    const int twips = picture::twips_from_pixels(place);
+    return place < 0 ? twips : std::max(twips, end_of_all + 1);
 }
 
 int PixelLines::position_of(int line) const {

@@ -8,8 +8,9 @@ namespace picture {
 
 // Twips in a pixel of a screen of 96 dots to the inch; Qt's scale factor comes on top.
 inline constexpr int twips_per_pixel = 15;
-constexpr int twips(int pixels) { return pixels * twips_per_pixel; }
-constexpr int pixels(int twips) { return qRound(static_cast<double>(twips) / twips_per_pixel); }
+constexpr int twips_from_pixels(int pixels) { return pixels * twips_per_pixel; }
+// The nearest whole pixel.
+constexpr int pixels_from_twips(int twips) { return qRound(static_cast<double>(twips) / twips_per_pixel); }
 
 // How the grid looks. Its colours are its own and don't follow a dark theme, since the colours of the cells are
 // chosen by the user for a white ground.
@@ -22,7 +23,7 @@ inline constexpr int picture_room = 16 + picture_gap; // what a picture as shipp
 inline constexpr int frame_width = 2;                 // around the current cell
 
 inline constexpr QColor ground{0xff, 0xff, 0xff};
-inline constexpr QColor beyond{0xf4, 0xf5, 0xf7}; // behind the last row and column
+inline constexpr QColor beyond{0xf4, 0xf5, 0xf7}; // after the last row and column
 inline constexpr QColor text{0x1a, 0x20, 0x2c};
 inline constexpr QColor title{0xe9, 0xed, 0xf2};
 inline constexpr QColor line{0x1a, 0x20, 0x2c};

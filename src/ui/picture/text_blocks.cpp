@@ -30,24 +30,25 @@ QTextOption from_the_left(QTextOption::WrapMode wrap) {
 
 } // namespace
 
-TextBlock::TextBlock(const QString& text, const QFont& font, int width, int height) : font_(font) {
+TextBlock::TextBlock(const QString& text, const QFont& font, const QSize& room)
+    : font_(font), width_(room.width()) {
     const QFontMetricsF metrics(font);
     ascent_ = static_cast<int>(std::ceil(metrics.ascent()));
     pitch_ = ascent_ + static_cast<int>(std::ceil(metrics.descent()));
     strike_offset_ = static_cast<int>(std::round(metrics.strikeOutPos()));
     strike_thickness_ = std::max(1, static_cast<int>(std::round(metrics.lineWidth())));
 
-    const int most = std::max(1, height / pitch_);
+    const int most = std::max(1, room.height() / pitch_);
     for (const QString& paragraph : paragraphs(text)) {
-        if (line_count() == most || !add_lines(paragraph, width, most)) {
-            end_with_ellipsis(width);
+        if (line_count() == most || !add_lines(paragraph, most)) {
+            end_with_ellipsis();
             return;
         }
     }
 }
 
 // False when a part of the paragraph is left over.
-bool TextBlock::add_lines(const QString& paragraph, int width, int most) {
+bool TextBlock::add_lines(const QString& paragraph, int most) {
     QTextLayout layout(paragraph, font_);
     layout.setTextOption(from_the_left(QTextOption::WrapAtWordBoundaryOrAnywhere));
 
@@ -59,7 +60,7 @@ bool TextBlock::add_lines(const QString& paragraph, int width, int most) {
             complete = false;
             break;
         }
-        line.setLineWidth(width);
+        line.setLineWidth(width_);
         line.setPosition(QPointF(0, ascent_ - line.ascent()));
         added.push_back(line);
     }
@@ -70,25 +71,25 @@ bool TextBlock::add_lines(const QString& paragraph, int width, int most) {
     return complete;
 }
 
-void TextBlock::end_with_ellipsis(int width) {
-    const QString cut = QFontMetricsF(font_).elidedText(lines_.back().text + ellipsis, Qt::ElideRight, width);
+void TextBlock::end_with_ellipsis() {
+    const QString cut = QFontMetricsF(font_).elidedText(lines_.back().text + ellipsis, Qt::ElideRight, width_);
     lines_.pop_back();
     QTextLayout layout(cut, font_);
     layout.setTextOption(from_the_left(QTextOption::NoWrap));
     layout.beginLayout();
     QTextLine line = layout.createLine();
-    line.setLineWidth(width);
+    line.setLineWidth(width_);
     line.setPosition(QPointF(0, ascent_ - line.ascent()));
     layout.endLayout();
     lines_.push_back({cut, line.glyphRuns(), line.naturalTextWidth()});
 }
 
-void TextBlock::draw(QPainter& painter, QPoint top_left, int width, Side side, bool struck_through) const {
+void TextBlock::draw(QPainter& painter, QPoint top_left, Side side, Stroke stroke) const {
     // Glyphs laid out for the screen mean nothing to a recording or a printer, where text has to stay text.
     const bool on_screen = painter.paintEngine()->type() == QPaintEngine::Raster;
     int top = top_left.y();
     for (const Line& line : lines_) {
-        const int room = std::max(0, width - static_cast<int>(std::ceil(line.width)));
+        const int room = std::max(0, width_ - static_cast<int>(std::ceil(line.width)));
         const int indent = side == Side::left ? 0 : side == Side::centre ? room / 2 : room;
         const QPoint begin(top_left.x() + indent, top);
         if (on_screen) {
@@ -98,7 +99,7 @@ void TextBlock::draw(QPainter& painter, QPoint top_left, int width, Side side, b
             painter.setFont(font_);
             painter.drawText(QPoint(begin.x(), top + ascent_), line.text);
         }
-        if (struck_through)
+        if (stroke == Stroke::struck_through)
             painter.fillRect(QRect(begin.x(), top + ascent_ - strike_offset_,
                                    static_cast<int>(std::ceil(line.width)), strike_thickness_),
                              painter.pen().color());
@@ -113,12 +114,12 @@ void TextBlocks::set_font(const QFont& font) {
     blocks_.clear();
 }
 
-const TextBlock& TextBlocks::block(std::string_view text, bool bold, int width, int height) {
+const TextBlock& TextBlocks::block(std::string_view text, Weight weight, const QSize& room) {
     const auto raw = QByteArray::fromRawData(text.data(), static_cast<qsizetype>(text.size()));
-    if (const TextBlock* found = blocks_.object({raw, width, height, bold}))
+    if (const TextBlock* found = blocks_.object({raw, weight, room}))
         return *found;
-    const Key key{QByteArray(raw.data(), raw.size()), width, height, bold};
-    blocks_.insert(key, new TextBlock(QString::fromUtf8(raw), bold ? bold_ : regular_, width, height));
+    const Key key{QByteArray(raw.data(), raw.size()), weight, room};
+    blocks_.insert(key, new TextBlock(QString::fromUtf8(raw), weight == Weight::bold ? bold_ : regular_, room));
     return *blocks_.object(key);
 }
 

@@ -1,4 +1,4 @@
-#include "adapters/bus/application_bridge.h"
+#include "adapters/bus/application_link.h"
 #include "contract/names.h"
 #include "desk_process.h"
 #include "support/desk_on_bus.h"
@@ -193,12 +193,12 @@ TEST_F(EventControl, KeepsEventsUntilACommandHasReturned) {
     const auto application = bus::make_application(link);
     QTimer::singleShot(0, [&] { on_bus.run([&] { on_bus.desk.on_database_closed(); }); });
     QTimer::singleShot(200, [&] {
-        EXPECT_TRUE(bus::command_waits(*link));
+        EXPECT_TRUE(link->waits());
         EXPECT_TRUE(events.isEmpty());
         on_bus.run([&] { on_bus.desk.finish_command(); });
     });
     application->Command(act::CommandNumber::edit_activity);
-    EXPECT_FALSE(bus::command_waits(*link));
+    EXPECT_FALSE(link->waits());
     EXPECT_TRUE(events.isEmpty()); // still inside the program's own message
     EXPECT_TRUE(hear({"database closed"}));
 }

@@ -1,6 +1,7 @@
 #include "adapters/records/records.h"
 
 #include "records_fixture.h"
+#include "support/locales.h"
 
 using support::DeskData;
 using support::failure_number;
@@ -47,7 +48,7 @@ TEST_F(OpenEx, KeepsTheDatabaseThatWasOpenWhenTheNextCannotBe) {
 }
 
 TEST_F(OpenEx, ReadsTextsThatStandForDatesInItsLocale) {
-    const auto german = records::make_database([this] { return file.path(); }, values::german());
+    const auto german = records::make_database([this] { return file.path(); }, support::german());
     german->OpenEx("");
     const auto list = german->Activity();
     list->Add();

@@ -39,7 +39,7 @@ protected:
     }
 
     std::unique_ptr<host::UserStore> make_user_store() {
-        qputenv("XDG_CONFIG_HOME", folder.path().toUtf8());
+        qputenv("XDG_CONFIG_HOME", folder.path().c_str());
         return qt::make_user_store(*files);
     }
     void start_companion() { EXPECT_TRUE(qt::make_shell()->start_companion("ActivityWin")); }
@@ -68,8 +68,8 @@ protected:
     std::unique_ptr<host::Files> files = qt::make_files();
     std::unique_ptr<host::UserStore> user_store = make_user_store();
     settings::PerUserStore values{*user_store};
-    DeskWindow window{session, Import()};
-    OpenToolbarCommands toolbar{session};
+    DeskWindow window{database, Import()};
+    OpenToolbarCommands toolbar{database};
     service::Service service{window.desk(), toolbar, values::english_us()};
     QDBusConnection caller = bus.connection();
     ApplicationProxy application{contract::bus_name, contract::application_path, caller};

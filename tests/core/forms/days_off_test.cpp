@@ -2,6 +2,7 @@
 
 #include "core/values/text.h"
 #include "days_off_world.h"
+#include "support/locales.h"
 
 namespace {
 
@@ -229,7 +230,7 @@ TEST_F(DaysOffTest, TakeTheCalendarsWidthWhereTheSettingsHaveNone) {
 TEST_F(DaysOffTest, MatchADayByTheTextOfItsDateAlone) {
     have_holidays("09.01.2024=Gründungstag\r\n");
     start();
-    Opened dialog(*this, values::german());
+    Opened dialog(*this, support::german());
     EXPECT_EQ(calendar.grid.msgSched.TextMatrix(0, 4), "Tuesday Jan. 9"); // in the United States no date of a day
     dialog.add(1, 9, "again");
     EXPECT_EQ(dialog.form.rows.size(), 1U); // in Germany it stands in the file

@@ -1,6 +1,7 @@
 #include "core/forms/holiday_list.h"
 
 #include "core/values/failure.h"
+#include "support/locales.h"
 
 #include <gtest/gtest.h>
 
@@ -82,7 +83,7 @@ TEST_F(HolidayListTest, InsertsIntoAListOutOfOrderBeforeTheFirstLaterDateFromThe
 }
 
 TEST_F(HolidayListTest, WritesTheDateInTheLocalesShortForm) {
-    list.insert(DateTime::of(2024, 5, 1), "Tag der Arbeit", values::german());
+    list.insert(DateTime::of(2024, 5, 1), "Tag der Arbeit", support::german());
     EXPECT_EQ(lines(), Lines{"01.05.2024=Tag der Arbeit"});
 }
 

@@ -1,6 +1,7 @@
 #include "core/grid/background.h"
 
 #include "support/grid_world.h"
+#include "support/locales.h"
 
 #include <gtest/gtest.h>
 
@@ -98,7 +99,7 @@ TEST_F(BackgroundTest, KnowsAHolidayByItsWholeDateOnly) {
 }
 
 TEST(BackgroundInAnotherLocale, MatchesHolidaysInThatLocalesShortDate) {
-    support::GridWorld world(values::german());
+    support::GridWorld world(support::german());
     world.have_users({"Ann"});
     world.calendar.background.holidays.Holidays = "|1/8/2024||09.01.2024|";
     world.open(DateTime::of(2024, 1, 10));

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "core/values/text.h"
 #include "support/grid_world.h"
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <string>
 #include <vector>
 
@@ -61,8 +61,8 @@ public:
         std::vector<std::string> rows;
         for (int row = 1; row < calendar.msgSched.Rows(); ++row) {
             const table::GridCell& cell = calendar.msgSched.cell(row, col);
-            const std::string picture(values::file_name(calendar.msgSched.picture_path(cell)));
-            rows.push_back((picture.empty() ? "" : picture.substr(0, picture.find('.')) + ":") + cell.text);
+            const std::filesystem::path picture(calendar.msgSched.picture_path(cell));
+            rows.push_back((picture.empty() ? "" : picture.stem().string() + ":") + cell.text);
         }
         return rows;
     }
@@ -76,7 +76,7 @@ private:
         for (int row = 1; row < model.Rows(); ++row)
             for (int col = layout.FixedCols(); col < model.Cols(); ++col)
                 layout.Cells(row, col).Clear();
-        model.clear_contents(1, model.Rows() - 1, layout.FixedCols(), model.Cols() - 1);
+        model.clear_contents({.rows = {1, layout.last_row()}, .cols = {layout.FixedCols(), layout.last_col()}});
     }
 };
 

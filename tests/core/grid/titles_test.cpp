@@ -2,6 +2,7 @@
 
 #include "support/failure_number.h"
 #include "support/grid_world.h"
+#include "support/locales.h"
 
 #include <gtest/gtest.h>
 
@@ -116,7 +117,7 @@ TEST_F(TitlesTest, ShowTimesPastMidnight) {
 }
 
 TEST(TitlesInA24HourLocale, ShowTimesFrom0To23) {
-    support::GridWorld world(values::german());
+    support::GridWorld world(support::german());
     world.set("Slots", "Slot5", "13:00");
     world.have_users({"Ann"});
     world.open(DateTime::of(2024, 1, 10));

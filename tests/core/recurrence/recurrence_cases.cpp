@@ -37,7 +37,7 @@ int place_in(const std::array<std::string, Size>& names, const std::string& name
     return static_cast<int>(found - names.begin());
 }
 
-// A date and, where the next word is one, a time; `at` moves behind them.
+// A date and, where the next word is one, a time; `at` moves past them.
 DateTime date_at(const Words& words, std::size_t& at) {
     int year = 0, month = 0, day = 0, hour = 0, minute = 0, second = 0;
     char mark = 0;

@@ -219,19 +219,23 @@ TEST(GetUniqueDays, ReachesTheThirtyFirst) {
 }
 
 TEST(GetDateOfDay, GivesTheWeekdayOfTheWeek) {
-    EXPECT_EQ(recurrence::GetDateOfDay(3, 2, 4, 2024, false), DateTime::of(2024, 4, 9));
-    EXPECT_EQ(recurrence::GetDateOfDay(2, 1, 4, 2024, false), DateTime::of(2024, 4, 1));
-    EXPECT_EQ(recurrence::GetDateOfDay(1, 1, 4, 2024, false), DateTime::of(2024, 4, 7));
+    EXPECT_EQ(recurrence::GetDateOfDay({.day = 3, .week = 2, .month = 4, .year = 2024}), DateTime::of(2024, 4, 9));
+    EXPECT_EQ(recurrence::GetDateOfDay({.day = 2, .week = 1, .month = 4, .year = 2024}), DateTime::of(2024, 4, 1));
+    EXPECT_EQ(recurrence::GetDateOfDay({.day = 1, .week = 1, .month = 4, .year = 2024}), DateTime::of(2024, 4, 7));
 }
 
 TEST(GetDateOfDay, GivesTheFourthForAFifthThatTheMonthDoesNotHave) {
-    EXPECT_EQ(recurrence::GetDateOfDay(4, 5, 4, 2024, false), DateTime::of(2024, 4, 24));
-    EXPECT_EQ(recurrence::GetDateOfDay(4, 5, 4, 2024, true), std::nullopt);
+    EXPECT_EQ(recurrence::GetDateOfDay({.day = 4, .week = 5, .month = 4, .year = 2024}),
+              DateTime::of(2024, 4, 24));
+    EXPECT_EQ(recurrence::GetDateOfDay({.day = 4, .week = 5, .month = 4, .year = 2024, .week_4_flagged = true}),
+              std::nullopt);
 }
 
 TEST(GetDateOfDay, RunsOnIntoJanuaryFromDecember) {
-    EXPECT_EQ(recurrence::GetDateOfDay(4, 5, 12, 2024, false), DateTime::of(2025, 1, 1));
-    EXPECT_EQ(recurrence::GetDateOfDay(4, 5, 12, 2024, true), DateTime::of(2025, 1, 1));
+    EXPECT_EQ(recurrence::GetDateOfDay({.day = 4, .week = 5, .month = 12, .year = 2024}),
+              DateTime::of(2025, 1, 1));
+    EXPECT_EQ(recurrence::GetDateOfDay({.day = 4, .week = 5, .month = 12, .year = 2024, .week_4_flagged = true}),
+              DateTime::of(2025, 1, 1));
 }
 
 } // namespace

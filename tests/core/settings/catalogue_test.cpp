@@ -1,10 +1,11 @@
 #include "core/settings/catalogue.h"
 
-#include "core/host/plain_files.h"
 #include "core/values/text_forms.h"
 #include "support/failure_number.h"
 #include "support/fake_message_box.h"
 #include "support/fake_user_store.h"
+#include "support/locales.h"
+#include "support/plain_files.h"
 #include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>
@@ -21,7 +22,7 @@ protected:
     CatalogueTest() { ini.SettingsFile = folder.file("Orvanta.ini"); }
 
     support::TemporaryFolder folder;
-    host::PlainFiles files;
+    support::PlainFiles files;
     support::FakeMessageBox box;
     host::ApplicationInfo application;
     host::Guard guarded{box, application};
@@ -76,7 +77,7 @@ TEST_F(CatalogueTest, SlotsFromMidnightOnStartOnTheNextDay) {
     EXPECT_EQ(keys::slot_start(15, english_us()).default_value, "11:00:00 PM");
     EXPECT_EQ(keys::slot_start(16, english_us()).default_value, "12/31/1899");
     EXPECT_EQ(keys::slot_start(17, english_us()).default_value, "12/31/1899 1:00:00 AM");
-    EXPECT_EQ(keys::slot_start(31, values::german()).default_value, "31.12.1899 15:00:00");
+    EXPECT_EQ(keys::slot_start(31, support::german()).default_value, "31.12.1899 15:00:00");
 }
 
 TEST_F(CatalogueTest, ReadsAndWritesThePerUserStore) {

@@ -1,6 +1,6 @@
 #include "core/settings/file_user_store.h"
 
-#include "core/host/plain_files.h"
+#include "support/plain_files.h"
 #include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>
@@ -14,7 +14,7 @@ class FileUserStoreTest : public ::testing::Test {
 protected:
     support::TemporaryFolder folder;
     std::string path = folder.file("per-user.txt");
-    host::PlainFiles files;
+    support::PlainFiles files;
     FileUserStore store{files, path};
 };
 

@@ -1,6 +1,6 @@
 #include "core/settings/ini_file.h"
 
-#include "core/host/plain_files.h"
+#include "support/plain_files.h"
 #include "support/temporary_folder.h"
 
 #include <filesystem>
@@ -15,7 +15,7 @@ using support::write_file;
 namespace {
 
 // Plain files that count how often one is read, and that another program can lock.
-class WatchedFiles : public host::PlainFiles {
+class WatchedFiles : public support::PlainFiles {
 public:
     std::optional<host::FileStamp> stamp(const std::string& path) const override {
         return locked ? std::nullopt : PlainFiles::stamp(path);

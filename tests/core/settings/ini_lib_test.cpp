@@ -1,8 +1,8 @@
 #include "core/settings/ini_lib.h"
 
-#include "core/host/plain_files.h"
 #include "core/values/text.h"
 #include "support/fake_message_box.h"
+#include "support/plain_files.h"
 #include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>
@@ -27,7 +27,7 @@ protected:
     support::TemporaryFolder folder;
     std::string path = folder.file("Orvanta.ini");
     std::string other = folder.file("other.ini");
-    host::PlainFiles files;
+    support::PlainFiles files;
     support::FakeMessageBox box;
     host::ApplicationInfo application{.title = "Orvanta"};
     host::Guard guarded{box, application};
@@ -116,7 +116,7 @@ TEST_F(GetKeyValue, UsesARelativePathAsItStands) {
 }
 
 TEST_F(GetKeyValue, ShowsTheUsualBoxWhenReadingFails) {
-    class FailingFiles : public host::PlainFiles {
+    class FailingFiles : public support::PlainFiles {
         std::optional<host::FileStamp> stamp(const std::string&) const override { throw std::bad_alloc(); }
     } failing;
     IniLib broken(failing, guarded);

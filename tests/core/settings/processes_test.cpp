@@ -1,7 +1,7 @@
 // Several threads and processes at one store and one settings file.
 
-#include "core/host/plain_files.h"
 #include "core/settings/file_user_store.h"
+#include "support/plain_files.h"
 #include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>
@@ -21,7 +21,7 @@ constexpr int values_each = 20;
 
 // Each writer uses the store as a process of its own would.
 bool write_all(const std::string& path, int writer) {
-    host::PlainFiles files;
+    support::PlainFiles files;
     FileUserStore store(files, path);
     bool written = true;
     for (int i = 0; i < values_each; ++i)
@@ -30,7 +30,7 @@ bool write_all(const std::string& path, int writer) {
 }
 
 void expect_all(const std::string& path) {
-    host::PlainFiles files;
+    support::PlainFiles files;
     const FileUserStore store(files, path);
     EXPECT_EQ(store.list("branch").size(), static_cast<std::size_t>(writers * values_each));
     for (int writer = 0; writer < writers; ++writer)
@@ -81,7 +81,7 @@ TEST(FileUserStoreOfAKilledProcess, IsTheOldOrTheNewOne) {
     const support::TemporaryFolder folder;
     const std::string path = folder.file("per-user.txt");
     const std::string large(200'000, 'x');
-    host::PlainFiles files;
+    support::PlainFiles files;
     ASSERT_TRUE(FileUserStore(files, path).write("branch", "name", large + "0"));
     for (int round = 0; round < 20; ++round) {
         const pid_t child = ::fork();

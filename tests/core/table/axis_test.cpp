@@ -1,10 +1,14 @@
 #include "core/table/axis.h"
 
+#include "support/line_at.h"
+
 #include <gtest/gtest.h>
+
+using support::line_at;
 
 namespace {
 
-// Five lines behind one fixed one; the third is hidden.
+// Five lines after one fixed one; the third is hidden.
 //
 //   line      0    1    2    3    4    5
 //   size     30  100  100    0  100   50
@@ -46,14 +50,14 @@ TEST(Axis, FollowsALaterChangeOfASize) {
 
 TEST(Axis, FindsTheVisibleLineAtAPlace) {
     const table::Axis axis = six_lines();
-    EXPECT_EQ(axis.at(0), 0);
-    EXPECT_EQ(axis.at(29), 0);
-    EXPECT_EQ(axis.at(30), 1);
-    EXPECT_EQ(axis.at(229), 2);
-    EXPECT_EQ(axis.at(230), 4);
-    EXPECT_EQ(axis.at(379), 5);
-    EXPECT_EQ(axis.at(380), -1);
-    EXPECT_EQ(axis.at(-1), -1);
+    EXPECT_EQ(line_at(axis, 0), 0);
+    EXPECT_EQ(line_at(axis, 29), 0);
+    EXPECT_EQ(line_at(axis, 30), 1);
+    EXPECT_EQ(line_at(axis, 229), 2);
+    EXPECT_EQ(line_at(axis, 230), 4);
+    EXPECT_EQ(line_at(axis, 379), 5);
+    EXPECT_EQ(line_at(axis, 380), -1);
+    EXPECT_EQ(line_at(axis, -1), -1);
 }
 
 // With line 2 first, line 1 is rolled away under the fixed line.
@@ -64,9 +68,9 @@ TEST(Axis, CountsTheScrolledLinesOutOfPositions) {
     EXPECT_EQ(axis.position(1), -70);
     EXPECT_EQ(axis.position(2), 30);
     EXPECT_EQ(axis.position(4), 130);
-    EXPECT_EQ(axis.at(29), 0);
-    EXPECT_EQ(axis.at(30), 2);
-    EXPECT_EQ(axis.at(280), -1);
+    EXPECT_EQ(line_at(axis, 29), 0);
+    EXPECT_EQ(line_at(axis, 30), 2);
+    EXPECT_EQ(line_at(axis, 280), -1);
 }
 
 TEST(Axis, KeepsItsFirstLineInsideWhenItShrinksAndOutOfTheFixedOnes) {

@@ -108,7 +108,7 @@ TEST(GridModel, RefusesAnIndexOutsideWith381) {
     EXPECT_EQ(support::failure_number([&] { model.ColWidth(4, 10); }), 381);
     EXPECT_EQ(support::failure_number([&] { model.RowPos(3); }), 381);
     EXPECT_EQ(support::failure_number([&] { model.ColPos(4); }), 381);
-    EXPECT_EQ(support::failure_number([&] { model.clear_contents(1, 3, 1, 2); }), 381);
+    EXPECT_EQ(support::failure_number([&] { model.clear_contents({.rows = {1, 3}, .cols = {1, 2}}); }), 381);
 }
 
 TEST(GridModel, RefusesSizesAndShapesThatCannotBe) {
@@ -176,7 +176,7 @@ TEST(GridModel, ClearsTextsAndPicturesOfARangeAndEndsOnItsLastCell) {
     model.Col(1);
     model.CellPicture("p");
     model.CellBackColor(7);
-    model.clear_contents(1, 2, 1, 3);
+    model.clear_contents({.rows = {1, 2}, .cols = {1, 3}});
     EXPECT_EQ(model.Row(), 2);
     EXPECT_EQ(model.Col(), 3);
     EXPECT_EQ(model.TextMatrix(1, 1), "");
@@ -191,7 +191,7 @@ TEST(GridModel, ClearsTextsAndPicturesOfARangeAndEndsOnItsLastCell) {
 TEST(GridModel, ClearsNothingInAnEmptyRange) {
     GridModel model = model_of(2, 2);
     number_cells(model);
-    model.clear_contents(1, 0, 1, 1);
+    model.clear_contents({.rows = {1, 0}, .cols = {1, 1}});
     EXPECT_EQ(model.TextMatrix(1, 1), "1,1");
 }
 

@@ -1,8 +1,13 @@
 #include "core/values/text_forms.h"
 
+#include "support/locales.h"
+
 #include <gtest/gtest.h>
 
 using namespace values;
+using support::english_gb;
+using support::french;
+using support::german;
 
 namespace {
 

@@ -1,8 +1,13 @@
 #include "core/values/locale.h"
 
+#include "support/locales.h"
+
 #include <gtest/gtest.h>
 
 using namespace values;
+using support::english_gb;
+using support::french;
+using support::german;
 
 TEST(Locale, ShowsTimesFrom0To23WhereThePatternHasACapitalH) {
     EXPECT_FALSE(english_us().is_24_hour());

@@ -1,8 +1,12 @@
 #include "core/values/pattern.h"
 
+#include "support/locales.h"
+
 #include <gtest/gtest.h>
 
 using namespace values;
+using support::english_gb;
+using support::german;
 
 namespace {
 

@@ -1,10 +1,14 @@
 #include "core/values/text_forms.h"
 
 #include "support/failure_number.h"
+#include "support/locales.h"
 
 #include <gtest/gtest.h>
 
 using namespace values;
+using support::english_gb;
+using support::french;
+using support::german;
 
 namespace {
 
@@ -51,8 +55,8 @@ TEST(DefaultText, DropsAZeroTimeOrAZeroDate) {
 
 TEST(TextForms, WriteOneMorningAndOneEvening) {
     EXPECT_EQ(yyyymmdd(morning), "20240105");
-    EXPECT_EQ(hh_mm_ampm(morning, english_us()), "09:05 AM");
-    EXPECT_EQ(hh_mm_ampm(evening, german()), "09:05 PM");
+    EXPECT_EQ(medium_time(morning, english_us()), "09:05 AM");
+    EXPECT_EQ(medium_time(evening, german()), "09:05 PM");
     EXPECT_EQ(hh_nn_am_pm(evening), "09:05 PM");
     EXPECT_EQ(hh_nn(morning), "09:05");
     EXPECT_EQ(hh_nn(evening), "21:05");
@@ -67,7 +71,6 @@ TEST(TextForms, UseTheLocalesMarksOnlyWhereToldTo) {
     Locale locale = english_us();
     locale.am = "a.m.";
     locale.pm = "p.m.";
-    EXPECT_EQ(hh_mm_ampm(evening, locale), "09:05 p.m.");
     EXPECT_EQ(medium_time(evening, locale), "09:05 p.m.");
     EXPECT_EQ(hh_nn_am_pm(evening), "09:05 PM");
 }
@@ -90,7 +93,7 @@ TEST(TextForms, DatesAreReadBackAsTheyWere) {
 TEST(TextForms, TimesAreReadBackToTheMinute) {
     for_many_dates([](DateTime value, const Locale& locale) {
         const DateTime time = value.time_to_the_minute();
-        for (const std::string& text : {hh_mm_ampm(value, locale), hh_nn_am_pm(value), hh_nn(value), h_nn(value),
+        for (const std::string& text : {medium_time(value, locale), hh_nn_am_pm(value), hh_nn(value), h_nn(value),
                                         medium_time(value, locale)})
             EXPECT_EQ(parse_date(text, locale), time) << text;
     });

@@ -83,11 +83,3 @@ TEST(Windows1252, IsAbsentForOtherCharacters) {
     EXPECT_FALSE(windows_1252_from_utf8("😀"));
     EXPECT_FALSE(windows_1252_from_utf8("\xE9"));
 }
-
-TEST(FileName, StandsBehindTheLastSeparatorOfEitherKind) {
-    EXPECT_EQ(file_name("C:\\folder\\a.xlt"), "a.xlt");
-    EXPECT_EQ(file_name("/folder/a.xlt"), "a.xlt");
-    EXPECT_EQ(file_name("C:\\folder/a.xlt"), "a.xlt");
-    EXPECT_EQ(file_name("a.xlt"), "a.xlt");
-    EXPECT_EQ(file_name("folder/"), "");
-}

@@ -1,11 +1,14 @@
 #include "core/values/value.h"
 
 #include "support/failure_number.h"
+#include "support/locales.h"
 
 #include <gtest/gtest.h>
 
 using namespace values;
+using support::english_gb;
 using support::failure_number;
+using support::german;
 
 namespace {
 

@@ -17,7 +17,7 @@
 // A database with a user and two contacts, into which files are imported on a Monday in Berlin.
 namespace test_import {
 
-// Berlin by the European rule, reckoned here so that the machine's own zone doesn't matter.
+// Berlin by the European rule, computed here so that the machine's own zone doesn't matter.
 inline values::DateTime berlin(std::int64_t seconds) {
     using values::DateTime;
     const DateTime utc = DateTime::from_seconds(DateTime::of(1970, 1, 1).seconds() + seconds);

@@ -1,7 +1,8 @@
 #include "desk/model/activity_filter.h"
 
 #include "core/values/failure.h"
-#include "desk/windows/desk_fixture.h"
+#include "desk/team_fixture.h"
+#include "support/locales.h"
 
 using namespace model;
 using store::ActivityType;
@@ -18,17 +19,16 @@ ActivityFilter everything() {
     return filter;
 }
 
-class Filtered : public DeskTest {
+class Filtered : public TeamTest {
 protected:
-    Filtered() { session.open(path); }
-
     std::vector<std::string> ids(const ActivityFilter& filter, std::optional<std::string> of = std::nullopt) {
         std::vector<std::string> result;
-        for (const auto& activity : filtered(session.store(), filter, session.today(), of))
+        for (const auto& activity : filtered(*team, filter, now(), of))
             result.push_back(activity.id);
         return result;
     }
     using Ids = std::vector<std::string>;
+    const std::unique_ptr<store::Store> team = elsewhere();
 };
 
 } // namespace
@@ -58,7 +58,7 @@ TEST(ActivityFilterCodes, WhatIsSetIsReadBackTheSame) {
 }
 
 TEST(ActivityFilterCodes, ARangeIsReadInTheShortDatesOfTheLocale) {
-    const auto filter = filter_of({228, "6\\05.01.2024\\12.01.2024", ""}, values::german());
+    const auto filter = filter_of({228, "6\\05.01.2024\\12.01.2024", ""}, support::german());
     EXPECT_EQ(filter.period, Period::range);
     EXPECT_EQ(filter.from, DateTime::of(2024, 1, 5));
     EXPECT_EQ(filter.to, DateTime::of(2024, 1, 12));
@@ -133,9 +133,9 @@ TEST_F(Filtered, ARangeHoldsBothItsDays) {
 }
 
 TEST_F(Filtered, ASeriesThatEndedBeforeThePeriodIsntInIt) {
-    auto weekly = *session.store().activity(series);
+    auto weekly = *team->activity(series);
     weekly.recurrence.until = at(2, 28);
-    session.store().update(weekly);
+    team->update(weekly);
     auto filter = everything();
     filter.period = Period::range;
     filter.from = at(2, 28);

@@ -1,5 +1,7 @@
 #include "desk/model/activity_values.h"
 
+#include "support/locales.h"
+
 #include <gtest/gtest.h>
 
 using model::read_values;
@@ -11,13 +13,6 @@ namespace {
 const std::vector<store::User> users{{"U00000000001", "Anna Berg", "Administrator", "Enabled"},
                                      {"U00000000002", "Bert Cole", "Standard", "Disabled"}};
 
-values::Locale german() {
-    values::Locale locale = values::english_us();
-    locale.short_date = "dd.MM.yyyy";
-    locale.long_time = "HH:mm:ss";
-    return locale;
-}
-
 } // namespace
 
 TEST(ReadValues, ReadsEachValueInTheMachinesForms) {
@@ -25,9 +20,10 @@ TEST(ReadValues, ReadsEachValueInTheMachinesForms) {
         read_values({"T", "4/12/2024", "3:15:00 PM", "45", "Roof", "M", "Bert Cole"}, users, values::english_us()),
         (ReadValues{store::ActivityType::to_do, DateTime::of(2024, 4, 12), DateTime::time_of_day(15, 15), 45,
                     "Roof", store::Priority::medium, "U00000000002"}));
-    EXPECT_EQ(read_values({"C", "12.04.2024", "15:15:00", "45", "Roof", "H", "Anna Berg"}, users, german()),
-              (ReadValues{store::ActivityType::call, DateTime::of(2024, 4, 12), DateTime::time_of_day(15, 15), 45,
-                          "Roof", store::Priority::high, "U00000000001"}));
+    EXPECT_EQ(
+        read_values({"C", "12.04.2024", "15:15:00", "45", "Roof", "H", "Anna Berg"}, users, support::german()),
+        (ReadValues{store::ActivityType::call, DateTime::of(2024, 4, 12), DateTime::time_of_day(15, 15), 45,
+                    "Roof", store::Priority::high, "U00000000001"}));
 }
 
 TEST(ReadValues, WhatIsEmptyIsAbsent) { EXPECT_EQ(read_values({}, users, values::english_us()), ReadValues()); }

@@ -1,10 +1,10 @@
 #include "desk/model/directory.h"
 
-#include "desk/windows/desk_fixture.h"
+#include "desk/team_fixture.h"
 
 using model::Directory;
 
-using DirectoryTest = DeskTest;
+using DirectoryTest = TeamTest;
 
 TEST_F(DirectoryTest, NamesContactsUsersAndGroupsById) {
     auto store = elsewhere();

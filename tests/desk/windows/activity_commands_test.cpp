@@ -18,8 +18,8 @@ namespace {
 
 class ActivityCommandsTest : public DeskTest {
 protected:
-    ActivityCommandsTest() : lookup(session), commands(session, lookup, window) {
-        session.open(path);
+    ActivityCommandsTest() : lookup(database), commands(database, lookup, window) {
+        database.open(path);
         window.show();
     }
     ActivityDialog* dialog() { return window.findChild<ActivityDialog*>(); }
@@ -59,7 +59,7 @@ TEST_F(ActivityCommandsTest, SchedulesWithTheShownContactAtTheNextHalfHour) {
 
 TEST_F(ActivityCommandsTest, WhatWasStoredIsShownWhenTheCommandHasFinished) {
     int changes = 0;
-    QObject::connect(&session, &OpenDatabase::changed, [&] { ++changes; });
+    QObject::connect(&database, &OpenDatabase::changed, [&] { ++changes; });
     commands.edit(call, ActivityDialog::Tab::general, [&] { EXPECT_EQ(changes, 1); });
     retype(child<QLineEdit>(*dialog(), "regarding_edit"), "Other prices");
     press(Qt::Key_Return);
@@ -99,7 +99,7 @@ TEST_F(ActivityCommandsTest, ClearsInADialogOfItsOwn) {
 TEST_F(ActivityCommandsTest, TheDatabaseClosingClosesTheDialogWithoutStoring) {
     commands.edit(call, ActivityDialog::Tab::general, count);
     retype(child<QLineEdit>(*dialog(), "regarding_edit"), "Too late");
-    session.close();
+    database.close();
     EXPECT_EQ(finished, 1);
     EXPECT_FALSE(commands.is_under_way());
     EXPECT_EQ(elsewhere()->activity(call)->regarding, "Ask for prices");
@@ -124,7 +124,7 @@ TEST_F(ActivityCommandsTest, WithoutAnActivityThereIsNothingToEdit) {
 }
 
 TEST_F(ActivityCommandsTest, WithoutADatabaseNothingOpens) {
-    session.close();
+    database.close();
     EXPECT_THROW(commands.schedule(store::ActivityType::call, count), values::Failure);
     EXPECT_THROW(commands.edit(call, ActivityDialog::Tab::general, count), values::Failure);
     EXPECT_EQ(dialog(), nullptr);

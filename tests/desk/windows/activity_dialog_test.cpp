@@ -22,13 +22,13 @@ namespace {
 
 class ActivityDialogTest : public DeskTest {
 protected:
-    ActivityDialogTest() { session.open(path); }
+    ActivityDialogTest() { database.open(path); }
 
     void edit(const store::Activity& activity) {
-        dialog = std::make_unique<ActivityDialog>(session, activity, nullptr);
+        dialog = std::make_unique<ActivityDialog>(database, activity, nullptr);
         dialog->show();
     }
-    void edit(const std::string& id) { edit(*session.store().activity(id)); }
+    void edit(const std::string& id) { edit(*database.store().activity(id)); }
     template <typename Widget>
     Widget* part(const char* name) {
         return child<Widget>(*dialog, name);
@@ -50,7 +50,7 @@ protected:
 } // namespace
 
 TEST_F(ActivityDialogTest, ShowsTheStoredRecord) {
-    auto record = *session.store().activity(meeting);
+    auto record = *database.store().activity(meeting);
     record.priority = store::Priority::high;
     record.colour = 0x0000ffu;
     record.group = friends;
@@ -189,9 +189,9 @@ TEST_F(ActivityDialogTest, ADateOrATimeThatCantBeReadIsRefused) {
 }
 
 TEST_F(ActivityDialogTest, TheSecondsOfAStartStayUnlessAnotherTimeIsTyped) {
-    auto record = *session.store().activity(call);
+    auto record = *database.store().activity(call);
     record.start = DateTime::of(2024, 3, 6, 9, 0, 30);
-    session.store().update(record);
+    database.store().update(record);
     edit(call);
     ok();
     EXPECT_EQ(stored(call).start, record.start);
@@ -206,9 +206,9 @@ TEST_F(ActivityDialogTest, ARuleThatBringsForthNothingIsRefused) {
 }
 
 TEST_F(ActivityDialogTest, AnActivityThatCameWithoutADateKeepsNoneUntilItGetsOne) {
-    auto record = *session.store().activity(call);
+    auto record = *database.store().activity(call);
     record.start.reset();
-    session.store().update(record);
+    database.store().update(record);
     edit(call);
     EXPECT_EQ(part<QLineEdit>("date_edit")->text(), "");
     retype(part<QLineEdit>("regarding_edit"), "Someday");
@@ -223,16 +223,16 @@ TEST_F(ActivityDialogTest, AnActivityThatCameWithoutADateKeepsNoneUntilItGetsOne
 }
 
 TEST_F(ActivityDialogTest, ASeriesNeedsADate) {
-    auto record = *session.store().activity(series);
+    auto record = *database.store().activity(series);
     record.start.reset();
     edit(record);
     ok_is_refused("An activity that repeats needs a date.");
 }
 
 TEST_F(ActivityDialogTest, AnEndThatDoesntFollowFromTheDurationStaysUnlessTheTimesChange) {
-    auto record = *session.store().activity(call);
+    auto record = *database.store().activity(call);
     record.end = at(3, 7, 12, 0);
-    session.store().update(record);
+    database.store().update(record);
     edit(call);
     ok();
     EXPECT_EQ(stored(call).end, at(3, 7, 12, 0));

@@ -19,7 +19,7 @@ namespace {
 
 class ActivityListTest : public DeskTest {
 protected:
-    ActivityListTest() { session.open(path); }
+    ActivityListTest() { database.open(path); }
 
     static std::vector<std::string> ids(const ActivityList& list) {
         std::vector<std::string> result;
@@ -47,7 +47,7 @@ protected:
 } // namespace
 
 TEST_F(ActivityListTest, ShowsTheContactsOpenActivities) {
-    ActivityList list(session, Scope::contact);
+    ActivityList list(database, Scope::contact);
     EXPECT_EQ(ids(list), Ids{});
     list.show_contact(amber);
     EXPECT_EQ(ids(list), (Ids{call, meeting}));
@@ -58,7 +58,7 @@ TEST_F(ActivityListTest, ShowsTheContactsOpenActivities) {
 }
 
 TEST_F(ActivityListTest, ATickShowsTheClearedOnesToo) {
-    ActivityList list(session, Scope::contact);
+    ActivityList list(database, Scope::contact);
     list.show_contact(amber);
     show(list);
     auto* box = child<QCheckBox>(list, "cleared_box");
@@ -68,7 +68,7 @@ TEST_F(ActivityListTest, ATickShowsTheClearedOnesToo) {
 }
 
 TEST_F(ActivityListTest, FiltersByUser) {
-    ActivityList list(session, Scope::everybody);
+    ActivityList list(database, Scope::everybody);
     show(list);
     choose(list, "user_box", "Bert Cole");
     EXPECT_EQ(ids(list), Ids{meeting});
@@ -76,7 +76,7 @@ TEST_F(ActivityListTest, FiltersByUser) {
 }
 
 TEST_F(ActivityListTest, FiltersByPeriod) {
-    ActivityList list(session, Scope::everybody);
+    ActivityList list(database, Scope::everybody);
     show(list);
     choose(list, "period_box", "Today");
     EXPECT_EQ(ids(list), (Ids{series, call}));
@@ -84,7 +84,7 @@ TEST_F(ActivityListTest, FiltersByPeriod) {
 }
 
 TEST_F(ActivityListTest, ARangeIsTypedIntoTwoDateFields) {
-    ActivityList list(session, Scope::everybody);
+    ActivityList list(database, Scope::everybody);
     show(list);
     choose(list, "period_box", "Date range");
     auto* from = child<DateField>(list, "from_edit");
@@ -100,7 +100,7 @@ TEST_F(ActivityListTest, ARangeIsTypedIntoTwoDateFields) {
 }
 
 TEST_F(ActivityListTest, FiltersByTypeAndTellsSoOnTheButton) {
-    ActivityList list(session, Scope::everybody);
+    ActivityList list(database, Scope::everybody);
     show(list);
     auto* button = child<QPushButton>(list, "types_button");
     QTimer::singleShot(0, [&] {
@@ -113,12 +113,12 @@ TEST_F(ActivityListTest, FiltersByTypeAndTellsSoOnTheButton) {
 }
 
 TEST_F(ActivityListTest, AFilterSetFromOutsideShowsInTheBar) {
-    ActivityList list(session, Scope::contact);
+    ActivityList list(database, Scope::contact);
     list.show_contact(amber);
     show(list);
-    list.set_filter(model::filter_of({234, "6\\1/31/2024\\2/2/2024", anna}, session.locale()));
+    list.set_filter(model::filter_of({234, "6\\1/31/2024\\2/2/2024", anna}, database.locale()));
     EXPECT_EQ(ids(list), Ids{});
-    list.set_filter(model::filter_of({242, "6\\1/31/2024\\2/2/2024", anna}, session.locale()));
+    list.set_filter(model::filter_of({242, "6\\1/31/2024\\2/2/2024", anna}, database.locale()));
     EXPECT_EQ(ids(list), Ids{old_task});
     EXPECT_EQ(child<QPushButton>(list, "types_button")->text(), "&Types (1 of 3)");
     EXPECT_EQ(child<QComboBox>(list, "period_box")->currentText(), "Date range");
@@ -128,16 +128,16 @@ TEST_F(ActivityListTest, AFilterSetFromOutsideShowsInTheBar) {
 }
 
 TEST_F(ActivityListTest, KeepsAFilterForSeveralUsersWhileOtherPartsOfItChange) {
-    ActivityList list(session, Scope::everybody);
+    ActivityList list(database, Scope::everybody);
     show(list);
-    list.set_filter(model::filter_of({252, "1", anna + bert}, session.locale()));
+    list.set_filter(model::filter_of({252, "1", anna + bert}, database.locale()));
     EXPECT_EQ(child<QComboBox>(list, "user_box")->currentIndex(), -1);
     choose(list, "period_box", "Today");
     EXPECT_EQ(list.filter().users, anna + bert);
 }
 
 TEST_F(ActivityListTest, SelectsTheRowThatIsAskedFor) {
-    ActivityList list(session, Scope::contact);
+    ActivityList list(database, Scope::contact);
     list.show_contact(amber);
     list.select(1, true);
     EXPECT_EQ(list.current_id(), meeting);
@@ -148,7 +148,7 @@ TEST_F(ActivityListTest, SelectsTheRowThatIsAskedFor) {
 }
 
 TEST_F(ActivityListTest, ARowThatThereIsNotFails) {
-    ActivityList list(session, Scope::contact);
+    ActivityList list(database, Scope::contact);
     list.show_contact(amber);
     EXPECT_THROW(list.activity(2), values::Failure);
     EXPECT_THROW(list.activity(-1), values::Failure);
@@ -156,37 +156,37 @@ TEST_F(ActivityListTest, ARowThatThereIsNotFails) {
 }
 
 TEST_F(ActivityListTest, RowsCountAsTheyAreSortedOnTheScreen) {
-    ActivityList list(session, Scope::contact);
+    ActivityList list(database, Scope::contact);
     list.show_contact(amber);
     child<RecordTable>(list, "activity_table")->sortByColumn(date_column, Qt::DescendingOrder);
     EXPECT_EQ(ids(list), (Ids{meeting, call}));
 }
 
 TEST_F(ActivityListTest, FollowsTheDatabaseAndKeepsItsSelection) {
-    ActivityList list(session, Scope::contact);
+    ActivityList list(database, Scope::contact);
     list.show_contact(amber);
     list.select(1, true);
     auto other = elsewhere();
     const auto added = activity(*other, store::ActivityType::call, at(3, 7), "Remind", anna, {amber});
-    session.refresh();
+    database.refresh();
     EXPECT_EQ(ids(list), (Ids{call, added, meeting}));
     EXPECT_EQ(list.current_id(), meeting);
 }
 
 TEST_F(ActivityListTest, EverybodysActivitiesAreReadWhenTheyAreSeen) {
-    ActivityList list(session, Scope::everybody);
+    ActivityList list(database, Scope::everybody);
     show(list);
     list.hide();
     activity(*elsewhere(), store::ActivityType::call, at(3, 7), "Remind", anna, {amber});
-    session.refresh();
+    database.refresh();
     list.show();
     EXPECT_EQ(list.row_count(), 4);
 }
 
 TEST_F(ActivityListTest, IsEmptyWhenTheDatabaseCloses) {
-    ActivityList list(session, Scope::everybody);
+    ActivityList list(database, Scope::everybody);
     show(list);
-    session.close();
+    database.close();
     EXPECT_EQ(list.row_count(), 0);
     EXPECT_EQ(child<QComboBox>(list, "user_box")->count(), 1);
 }

@@ -16,13 +16,13 @@ namespace {
 
 class ActivitySenderTest : public DeskTest {
 protected:
-    ActivitySenderTest() : sender(session, window) {
-        session.open(path);
+    ActivitySenderTest() : sender(database, window) {
+        database.open(path);
         window.show();
     }
 
     void send(const std::string& id) {
-        sender.send(*session.store().activity(id), [this] { ++finished; });
+        sender.send(*database.store().activity(id), [this] { ++finished; });
     }
     template <typename Dialog>
     Dialog* dialog() {
@@ -64,10 +64,10 @@ private:
 
 TEST_F(ActivitySenderTest, HandsTheActivityToTheMailProgram) {
     program.install(0);
-    auto zoe = *session.store().contact(amber);
+    auto zoe = *database.store().contact(amber);
     zoe.fields[58] = "zoe@amber.example";
-    session.store().update(zoe);
-    session.refresh();
+    database.store().update(zoe);
+    database.refresh();
     send(meeting);
     EXPECT_EQ(finished, 0);
     EXPECT_TRUE(has_finished());
@@ -109,9 +109,9 @@ TEST_F(ActivitySenderTest, AFileThatCantBeWrittenIsTold) {
     send(call);
     click(dialog<QMessageBox>()->button(QMessageBox::Save));
     auto* files = dialog<QFileDialog>();
-    QDir(folder.path()).mkdir("away");
+    QDir(QString::fromStdString(folder.path())).mkdir("away");
     give_name(*files, in_folder("away/mine.ics"));
-    QDir(folder.path()).rmdir("away");
+    QDir(QString::fromStdString(folder.path())).rmdir("away");
     with_dialogs({[](QWidget& box) {
                      EXPECT_TRUE(child<QLabel>(box, "qt_msgbox_label")->text().contains("away/mine.ics"));
                      QTest::keyClick(&box, Qt::Key_Return);
@@ -128,7 +128,7 @@ TEST_F(ActivitySenderTest, ADialogThatIsClosedFromOutsideFinishes) {
 }
 
 TEST_F(ActivitySenderTest, AnActivityWithoutADateCantBeSent) {
-    auto record = *session.store().activity(call);
+    auto record = *database.store().activity(call);
     record.start.reset();
     EXPECT_THROW(sender.send(record, [this] { ++finished; }), values::Failure);
     QTest::qWait(20);

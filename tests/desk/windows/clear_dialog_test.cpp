@@ -17,10 +17,10 @@ namespace {
 
 class ClearDialogTest : public DeskTest {
 protected:
-    ClearDialogTest() { session.open(path); }
+    ClearDialogTest() { database.open(path); }
 
     void clear(const std::string& id) {
-        dialog = std::make_unique<ClearDialog>(session, *session.store().activity(id), nullptr);
+        dialog = std::make_unique<ClearDialog>(database, *database.store().activity(id), nullptr);
         dialog->show();
     }
     template <typename Widget>
@@ -90,9 +90,9 @@ TEST_F(ClearDialogTest, AClearedActivityCanBeOpenedAgain) {
 }
 
 TEST_F(ClearDialogTest, AResultOfAnotherProgramIsKept) {
-    auto record = *session.store().activity(old_task);
+    auto record = *database.store().activity(old_task);
     record.result = "Postponed twice";
-    session.store().update(record);
+    database.store().update(record);
     clear(old_task);
     EXPECT_EQ(part<QComboBox>("result_box")->currentText(), "Postponed twice");
     ok();

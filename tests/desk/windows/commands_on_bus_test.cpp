@@ -73,8 +73,8 @@ protected:
 
     support::PrivateBus bus;
     support::FakeMailProgram mail_program;
-    DeskWindow window{session, Import()};
-    OpenToolbarCommands toolbar{session};
+    DeskWindow window{database, Import()};
+    OpenToolbarCommands toolbar{database};
     service::Service service{window.desk(), toolbar, values::english_us()};
     QDBusConnection caller = bus.connection();
     ApplicationProxy application{contract::bus_name, contract::application_path, caller};
@@ -188,7 +188,7 @@ TEST_F(CommandsOnBusTest, TheDatabaseClosingTakesTheDialogWithItAndAnswers) {
         auto reply = command(number);
         auto* open = dialog<QDialog>();
         ASSERT_NE(open, nullptr);
-        session.close();
+        database.close();
         EXPECT_EQ(refusal(reply), "");
         EXPECT_TRUE(QTest::qWaitFor([&] { return window.findChildren<QDialog*>().isEmpty(); }));
     }

@@ -12,8 +12,8 @@ namespace {
 class ContactChooserTest : public DeskTest {
 protected:
     ContactChooserTest() {
-        session.open(path);
-        chooser.show_contacts({birch}, session.directory());
+        database.open(path);
+        chooser.show_contacts({birch}, database.directory());
         chooser.show();
     }
     void add(const std::string& id) {

@@ -10,9 +10,9 @@ namespace {
 
 class ContactListTest : public DeskTest {
 protected:
-    ContactListTest() : lookup(session) {
-        session.open(path);
-        list = std::make_unique<ContactList>(session, lookup);
+    ContactListTest() : lookup(database) {
+        database.open(path);
+        list = std::make_unique<ContactList>(database, lookup);
         list->resize(800, 300);
         list->show();
         table = child<RecordTable>(*list, "contact_table");

@@ -17,9 +17,9 @@ namespace {
 
 class ContactPageTest : public DeskTest {
 protected:
-    ContactPageTest() : lookup(session) {
-        session.open(path);
-        page = std::make_unique<ContactPage>(session, lookup);
+    ContactPageTest() : lookup(database) {
+        database.open(path);
+        page = std::make_unique<ContactPage>(database, lookup);
         page->resize(900, 650);
         page->show();
     }
@@ -48,7 +48,7 @@ TEST_F(ContactPageTest, SaveStoresWhatWasTyped) {
     click(child<QPushButton>(*page, "save_button"));
     EXPECT_EQ(stored_name(amber), "Zoe Quinn-Adams");
     EXPECT_FALSE(child<QPushButton>(*page, "save_button")->isEnabled());
-    EXPECT_EQ(session.directory().contact_name(amber), "Zoe Quinn-Adams");
+    EXPECT_EQ(database.directory().contact_name(amber), "Zoe Quinn-Adams");
 }
 
 TEST_F(ContactPageTest, SavesSeveralTimesInARow) {
@@ -105,11 +105,11 @@ TEST_F(ContactPageTest, AChangeFromOutsideShowsUnlessSomethingIsBeingTyped) {
     auto theirs = *other->contact(amber);
     theirs.fields[26] = "Theirs";
     other->update(theirs);
-    session.refresh();
+    database.refresh();
     EXPECT_EQ(name_line()->text(), "Theirs");
     retype(name_line(), "Mine");
     contact(*other, "Elm House", "Vera Upton");
-    session.refresh();
+    database.refresh();
     EXPECT_EQ(name_line()->text(), "Mine");
     EXPECT_EQ(label("position_label"), "1 of 5");
 }
@@ -172,7 +172,7 @@ TEST_F(ContactPageTest, ANoteThatIsBeingWrittenGoesToItsOwnContact) {
 }
 
 TEST_F(ContactPageTest, IsEmptyAndLockedWithoutADatabase) {
-    session.close();
+    database.close();
     EXPECT_EQ(label("name_label"), "No contact");
     EXPECT_EQ(name_line()->text(), "");
     EXPECT_FALSE(name_line()->isEnabled());

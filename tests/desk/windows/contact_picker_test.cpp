@@ -14,8 +14,8 @@ namespace {
 class ContactPickerTest : public DeskTest {
 protected:
     ContactPickerTest() {
-        session.open(path);
-        picker = std::make_unique<ContactPicker>(session.directory(), nullptr);
+        database.open(path);
+        picker = std::make_unique<ContactPicker>(database.directory(), nullptr);
         picker->show();
         table = child<RecordTable>(*picker, "contact_table");
         ok = child<QDialogButtonBox>(*picker, "buttons")->button(QDialogButtonBox::Ok);

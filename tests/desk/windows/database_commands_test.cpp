@@ -19,7 +19,7 @@ namespace {
 class DatabaseCommandsTest : public DeskTest {
 protected:
     DatabaseCommandsTest()
-        : lookup(session), commands(session, lookup, window, [](store::Store& store, const std::string& file) {
+        : lookup(database), commands(database, lookup, window, [](store::Store& store, const std::string& file) {
               if (file.ends_with(".bad"))
                   throw values::Failure(values::FailureNumber::automation, "That file can't be read.");
               contact(store, "Elm House", "Vera Upton");
@@ -65,69 +65,69 @@ protected:
 
 TEST_F(DatabaseCommandsTest, OpensTheFileThatIsChosen) {
     with_dialogs({choose("team.desk")}, [&] { commands.open_another(); });
-    EXPECT_EQ(session.path(), path);
+    EXPECT_EQ(database.path(), path);
 }
 
 TEST_F(DatabaseCommandsTest, WhatCantBeOpenedIsToldAndTheOpenDatabaseStays) {
-    session.open(path);
+    database.open(path);
     std::ofstream(in_folder("letter.desk")) << "Dear Sir or Madam, this is no database at all.";
     with_dialogs({choose("letter.desk"), confirm(told)}, [&] { commands.open_another(); });
     EXPECT_TRUE(told.contains("letter.desk")) << told.toStdString();
-    EXPECT_EQ(session.path(), path);
+    EXPECT_EQ(database.path(), path);
 }
 
 TEST_F(DatabaseCommandsTest, ANewDatabaseBeginsWithItsFirstUser) {
     with_dialogs({choose("new"), type_name("Carla Dunn")}, [&] { commands.create(); });
-    EXPECT_EQ(session.path(), in_folder("new.desk"));
-    ASSERT_EQ(session.directory().users().size(), 1u);
-    EXPECT_EQ(session.directory().users()[0].name, "Carla Dunn");
+    EXPECT_EQ(database.path(), in_folder("new.desk"));
+    ASSERT_EQ(database.directory().users().size(), 1u);
+    EXPECT_EQ(database.directory().users()[0].name, "Carla Dunn");
 }
 
 TEST_F(DatabaseCommandsTest, ANewDatabaseDoesntOverwriteAFile) {
     with_dialogs({choose("team.desk"), type_name("Carla Dunn"), confirm(told)}, [&] { commands.create(); });
-    EXPECT_FALSE(session.is_open());
+    EXPECT_FALSE(database.is_open());
     EXPECT_EQ(elsewhere()->contacts().size(), 4u);
 }
 
 TEST_F(DatabaseCommandsTest, MakesAndOpensASample) {
     with_dialogs({choose("sample.desk")}, [&] { commands.create_sample(); });
-    EXPECT_EQ(session.path(), in_folder("sample.desk"));
-    EXPECT_FALSE(session.directory().contacts().empty());
+    EXPECT_EQ(database.path(), in_folder("sample.desk"));
+    EXPECT_FALSE(database.directory().contacts().empty());
 }
 
 TEST_F(DatabaseCommandsTest, AnImportTellsWhatItTook) {
-    session.open(path);
+    database.open(path);
     std::ofstream(in_folder("people.vcf")) << "x";
     with_dialogs({choose("people.vcf"), confirm(told)}, [&] { commands.import_file(); });
     EXPECT_EQ(told, "One contact was taken.");
-    EXPECT_EQ(session.directory().contacts().size(), 5u);
+    EXPECT_EQ(database.directory().contacts().size(), 5u);
 }
 
 TEST_F(DatabaseCommandsTest, AnImportThatFailsTellsWhy) {
-    session.open(path);
+    database.open(path);
     std::ofstream(in_folder("people.bad")) << "x";
     with_dialogs({choose("people.bad"), confirm(told)}, [&] { commands.import_file(); });
     EXPECT_EQ(told, "That file can't be read.");
-    EXPECT_EQ(session.directory().contacts().size(), 4u);
+    EXPECT_EQ(database.directory().contacts().size(), 4u);
 }
 
 TEST_F(DatabaseCommandsTest, ThereIsNoImportWithoutOne) {
     EXPECT_TRUE(commands.can_import());
-    EXPECT_FALSE(DatabaseCommands(session, lookup, window, {}).can_import());
+    EXPECT_FALSE(DatabaseCommands(database, lookup, window, {}).can_import());
 }
 
 TEST_F(DatabaseCommandsTest, AddsAUser) {
-    session.open(path);
+    database.open(path);
     with_dialogs({type_name("Carla Dunn")}, [&] { commands.add_user(); });
     EXPECT_EQ(elsewhere()->users().size(), 3u);
 }
 
 TEST_F(DatabaseCommandsTest, WhatCantBeStoredHoldsUpTheClosingUnlessTheUserGivesItUp) {
-    session.open(path);
+    database.open(path);
     lookup.before_leaving = [] { throw values::Failure(values::FailureNumber::automation, "Disk full."); };
     with_dialogs({confirm(told), press(QMessageBox::Cancel)}, [&] { commands.close(); });
     EXPECT_EQ(told, "Disk full.");
-    EXPECT_TRUE(session.is_open());
+    EXPECT_TRUE(database.is_open());
     with_dialogs({confirm(told), press(QMessageBox::Discard)}, [&] { commands.close(); });
-    EXPECT_FALSE(session.is_open());
+    EXPECT_FALSE(database.is_open());
 }

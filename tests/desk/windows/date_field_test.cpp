@@ -2,6 +2,7 @@
 
 #include "core/values/failure.h"
 #include "desk_fixture.h"
+#include "support/locales.h"
 
 #include <QCalendarWidget>
 
@@ -36,7 +37,7 @@ TEST_F(DateFieldTest, ShowsTheDateWithoutItsTime) {
 
 TEST_F(DateFieldTest, WritesAndReadsTheDatesOfItsLocale) {
     DateField german;
-    german.set_locale(values::german());
+    german.set_locale(support::german());
     german.set_date(DateTime::of(2024, 3, 6));
     EXPECT_EQ(german.text(), "06.03.2024");
     german.setText("7.4.2024");

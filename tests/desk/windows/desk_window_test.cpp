@@ -21,9 +21,9 @@ using namespace windows;
 
 namespace {
 
-class MainWindowTest : public DeskTest {
+class DeskWindowTest : public DeskTest {
 protected:
-    MainWindowTest() : window(std::make_unique<DeskWindow>(session, Import())) {
+    DeskWindowTest() : window(std::make_unique<DeskWindow>(database, Import())) {
         window->show();
         EXPECT_TRUE(QTest::qWaitForWindowActive(window.get()));
         window->desk().on_database_closed = [this] { events.push_back("closed"); };
@@ -54,7 +54,7 @@ protected:
 
 } // namespace
 
-TEST_F(MainWindowTest, StartsWithoutADatabase) {
+TEST_F(DeskWindowTest, StartsWithoutADatabase) {
     EXPECT_EQ(window->windowTitle(), "Contact Desk");
     EXPECT_EQ(view(), "start_page");
     EXPECT_EQ(count(), "");
@@ -64,7 +64,7 @@ TEST_F(MainWindowTest, StartsWithoutADatabase) {
     EXPECT_EQ(window->desk().database_path(), "");
 }
 
-TEST_F(MainWindowTest, OpensADatabaseAndShowsItsContacts) {
+TEST_F(DeskWindowTest, OpensADatabaseAndShowsItsContacts) {
     window->open(path);
     EXPECT_EQ(window->windowTitle(), "team.desk - Contact Desk");
     EXPECT_EQ(view(), "contact_list_view");
@@ -73,7 +73,7 @@ TEST_F(MainWindowTest, OpensADatabaseAndShowsItsContacts) {
     EXPECT_TRUE(action("schedule_call")->isEnabled());
 }
 
-TEST_F(MainWindowTest, AFileThatIsNoDatabaseIsToldAndTheWindowStaysUsable) {
+TEST_F(DeskWindowTest, AFileThatIsNoDatabaseIsToldAndTheWindowStaysUsable) {
     std::ofstream(in_folder("letter.txt")) << "Dear Sir or Madam, this is no database at all.";
     for (const char* name : {"letter.txt", "missing.desk"})
         with_dialogs({[](QWidget& box) { QTest::keyClick(&box, Qt::Key_Return); }},
@@ -83,7 +83,7 @@ TEST_F(MainWindowTest, AFileThatIsNoDatabaseIsToldAndTheWindowStaysUsable) {
     EXPECT_EQ(count(), "4 of 4 contacts");
 }
 
-TEST_F(MainWindowTest, ADamagedDatabaseIsToldAndTheOpenOneStays) {
+TEST_F(DeskWindowTest, ADamagedDatabaseIsToldAndTheOpenOneStays) {
     window->open(path);
     const auto broken = in_folder("broken.desk");
     std::filesystem::copy_file(path, broken);
@@ -98,10 +98,10 @@ TEST_F(MainWindowTest, ADamagedDatabaseIsToldAndTheOpenOneStays) {
     EXPECT_EQ(count(), "4 of 4 contacts");
 }
 
-TEST_F(MainWindowTest, ADatabaseThatCantBeWrittenCanBeReadAndSaysSo) {
+TEST_F(DeskWindowTest, ADatabaseThatCantBeWrittenCanBeReadAndSaysSo) {
     using std::filesystem::perms;
-    std::filesystem::permissions(folder.path().toStdString(), perms::all);
-    for (const auto& entry : std::filesystem::directory_iterator(folder.path().toStdString()))
+    std::filesystem::permissions(folder.path(), perms::all);
+    for (const auto& entry : std::filesystem::directory_iterator(folder.path()))
         std::filesystem::permissions(entry, perms::all); // the log beside it, which may be open
     std::filesystem::permissions(path, perms::owner_read | perms::group_read | perms::others_read);
     const support::Unprivileged reader;
@@ -114,7 +114,7 @@ TEST_F(MainWindowTest, ADatabaseThatCantBeWrittenCanBeReadAndSaysSo) {
     EXPECT_THROW(window->desk().run_command(act::CommandNumber::schedule_activity, [] {}), values::Failure);
 }
 
-TEST_F(MainWindowTest, TheMenusSwitchTheViews) {
+TEST_F(DeskWindowTest, TheMenusSwitchTheViews) {
     window->open(path);
     command(Qt::Key_V, "view_contact");
     EXPECT_EQ(view(), "contact_view");
@@ -128,7 +128,7 @@ TEST_F(MainWindowTest, TheMenusSwitchTheViews) {
     EXPECT_FALSE(action("view_groups")->isChecked());
 }
 
-TEST_F(MainWindowTest, ADoubleClickInTheContactListShowsTheContact) {
+TEST_F(DeskWindowTest, ADoubleClickInTheContactListShowsTheContact) {
     window->open(path);
     auto* table = child<RecordTable>(*window->findChild<QWidget*>("contact_list_view"), "contact_table");
     const QPoint spot = table->visualRect(table->model()->index(2, 0)).center();
@@ -138,7 +138,7 @@ TEST_F(MainWindowTest, ADoubleClickInTheContactListShowsTheContact) {
     EXPECT_EQ(child<QLineEdit>(*window, "field_26")->text(), "Xenia Stone");
 }
 
-TEST_F(MainWindowTest, ASmallerLookupShowsInTheCount) {
+TEST_F(DeskWindowTest, ASmallerLookupShowsInTheCount) {
     window->open(path);
     window->desk().contact_view().create_lookup({birch, cedar});
     EXPECT_EQ(count(), "2 of 4 contacts");
@@ -146,7 +146,7 @@ TEST_F(MainWindowTest, ASmallerLookupShowsInTheCount) {
     EXPECT_EQ(count(), "4 of 4 contacts");
 }
 
-TEST_F(MainWindowTest, SchedulesByTheMenu) {
+TEST_F(DeskWindowTest, SchedulesByTheMenu) {
     window->open(path);
     command(Qt::Key_S, "schedule_to_do");
     ASSERT_NE(dialog(), nullptr);
@@ -160,7 +160,7 @@ TEST_F(MainWindowTest, SchedulesByTheMenu) {
     EXPECT_EQ(found[2].type, store::ActivityType::to_do);
 }
 
-TEST_F(MainWindowTest, TheTaskListShowsEverybodysOpenActivitiesFromTodayOn) {
+TEST_F(DeskWindowTest, TheTaskListShowsEverybodysOpenActivitiesFromTodayOn) {
     window->open(path);
     command(Qt::Key_V, "view_task_list");
     auto* list = dynamic_cast<ActivityList*>(window->findChild<QWidget*>("task_list_view"));
@@ -169,7 +169,7 @@ TEST_F(MainWindowTest, TheTaskListShowsEverybodysOpenActivitiesFromTodayOn) {
     EXPECT_EQ(list->activity(2).id, meeting);
 }
 
-TEST_F(MainWindowTest, EnterOnAnActivityEditsIt) {
+TEST_F(DeskWindowTest, EnterOnAnActivityEditsIt) {
     window->open(path);
     command(Qt::Key_V, "view_task_list");
     auto* list = window->findChild<QWidget*>("task_list_view");
@@ -184,7 +184,7 @@ TEST_F(MainWindowTest, EnterOnAnActivityEditsIt) {
     EXPECT_EQ(elsewhere()->activity(call)->regarding, "Ask again");
 }
 
-TEST_F(MainWindowTest, ClosingTheDatabaseIsAnEventOnce) {
+TEST_F(DeskWindowTest, ClosingTheDatabaseIsAnEventOnce) {
     window->open(path);
     command(Qt::Key_F, "file_close");
     EXPECT_EQ(events, Events{"closed"});
@@ -193,14 +193,14 @@ TEST_F(MainWindowTest, ClosingTheDatabaseIsAnEventOnce) {
     EXPECT_FALSE(action("file_close")->isEnabled());
 }
 
-TEST_F(MainWindowTest, ExitTellsThatTheUserWantsToCloseAndThenThatTheDatabaseHasClosed) {
+TEST_F(DeskWindowTest, ExitTellsThatTheUserWantsToCloseAndThenThatTheDatabaseHasClosed) {
     window->open(path);
     command(Qt::Key_F, "file_exit");
     EXPECT_EQ(events, (Events{"wants to close", "closed"}));
     EXPECT_FALSE(window->isVisible());
 }
 
-TEST_F(MainWindowTest, TheCloseCommandAnswersFirstAndThenEnds) {
+TEST_F(DeskWindowTest, TheCloseCommandAnswersFirstAndThenEnds) {
     window->open(path);
     window->desk().run_command(act::CommandNumber::close_application, [this] { events.push_back("answered"); });
     EXPECT_EQ(events, Events{"answered"});
@@ -209,7 +209,7 @@ TEST_F(MainWindowTest, TheCloseCommandAnswersFirstAndThenEnds) {
     EXPECT_FALSE(window->isVisible());
 }
 
-TEST_F(MainWindowTest, DoesntCloseOverAnOpenDialog) {
+TEST_F(DeskWindowTest, DoesntCloseOverAnOpenDialog) {
     window->open(path);
     command(Qt::Key_S, "schedule_call");
     window->close();
@@ -217,7 +217,7 @@ TEST_F(MainWindowTest, DoesntCloseOverAnOpenDialog) {
     EXPECT_EQ(events, Events{});
 }
 
-TEST_F(MainWindowTest, ClosingStoresWhatIsBeingTyped) {
+TEST_F(DeskWindowTest, ClosingStoresWhatIsBeingTyped) {
     window->open(path);
     command(Qt::Key_C, "contact_edit");
     retype(child<QLineEdit>(*window, "field_25"), "Amber Works Ltd");
@@ -225,7 +225,7 @@ TEST_F(MainWindowTest, ClosingStoresWhatIsBeingTyped) {
     EXPECT_EQ(elsewhere()->contact(amber)->fields[25], "Amber Works Ltd");
 }
 
-TEST_F(MainWindowTest, CommandsFromOutsideOpenTheDialogsAndFinishWithThem) {
+TEST_F(DeskWindowTest, CommandsFromOutsideOpenTheDialogsAndFinishWithThem) {
     window->open(path);
     auto& desk = window->desk();
     const auto finish = [this] { events.push_back("finished"); };
@@ -245,28 +245,28 @@ TEST_F(MainWindowTest, CommandsFromOutsideOpenTheDialogsAndFinishWithThem) {
     EXPECT_EQ(events, (Events{"finished", "finished"}));
 }
 
-TEST_F(MainWindowTest, TheEditCommandFailsWhereNothingIsSelected) {
+TEST_F(DeskWindowTest, TheEditCommandFailsWhereNothingIsSelected) {
     window->open(path);
     EXPECT_THROW(window->desk().run_command(act::CommandNumber::edit_activity, [] {}), values::Failure);
     EXPECT_EQ(dialog(), nullptr);
 }
 
-TEST_F(MainWindowTest, TheContactViewIsBroughtUpByItsCommand) {
+TEST_F(DeskWindowTest, TheContactViewIsBroughtUpByItsCommand) {
     window->open(path);
     window->desk().run_command(act::CommandNumber::show_contact_view, [this] { events.push_back("finished"); });
     EXPECT_EQ(view(), "contact_view");
     EXPECT_EQ(events, Events{"finished"});
 }
 
-TEST_F(MainWindowTest, SeesWhatAnotherProcessWroteWithinASecondOrTwo) {
+TEST_F(DeskWindowTest, SeesWhatAnotherProcessWroteWithinASecondOrTwo) {
     window->open(path);
     contact(*elsewhere(), "Elm House", "Vera Upton");
     EXPECT_TRUE(QTest::qWaitFor([this] { return count() == "5 of 5 contacts"; }, 10000));
 }
 
-TEST_F(MainWindowTest, ImportsOnlyWhereThereIsAnImport) {
+TEST_F(DeskWindowTest, ImportsOnlyWhereThereIsAnImport) {
     window->open(path);
     EXPECT_FALSE(action("file_import")->isEnabled());
-    DeskWindow other(session, [](store::Store&, const std::string&) { return std::string(); });
+    DeskWindow other(database, [](store::Store&, const std::string&) { return std::string(); });
     EXPECT_TRUE(other.findChild<QAction*>("file_import")->isEnabled());
 }

@@ -8,8 +8,8 @@ namespace {
 
 class GroupsTabTest : public DeskTest {
 protected:
-    GroupsTabTest() : tab(session) {
-        session.open(path);
+    GroupsTabTest() : tab(database) {
+        database.open(path);
         tab.resize(300, 200);
         tab.show();
         tab.show_contact(birch);

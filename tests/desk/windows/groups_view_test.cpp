@@ -13,9 +13,9 @@ namespace {
 
 class GroupsViewTest : public DeskTest {
 protected:
-    GroupsViewTest() : lookup(session) {
-        session.open(path);
-        view = std::make_unique<GroupsView>(session, lookup);
+    GroupsViewTest() : lookup(database) {
+        database.open(path);
+        view = std::make_unique<GroupsView>(database, lookup);
         view->resize(900, 400);
         view->show();
     }
@@ -52,7 +52,7 @@ TEST_F(GroupsViewTest, MakesAGroupOfTheNameThatIsTyped) {
     with_dialogs({[](QWidget& dialog) { answer_name(dialog, "Partners"); }},
                  [&] { click(button("new_group_button")); });
     EXPECT_EQ(elsewhere()->groups().size(), 3u);
-    EXPECT_EQ(session.directory().group_name(groups()->current_id()), "Partners");
+    EXPECT_EQ(database.directory().group_name(groups()->current_id()), "Partners");
 }
 
 TEST_F(GroupsViewTest, RenamesTheGroup) {

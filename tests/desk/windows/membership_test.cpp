@@ -9,7 +9,7 @@ namespace {
 
 class Membership : public DeskTest {
 protected:
-    Membership() { session.open(path); }
+    Membership() { database.open(path); }
     std::set<std::string> members(const std::string& group) {
         const auto contacts = elsewhere()->group(group)->contacts;
         return {contacts.begin(), contacts.end()};
@@ -20,18 +20,18 @@ protected:
 } // namespace
 
 TEST_F(Membership, AddsContactsToThoseThatAreThere) {
-    add_members(session, friends, {amber, birch});
+    add_members(database, friends, {amber, birch});
     EXPECT_EQ(members(friends), (Ids{amber, birch, cedar}));
     EXPECT_EQ(elsewhere()->group(friends)->contacts.size(), 3u);
-    EXPECT_EQ(session.directory().group(friends)->contacts.size(), 3u);
+    EXPECT_EQ(database.directory().group(friends)->contacts.size(), 3u);
 }
 
 TEST_F(Membership, RemovesOneContact) {
-    remove_member(session, friends, birch);
-    remove_member(session, friends, amber);
+    remove_member(database, friends, birch);
+    remove_member(database, friends, amber);
     EXPECT_EQ(members(friends), Ids{cedar});
 }
 
 TEST_F(Membership, AGroupThatHasGoneFails) {
-    EXPECT_THROW(add_members(session, "NOGROUP00000", {amber}), values::Failure);
+    EXPECT_THROW(add_members(database, "NOGROUP00000", {amber}), values::Failure);
 }

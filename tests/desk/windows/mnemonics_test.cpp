@@ -49,13 +49,13 @@ void expect_each_letter_once(const QStringList& captions) {
 
 class Mnemonics : public DeskTest {
 protected:
-    Mnemonics() { session.open(path); }
+    Mnemonics() { database.open(path); }
 };
 
 } // namespace
 
 TEST_F(Mnemonics, AreDifferentOnEachTabOfAnActivity) {
-    ActivityDialog dialog(session, *session.store().activity(series), nullptr);
+    ActivityDialog dialog(database, *database.store().activity(series), nullptr);
     dialog.show();
     for (const auto tab :
          {ActivityDialog::Tab::general, ActivityDialog::Tab::details, ActivityDialog::Tab::recurring}) {
@@ -65,13 +65,13 @@ TEST_F(Mnemonics, AreDifferentOnEachTabOfAnActivity) {
 }
 
 TEST_F(Mnemonics, AreDifferentInTheDialogThatClears) {
-    ClearDialog dialog(session, *session.store().activity(series), nullptr);
+    ClearDialog dialog(database, *database.store().activity(series), nullptr);
     dialog.show();
     expect_each_letter_once(captions(dialog));
 }
 
 TEST_F(Mnemonics, AreDifferentInEachViewAndMenuOfTheWindow) {
-    DeskWindow window(session, {});
+    DeskWindow window(database, {});
     window.show();
     for (const char* view : {"view_contact_list", "view_contact", "view_task_list", "view_groups"}) {
         child<QAction>(window, view)->trigger();
@@ -88,6 +88,6 @@ TEST_F(Mnemonics, AreDifferentInEachViewAndMenuOfTheWindow) {
             entries << entry->text();
         expect_each_letter_once(entries);
     }
-    session.close();
+    database.close();
     expect_each_letter_once(captions(window));
 }

@@ -14,10 +14,10 @@ namespace {
 class NotesTabTest : public DeskTest {
 protected:
     NotesTabTest() {
-        session.open(path);
-        session.store().add(store::Note{{}, amber, at(3, 4, 9, 0), "First line\nSecond line"});
-        session.store().add(store::Note{{}, amber, at(3, 5, 9, 0), "Later"});
-        tab = std::make_unique<NotesTab>(session);
+        database.open(path);
+        database.store().add(store::Note{{}, amber, at(3, 4, 9, 0), "First line\nSecond line"});
+        database.store().add(store::Note{{}, amber, at(3, 5, 9, 0), "Later"});
+        tab = std::make_unique<NotesTab>(database);
         tab->resize(700, 300);
         tab->show();
         tab->show_contact(amber);

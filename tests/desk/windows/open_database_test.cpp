@@ -9,12 +9,12 @@ using windows::OpenDatabase;
 
 namespace {
 
-class SessionTest : public DeskTest {
+class OpenDatabaseTest : public DeskTest {
 protected:
-    SessionTest() {
-        QObject::connect(&session, &OpenDatabase::opened, [this] { events.push_back("opened"); });
-        QObject::connect(&session, &OpenDatabase::closed, [this] { events.push_back("closed"); });
-        QObject::connect(&session, &OpenDatabase::changed, [this] { events.push_back("changed"); });
+    OpenDatabaseTest() {
+        QObject::connect(&database, &OpenDatabase::opened, [this] { events.push_back("opened"); });
+        QObject::connect(&database, &OpenDatabase::closed, [this] { events.push_back("closed"); });
+        QObject::connect(&database, &OpenDatabase::changed, [this] { events.push_back("changed"); });
     }
     using Events = std::vector<std::string>;
     Events events;
@@ -22,64 +22,64 @@ protected:
 
 } // namespace
 
-TEST_F(SessionTest, HasNoDatabaseAtFirst) {
-    EXPECT_FALSE(session.is_open());
-    EXPECT_EQ(session.path(), "");
-    EXPECT_THROW(session.store(), values::Failure);
-    EXPECT_NO_THROW(session.refresh());
+TEST_F(OpenDatabaseTest, HasNoDatabaseAtFirst) {
+    EXPECT_FALSE(database.is_open());
+    EXPECT_EQ(database.path(), "");
+    EXPECT_THROW(database.store(), values::Failure);
+    EXPECT_NO_THROW(database.refresh());
 }
 
-TEST_F(SessionTest, OpeningTellsOnceAndReadsTheDirectory) {
-    session.open(path);
+TEST_F(OpenDatabaseTest, OpeningTellsOnceAndReadsTheDirectory) {
+    database.open(path);
     EXPECT_EQ(events, (Events{"opened", "changed"}));
-    EXPECT_EQ(session.path(), path);
-    EXPECT_EQ(session.directory().contacts().size(), 4u);
+    EXPECT_EQ(database.path(), path);
+    EXPECT_EQ(database.directory().contacts().size(), 4u);
 }
 
-TEST_F(SessionTest, ClosingForgetsTheRecords) {
-    session.open(path);
+TEST_F(OpenDatabaseTest, ClosingForgetsTheRecords) {
+    database.open(path);
     events.clear();
-    session.close();
+    database.close();
     EXPECT_EQ(events, (Events{"closed", "changed"}));
-    EXPECT_FALSE(session.is_open());
-    EXPECT_TRUE(session.directory().contacts().empty());
-    session.close();
+    EXPECT_FALSE(database.is_open());
+    EXPECT_TRUE(database.directory().contacts().empty());
+    database.close();
     EXPECT_EQ(events.size(), 2u);
 }
 
-TEST_F(SessionTest, OpeningAnotherDatabaseClosesTheFirst) {
-    session.open(path);
+TEST_F(OpenDatabaseTest, OpeningAnotherDatabaseClosesTheFirst) {
+    database.open(path);
     events.clear();
-    session.create(in_folder("other.desk"));
+    database.create(in_folder("other.desk"));
     EXPECT_EQ(events, (Events{"closed", "changed", "opened", "changed"}));
-    EXPECT_EQ(session.path(), in_folder("other.desk"));
+    EXPECT_EQ(database.path(), in_folder("other.desk"));
 }
 
-TEST_F(SessionTest, ADatabaseThatCantBeOpenedLeavesTheOpenOne) {
-    session.open(path);
+TEST_F(OpenDatabaseTest, ADatabaseThatCantBeOpenedLeavesTheOpenOne) {
+    database.open(path);
     events.clear();
     std::ofstream(in_folder("letter.txt")) << "Dear Sir or Madam, this is no database at all.";
-    EXPECT_THROW(session.open(in_folder("letter.txt")), values::Failure);
-    EXPECT_THROW(session.open(in_folder("missing.desk")), values::Failure);
-    EXPECT_THROW(session.create(path), values::Failure);
-    EXPECT_EQ(session.path(), path);
+    EXPECT_THROW(database.open(in_folder("letter.txt")), values::Failure);
+    EXPECT_THROW(database.open(in_folder("missing.desk")), values::Failure);
+    EXPECT_THROW(database.create(path), values::Failure);
+    EXPECT_EQ(database.path(), path);
     EXPECT_EQ(events, Events{});
 }
 
-TEST_F(SessionTest, SeesWhatAnotherProcessWrote) {
-    session.open(path);
+TEST_F(OpenDatabaseTest, SeesWhatAnotherProcessWrote) {
+    database.open(path);
     events.clear();
-    session.refresh();
+    database.refresh();
     EXPECT_EQ(events, Events{});
     contact(*elsewhere(), "Elm House", "Vera Upton");
-    session.refresh();
+    database.refresh();
     EXPECT_EQ(events, Events{"changed"});
-    EXPECT_EQ(session.directory().contacts().size(), 5u);
-    session.refresh();
+    EXPECT_EQ(database.directory().contacts().size(), 5u);
+    database.refresh();
     EXPECT_EQ(events, Events{"changed"});
 }
 
-TEST_F(SessionTest, KnowsTheDayByItsClock) {
-    EXPECT_EQ(session.now(), at(3, 6, 10, 10));
-    EXPECT_EQ(session.today(), at(3, 6));
+TEST_F(OpenDatabaseTest, KnowsTheDayByItsClock) {
+    EXPECT_EQ(database.now(), at(3, 6, 10, 10));
+    EXPECT_EQ(database.today(), at(3, 6));
 }

@@ -8,8 +8,8 @@ using windows::OpenToolbarCommands;
 using OpenToolbarCommandsTest = DeskTest;
 
 TEST_F(OpenToolbarCommandsTest, AreThoseOfTheOpenDatabase) {
-    OpenToolbarCommands commands(session);
-    session.open(path);
+    OpenToolbarCommands commands(database);
+    database.open(path);
     commands.add({"Orvanta", "/opt/orvanta", "/opt", "Orvanta", "Click to launch Orvanta", "", "", 1});
     EXPECT_TRUE(commands.place("Orvanta", store::CommandPlace::toolbar, 2));
     EXPECT_TRUE(commands.exists("Orvanta"));
@@ -17,11 +17,11 @@ TEST_F(OpenToolbarCommandsTest, AreThoseOfTheOpenDatabase) {
     EXPECT_EQ(commands.at(store::CommandPlace::toolbar, 2).size(), 1u);
     EXPECT_TRUE(commands.displace("Orvanta", store::CommandPlace::toolbar, 2));
     EXPECT_EQ(commands.all().size(), 1u);
-    session.create(in_folder("other.desk"));
+    database.create(in_folder("other.desk"));
     EXPECT_FALSE(commands.exists("Orvanta"));
 }
 
 TEST_F(OpenToolbarCommandsTest, FailWithoutADatabase) {
-    OpenToolbarCommands commands(session);
+    OpenToolbarCommands commands(database);
     EXPECT_THROW(commands.exists("Orvanta"), values::Failure);
 }

@@ -56,7 +56,7 @@ TEST_F(RecordTableTest, AClickOnAHeadingSortsByThatColumnAndASecondOneTurnsTheOr
 
 TEST_F(RecordTableTest, KeepsTheGivenOrderWhenItIsSortedByNoColumn) {
     RecordTable unsorted;
-    unsorted.set_columns({{"Name"}, {"Size"}}, -1);
+    unsorted.set_columns({{"Name"}, {"Size"}});
     unsorted.show_rows({row("1", "cherry", 3), row("2", "Apple", 20)});
     EXPECT_EQ(unsorted.id_at(0), "1");
     EXPECT_EQ(unsorted.id_at(1), "2");

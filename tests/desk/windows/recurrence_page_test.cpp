@@ -2,6 +2,7 @@
 
 #include "core/values/failure.h"
 #include "desk_fixture.h"
+#include "support/locales.h"
 
 #include <QComboBox>
 #include <QLabel>
@@ -73,7 +74,7 @@ TEST_F(RecurrencePageTest, GivesBackEachKindAsItWasGiven) {
     };
     for (const Recurrence& rule : rules) {
         RecurrencePage other;
-        other.show_rule(rule, {}, start, values::german());
+        other.show_rule(rule, {}, start, support::german());
         EXPECT_EQ(other.rule(), rule);
     }
 }

@@ -8,7 +8,7 @@ namespace {
 
 class Rows : public DeskTest {
 protected:
-    Rows() { session.open(path); }
+    Rows() { database.open(path); }
 
     std::vector<QString> texts(const Row& row) {
         std::vector<QString> result;
@@ -17,7 +17,7 @@ protected:
         return result;
     }
     Row row_of(const store::Activity& activity) {
-        return activity_rows({activity}, session.directory(), session.locale()).front();
+        return activity_rows({activity}, database.directory(), database.locale()).front();
     }
     using Texts = std::vector<QString>;
 };
@@ -25,7 +25,7 @@ protected:
 } // namespace
 
 TEST_F(Rows, AnActivityShowsItsFieldsInTheColumns) {
-    auto activity = *session.store().activity(meeting);
+    auto activity = *database.store().activity(meeting);
     activity.group = friends;
     activity.duration = 90;
     activity.priority = store::Priority::high;
@@ -38,26 +38,26 @@ TEST_F(Rows, AnActivityShowsItsFieldsInTheColumns) {
 }
 
 TEST_F(Rows, AClearedActivityIsStruckOut) {
-    EXPECT_TRUE(row_of(*session.store().activity(old_task)).is_struck_out);
+    EXPECT_TRUE(row_of(*database.store().activity(old_task)).is_struck_out);
 }
 
 TEST_F(Rows, ASeriesBearsAMarkBeforeItsDate) {
-    EXPECT_FALSE(row_of(*session.store().activity(series)).cells[date_column].icon.isNull());
-    EXPECT_TRUE(row_of(*session.store().activity(call)).cells[date_column].icon.isNull());
+    EXPECT_FALSE(row_of(*database.store().activity(series)).cells[date_column].icon.isNull());
+    EXPECT_TRUE(row_of(*database.store().activity(call)).cells[date_column].icon.isNull());
 }
 
 TEST_F(Rows, AnActivityWithoutAStartHasAnEmptyDateThatSortsFirst) {
-    auto activity = *session.store().activity(call);
+    auto activity = *database.store().activity(call);
     activity.start.reset();
     const Row row = row_of(activity);
     EXPECT_EQ(row.cells[1].text, "");
     EXPECT_EQ(row.cells[2].text, "");
     EXPECT_LT(row.cells[1].order.toLongLong(),
-              row_of(*session.store().activity(call)).cells[1].order.toLongLong());
+              row_of(*database.store().activity(call)).cells[1].order.toLongLong());
 }
 
 TEST_F(Rows, PrioritiesSortByWeightAndNotByName) {
-    auto activity = *session.store().activity(call);
+    auto activity = *database.store().activity(call);
     activity.priority = store::Priority::high;
     const int high = row_of(activity).cells[4].order.toInt();
     activity.priority = store::Priority::low;
@@ -65,13 +65,13 @@ TEST_F(Rows, PrioritiesSortByWeightAndNotByName) {
 }
 
 TEST_F(Rows, ALineBreakInATextBecomesABlank) {
-    auto activity = *session.store().activity(call);
+    auto activity = *database.store().activity(call);
     activity.regarding = "Prices\nand terms";
     EXPECT_EQ(row_of(activity).cells[5].text, "Prices and terms");
 }
 
 TEST_F(Rows, UnknownContactsAreLeftOut) {
-    const auto rows = contact_rows({"NOBODY000000", birch}, session.directory());
+    const auto rows = contact_rows({"NOBODY000000", birch}, database.directory());
     ASSERT_EQ(rows.size(), 1u);
     EXPECT_EQ(rows[0].cells[0].text, "Birch Ltd");
     EXPECT_EQ(rows[0].cells[1].text, "Yann Reed");
@@ -85,12 +85,12 @@ TEST_F(Rows, EveryColumnOfTheContactsHasATitle) {
 
 TEST_F(Rows, ANoteShowsWhenItWasWritten) {
     const store::Note note{"NOTE00000001", amber, at(3, 5, 16, 30), "Called.\nNo answer."};
-    EXPECT_EQ(texts(note_rows({note}, session.locale()).front()),
+    EXPECT_EQ(texts(note_rows({note}, database.locale()).front()),
               (Texts{"3/5/2024", "4:30 PM", "Called. No answer."}));
 }
 
 TEST_F(Rows, AGroupTellsHowManyContactsItHas) {
-    const auto rows = group_rows(session.directory().groups());
+    const auto rows = group_rows(database.directory().groups());
     ASSERT_EQ(rows.size(), 2u);
     EXPECT_EQ(texts(rows[0]), (Texts{"Friends", "2"}));
     EXPECT_EQ(texts(rows[1]), (Texts{"Suppliers", "0"}));

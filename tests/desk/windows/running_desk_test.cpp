@@ -17,9 +17,10 @@ namespace {
 class RunningDeskTest : public DeskTest {
 protected:
     RunningDeskTest()
-        : lookup(session), page(session, lookup), activity_commands(session, lookup, page),
-          desk(session, lookup, page, commands, activity_commands) {
-        session.open(path);
+        : lookup(database), page(database, lookup), activity_commands(database, lookup, page),
+          desk(database, {.lookup = lookup, .page = page},
+               {.by_number = commands, .on_activities = activity_commands}) {
+        database.open(path);
     }
     model::ContactView& view() { return desk.contact_view(); }
 
@@ -35,18 +36,18 @@ protected:
 TEST_F(RunningDeskTest, TellsTheAbsolutePathOfTheDatabase) {
     EXPECT_EQ(desk.database_path(), path);
     const auto relative = std::filesystem::relative(path).string();
-    session.open(relative);
+    database.open(relative);
     EXPECT_TRUE(std::filesystem::path(desk.database_path()).is_absolute());
     EXPECT_TRUE(std::filesystem::equivalent(desk.database_path(), path));
-    session.close();
+    database.close();
     EXPECT_EQ(desk.database_path(), "");
 }
 
 TEST_F(RunningDeskTest, TellsThatTheDatabaseHasClosedAlsoWhenAnotherOneOpens) {
     std::vector<std::string> paths;
     desk.on_database_closed = [&] { paths.push_back(desk.database_path()); };
-    session.open(path);
-    session.close();
+    database.open(path);
+    database.close();
     EXPECT_EQ(paths, (std::vector<std::string>{"", ""}));
 }
 

@@ -2,6 +2,7 @@
 
 #include "core/values/failure.h"
 #include "desk_fixture.h"
+#include "support/locales.h"
 
 using values::DateTime;
 using windows::TimeField;
@@ -59,7 +60,7 @@ TEST_F(TimeFieldTest, WhatIsNoTimeFails) {
 
 TEST_F(TimeFieldTest, ShowsTwentyFourHoursWhereTheLocaleDoes) {
     TimeField german;
-    german.set_locale(values::german());
+    german.set_locale(support::german());
     german.set_time(DateTime::time_of_day(14, 5));
     EXPECT_EQ(german.currentText(), "14:05");
     EXPECT_EQ(german.itemText(47), "23:30");

@@ -123,7 +123,7 @@ TEST(AccessibleGrid, HasTheCurrentCellForItsFocus) {
 TEST(AccessibleGrid, TellsOfTheCurrentCell) {
     ReadGrid grid;
     grid.model.Row(4);
-    EXPECT_EQ(grid.tell({.focus = true, .selection_before = QRect(2, 1, 1, 1)}),
+    EXPECT_EQ(grid.tell({.focus = true, .selection_before = table::CellRange{.rows = {1, 1}, .cols = {2, 2}}}),
               (std::vector<Told>{{QAccessible::Selection, 4, 2}, {QAccessible::Focus, 4, 2}}));
 }
 
@@ -131,7 +131,7 @@ TEST(AccessibleGrid, TellsOfEachCellThatJoinsOrLeavesASelection) {
     ReadGrid grid;
     grid.model.RowSel(2);
     grid.model.ColSel(3);
-    EXPECT_EQ(grid.tell({.selection_before = QRect(2, 1, 1, 3)}),
+    EXPECT_EQ(grid.tell({.selection_before = table::CellRange{.rows = {1, 3}, .cols = {2, 2}}}),
               (std::vector<Told>{{QAccessible::SelectionRemove, 3, 2},
                                  {QAccessible::SelectionAdd, 1, 3},
                                  {QAccessible::SelectionAdd, 2, 3}}));
@@ -140,9 +140,9 @@ TEST(AccessibleGrid, TellsOfEachCellThatJoinsOrLeavesASelection) {
 TEST(AccessibleGrid, TellsOfASelectionThatChangesALotAsAWhole) {
     ReadGrid grid;
     grid.model.RowSel(21);
-    EXPECT_EQ(grid.tell({.selection_before = QRect(2, 1, 1, 1)}).size(), 20u);
+    EXPECT_EQ(grid.tell({.selection_before = table::CellRange{.rows = {1, 1}, .cols = {2, 2}}}).size(), 20u);
     grid.model.RowSel(22);
-    EXPECT_EQ(grid.tell({.selection_before = QRect(2, 1, 1, 1)}),
+    EXPECT_EQ(grid.tell({.selection_before = table::CellRange{.rows = {1, 1}, .cols = {2, 2}}}),
               (std::vector<Told>{{QAccessible::SelectionWithin}}));
 }
 
@@ -150,13 +150,14 @@ TEST(AccessibleGrid, TellsNothingOfSelectedCellsThatAreGone) {
     ReadGrid grid;
     grid.model.Rows(3);
     grid.model.RowSel(2);
-    EXPECT_EQ(grid.tell({.selection_before = QRect(2, 1, 1, 5)}), (std::vector<Told>{}));
+    EXPECT_EQ(grid.tell({.selection_before = table::CellRange{.rows = {1, 5}, .cols = {2, 2}}}),
+              (std::vector<Told>{}));
 }
 
 TEST(AccessibleGrid, ClaimsNoFocusThatItHasNot) {
     ReadGrid grid;
     grid.widget->clearFocus();
-    EXPECT_EQ(grid.tell({.focus = true, .selection_before = QRect(4, 4, 1, 1)}),
+    EXPECT_EQ(grid.tell({.focus = true, .selection_before = table::CellRange{.rows = {4, 4}, .cols = {4, 4}}}),
               (std::vector<Told>{{QAccessible::Selection, 1, 2}}));
     EXPECT_EQ(grid.node()->focusChild(), nullptr);
 }

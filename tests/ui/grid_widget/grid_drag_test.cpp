@@ -34,8 +34,8 @@ TEST(GridDrag, DropsWhatIsDraggedWhereTheButtonIsLetGo) {
     EXPECT_EQ(grid.selection(), "2,3 to 2,3") << "a drag draws no selection";
     ASSERT_EQ(grid.moves.size(), 1u);
     ASSERT_EQ(grid.drops.size(), 1u);
-    EXPECT_EQ(grid.model.rows().at(grid.drops[0].y()), 5);
-    EXPECT_EQ(grid.model.columns().at(grid.drops[0].x()), 4);
+    EXPECT_EQ(support::line_at(grid.model.rows(), grid.drops[0].y()), 5);
+    EXPECT_EQ(support::line_at(grid.model.columns(), grid.drops[0].x()), 4);
 }
 
 TEST(GridDrag, DropsNothingOutsideTheGrid) {
@@ -163,15 +163,15 @@ TEST(GridDrag, RestsAwayFromTheEdgesAndOnceTheButtonIsLetGo) {
 TEST(GridDrag, DropsOnTheCellThatHasScrolledUnderThePointer) {
     DraggedGrid grid(3, 3);
     const QPoint place(grid.x(4), grid.bottom());
-    const int row_before = grid.widget->cell_at(place).first;
+    const int row_before = grid.widget->cell_at(place).row;
     grid.draw_to(place);
     EXPECT_TRUE(QTest::qWaitFor([&grid] { return grid.model.TopRow() > 3; }));
-    const int row = grid.widget->cell_at(place).first;
+    const int row = grid.widget->cell_at(place).row;
     EXPECT_GT(row, row_before);
     grid.let_go(place);
     ASSERT_EQ(grid.drops.size(), 1u);
-    EXPECT_EQ(grid.model.rows().at(grid.drops[0].y()), row);
-    EXPECT_EQ(grid.model.columns().at(grid.drops[0].x()), 4);
+    EXPECT_EQ(support::line_at(grid.model.rows(), grid.drops[0].y()), row);
+    EXPECT_EQ(support::line_at(grid.model.columns(), grid.drops[0].x()), 4);
 }
 
 TEST(GridDrag, TellsOfThePlaceAgainWhenTheGridHasScrolledUnderThePointer) {
@@ -184,7 +184,7 @@ TEST(GridDrag, TellsOfThePlaceAgainWhenTheGridHasScrolledUnderThePointer) {
 TEST(GridDrag, DoesNotScrollUnderAPointerThatHasNotLeftItsCell) {
     WatchedGrid grid;
     grid.drags = true;
-    const int last_row = grid.widget->cell_at(QPoint(0, grid.view()->height() - 1)).first;
+    const int last_row = grid.widget->cell_at(QPoint(0, grid.view()->height() - 1)).row;
     const QPoint low(grid.middle_of(3, 3).x(), grid.view()->height() - 12);
     grid.model.RowHeight(last_row, 3000); // so that the last row that shows reaches far below the edge
     ShownGrid::settle();

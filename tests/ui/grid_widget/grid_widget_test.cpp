@@ -1,5 +1,6 @@
 #include "ui/grid_widget/grid_widget.h"
 
+#include "support/line_at.h"
 #include "ui/grid_widget/sample_grid.h"
 
 #include <QScrollBar>
@@ -242,8 +243,8 @@ TEST(GridWidget, AsksForTheMenuOverTheCurrentCell) {
     });
     ASSERT_EQ(places.size(), 2u);
     EXPECT_EQ(places[0], places[1]);
-    EXPECT_EQ(grid.model.columns().at(places[0].x()), 2);
-    EXPECT_EQ(grid.model.rows().at(places[0].y()), 1);
+    EXPECT_EQ(support::line_at(grid.model.columns(), places[0].x()), 2);
+    EXPECT_EQ(support::line_at(grid.model.rows(), places[0].y()), 1);
 }
 
 TEST(GridWidget, ShowsTheCurrentCellBeforeItsMenu) {

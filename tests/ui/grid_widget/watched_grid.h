@@ -1,5 +1,6 @@
 #pragma once
 
+#include "support/line_at.h"
 #include "ui/grid_widget/sample_grid.h"
 
 #include <vector>
@@ -19,7 +20,8 @@ struct WatchedGrid : ShownGrid {
     WatchedGrid() {
         QObject::connect(widget.get(), &ui::GridWidget::mouse_pressed,
                          [this](int button, int shift, int x, int y) {
-                             presses.push_back({button, shift, model.rows().at(y), model.columns().at(x)});
+                             presses.push_back({button, shift, support::line_at(model.rows(), y),
+                                                support::line_at(model.columns(), x)});
                              if (drags)
                                  widget->begin_drag();
                          });

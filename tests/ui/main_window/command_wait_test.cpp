@@ -1,3 +1,4 @@
+#include "adapters/bus/application_link.h"
 #include "adapters/qt/qt_message_box.h"
 #include "apps/orvanta/desk_server.h"
 #include "support/desk_on_bus.h"
@@ -67,7 +68,7 @@ protected:
         QEventLoop outer; // as the program's own
         QTimer poll;
         QObject::connect(&poll, &QTimer::timeout, [&] {
-            if (bus::command_waits(*link) && meanwhile && !commands().empty())
+            if (link->waits() && meanwhile && !commands().empty())
                 std::exchange(meanwhile, nullptr)();
         });
         QTimer::singleShot(0, &window, [&] {

@@ -21,14 +21,22 @@ struct Page {
         model.Col(col);
         return model;
     }
-    // 640 by 400 pixels.
-    QImage drawn(picture::Marks marks = picture::Marks::none, qreal ratio = 1) {
+    // 640 by 400 pixels, the current cell beyond them.
+    QImage drawn(qreal ratio = 1) const {
+        table::GridModel unmarked = model;
+        unmarked.Row(model.Rows() - 1);
+        unmarked.Col(model.Cols() - 1);
+        return drawn(unmarked, picture::Marks::without_focus, ratio);
+    }
+    QImage marked(picture::Marks marks) const { return drawn(model, marks, 1); }
+
+private:
+    static QImage drawn(const table::GridModel& model, picture::Marks marks, qreal ratio) {
         QImage image(QSize(640, 400) * ratio, QImage::Format_RGB32);
         image.setDevicePixelRatio(ratio);
         QPainter painter(&image);
         picture::GridPainter grid_painter(QApplication::font());
-        grid_painter.paint(painter, QRect(0, 0, 640, 400), model, picture::PixelLines(model.rows(), 400),
-                           picture::PixelLines(model.columns(), 640), marks);
+        grid_painter.paint(painter, QRect(0, 0, 640, 400), model, picture::View(model, {640, 400}), marks);
         return image;
     }
 };
@@ -214,7 +222,7 @@ TEST(GridPainter, DrawsNothingForAMissingPicture) {
 TEST(GridPainter, DrawsPicturesSharpOnAFineScreen) {
     Page page;
     page.at(1, 2).CellPicture(call);
-    const QImage fine = page.drawn(picture::Marks::none, 2);
+    const QImage fine = page.drawn(2);
     const QImage coarse_made_larger = page.drawn().scaled(fine.size());
     const QRect picture(400, 40, 60, 60);
     EXPECT_NE(fine.copy(picture).convertToFormat(QImage::Format_RGB32), coarse_made_larger.copy(picture));
@@ -261,9 +269,10 @@ TEST(GridPainter, LeavesHiddenCellsOut) {
 TEST(GridPainter, MarksTheCurrentCell) {
     Page page;
     page.at(1, 2);
-    EXPECT_EQ(page.drawn(picture::Marks::with_focus).pixel(200, 30), picture::style::accent.rgb());
-    EXPECT_EQ(page.drawn(picture::Marks::without_focus).pixel(200, 30), picture::style::frame_without_focus.rgb());
-    EXPECT_EQ(page.drawn(picture::Marks::none).pixel(200, 30), qRgb(255, 255, 255));
+    EXPECT_EQ(page.marked(picture::Marks::with_focus).pixel(200, 30), picture::style::accent.rgb());
+    EXPECT_EQ(page.marked(picture::Marks::without_focus).pixel(200, 30),
+              picture::style::frame_without_focus.rgb());
+    EXPECT_EQ(page.drawn().pixel(200, 30), qRgb(255, 255, 255));
 }
 
 TEST(GridPainter, MarksTheSelectionWhicheverEndIsCurrent) {
@@ -271,7 +280,7 @@ TEST(GridPainter, MarksTheSelectionWhicheverEndIsCurrent) {
     page.at(3, 4);
     page.model.RowSel(1);
     page.model.ColSel(3);
-    const QImage image = page.drawn(picture::Marks::with_focus);
+    const QImage image = page.marked(picture::Marks::with_focus);
     const auto is_marked = [&image](int row, int col) {
         return image.pixel(col * 100 + 50, 20 + (row - 1) * 40 + 20) != qRgb(255, 255, 255);
     };
@@ -285,7 +294,7 @@ TEST(GridPainter, MarksTheSelectionWhicheverEndIsCurrent) {
 TEST(GridPainter, LeavesASingleCurrentCellItsGround) {
     Page page;
     page.at(1, 2);
-    EXPECT_EQ(pixel_in_cell(page.drawn(picture::Marks::with_focus), 50, 20), qRgb(255, 255, 255));
+    EXPECT_EQ(pixel_in_cell(page.marked(picture::Marks::with_focus), 50, 20), qRgb(255, 255, 255));
 }
 
 TEST(GridPainter, FillsTheRoomBehindTheLastCell) {
@@ -303,8 +312,8 @@ TEST(GridPainter, RecordsTextAsText) {
     QPicture recording;
     QPainter painter(&recording);
     picture::GridPainter(QApplication::font())
-        .paint(painter, QRect(0, 0, 640, 400), page.model, picture::PixelLines(page.model.rows(), 400),
-               picture::PixelLines(page.model.columns(), 640), picture::Marks::none);
+        .paint(painter, QRect(0, 0, 640, 400), page.model, picture::View(page.model, {640, 400}),
+               picture::Marks::without_focus);
     painter.end();
     const QByteArray raw(recording.data(), static_cast<qsizetype>(recording.size()));
     QByteArray wanted;

@@ -1,5 +1,7 @@
 #include "ui/picture/pixel_lines.h"
 
+#include "support/line_at.h"
+
 #include <gtest/gtest.h>
 
 namespace {
@@ -94,7 +96,7 @@ TEST(PixelLines, TurnPlacesIntoTwipsOfTheSameLine) {
     axis.set_first(13);
     const PixelLines lines(axis, 600);
     for (int place = 0; place < 600; ++place) {
-        const int twips = lines.to_twips(place, axis);
+        const int twips = lines.twips_from_pixels(place, axis);
         const int line = lines.at(place);
         EXPECT_GT(twips, axis.position(line)) << place;
         EXPECT_LT(twips, axis.position(line) + axis.size(line)) << place;
@@ -104,8 +106,8 @@ TEST(PixelLines, TurnPlacesIntoTwipsOfTheSameLine) {
 TEST(PixelLines, TurnPlacesOutsideIntoTwipsOutside) {
     const table::Axis axis = sample_axis();
     const PixelLines lines(axis, 1000);
-    EXPECT_LT(lines.to_twips(-1, axis), 0);
-    EXPECT_GT(lines.to_twips(420, axis), 6300);
+    EXPECT_LT(lines.twips_from_pixels(-1, axis), 0);
+    EXPECT_GT(lines.twips_from_pixels(420, axis), 6300);
 }
 
 TEST(PixelLines, FindTheBorderNearAPlace) {
@@ -115,21 +117,13 @@ TEST(PixelLines, FindTheBorderNearAPlace) {
     EXPECT_EQ(lines.border_at(64, 3), -1);
 }
 
-TEST(PixelLines, HoldAllLinesWhenWhole) {
-    table::Axis axis = sample_axis();
-    axis.set_first(5);
-    const PixelLines lines = PixelLines::whole(axis);
-    EXPECT_EQ(lines.shown().size(), 11u);
-    EXPECT_EQ(lines.begin(10), 380);
-}
-
 TEST(PixelLines, FindALineThatIsNoLargerThanATwip) {
     table::Axis axis = sample_axis();
     axis.set_size(1, 607);
     axis.set_size(2, 1);
     const PixelLines lines(axis, 200);
     ASSERT_EQ(lines.at(60), 2);
-    EXPECT_EQ(axis.at(lines.to_twips(60, axis)), 2);
+    EXPECT_EQ(support::line_at(axis, lines.twips_from_pixels(60, axis)), 2);
 }
 
 } // namespace

@@ -7,18 +7,20 @@
 
 namespace {
 
+using picture::Stroke;
 using picture::TextBlock;
 using picture::TextBlocks;
+using picture::Weight;
 
 constexpr int wide = 2000;
 
 int height_of(int lines) {
-    const int one = TextBlock("x", QApplication::font(), wide, 1).height();
+    const int one = TextBlock("x", QApplication::font(), {wide, 1}).height();
     return lines * one;
 }
 
 TextBlock block(const QString& text, int width, int lines) {
-    return TextBlock(text, QApplication::font(), width, height_of(lines));
+    return TextBlock(text, QApplication::font(), {width, height_of(lines)});
 }
 
 TEST(TextBlock, BeginsANewLineAtACarriageReturn) {
@@ -71,40 +73,40 @@ TEST(TextBlock, KeepsTheEllipsisInsideTheWidth) {
 TEST(TextBlock, HasNoEllipsisWhenAllFits) { EXPECT_EQ(block("one\rtwo", wide, 2).line(1), "two"); }
 
 TEST(TextBlock, LaysOutALineHoweverLowTheCell) {
-    EXPECT_EQ(TextBlock("one", QApplication::font(), 100, -3).line_count(), 1);
+    EXPECT_EQ(TextBlock("one", QApplication::font(), {100, -3}).line_count(), 1);
 }
 
 TEST(TextBlock, ReadsWhatIsNoUtf8) {
     TextBlocks blocks(QApplication::font());
-    EXPECT_EQ(blocks.block("caf\xe9", false, wide, 100).line_count(), 1);
+    EXPECT_EQ(blocks.block("caf\xe9", Weight::regular, {wide, 100}).line_count(), 1);
 }
 
 TEST(TextBlocks, KeepABoundedNumber) {
     TextBlocks blocks(QApplication::font());
     for (int number = 0; number < TextBlocks::most_kept + 500; ++number)
-        blocks.block(std::to_string(number), false, 100, 20);
+        blocks.block(std::to_string(number), Weight::regular, {100, 20});
     EXPECT_EQ(blocks.kept(), TextBlocks::most_kept);
 }
 
 TEST(TextBlocks, TellTextsApartByWidthHeightAndWeight) {
     TextBlocks blocks(QApplication::font());
     const QString long_text = "one two three four five six seven eight";
-    EXPECT_EQ(blocks.block(long_text.toStdString(), false, wide, height_of(9)).line_count(), 1);
-    EXPECT_GT(blocks.block(long_text.toStdString(), false, 50, height_of(9)).line_count(), 3);
-    EXPECT_EQ(blocks.block(long_text.toStdString(), false, 50, height_of(2)).line_count(), 2);
-    blocks.block(long_text.toStdString(), true, 50, height_of(2));
+    EXPECT_EQ(blocks.block(long_text.toStdString(), Weight::regular, {wide, height_of(9)}).line_count(), 1);
+    EXPECT_GT(blocks.block(long_text.toStdString(), Weight::regular, {50, height_of(9)}).line_count(), 3);
+    EXPECT_EQ(blocks.block(long_text.toStdString(), Weight::regular, {50, height_of(2)}).line_count(), 2);
+    blocks.block(long_text.toStdString(), Weight::bold, {50, height_of(2)});
     EXPECT_EQ(blocks.kept(), 4);
-    blocks.block(long_text.toStdString(), true, 50, height_of(2));
+    blocks.block(long_text.toStdString(), Weight::bold, {50, height_of(2)});
     EXPECT_EQ(blocks.kept(), 4);
 }
 
 TEST(TextBlocks, StartAfreshWithAnotherFont) {
     TextBlocks blocks(QApplication::font());
-    const int before = blocks.block("text", false, 100, 20).height();
+    const int before = blocks.block("text", Weight::regular, {100, 20}).height();
     QFont larger = QApplication::font();
     larger.setPointSize(larger.pointSize() * 2);
     blocks.set_font(larger);
-    EXPECT_GT(blocks.block("text", false, 100, 20).height(), before);
+    EXPECT_GT(blocks.block("text", Weight::regular, {100, 20}).height(), before);
 }
 
 // The first and last column of the image with anything dark in them.
@@ -124,7 +126,7 @@ std::pair<int, int> drawn(TextBlock::Side side) {
     image.fill(Qt::white);
     QPainter painter(&image);
     painter.setPen(Qt::black);
-    block("Word", 200, 1).draw(painter, QPoint(0, 0), 200, side, false);
+    block("Word", 200, 1).draw(painter, QPoint(0, 0), side, Stroke::plain);
     return dark_columns(image);
 }
 

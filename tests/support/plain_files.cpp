@@ -1,4 +1,4 @@
-#include "core/host/plain_files.h"
+#include "support/plain_files.h"
 
 #include <chrono>
 #include <filesystem>
@@ -7,7 +7,7 @@
 #include <system_error>
 #include <thread>
 
-namespace host {
+namespace support {
 
 namespace {
 
@@ -59,7 +59,7 @@ bool write_whole(const fs::path& path, const std::string& bytes) {
 }
 
 // A folder of this name is the lock: making it succeeds for one process alone.
-class FolderLock : public FileLock {
+class FolderLock : public host::FileLock {
 public:
     explicit FolderLock(fs::path folder) : folder_(std::move(folder)) {}
     ~FolderLock() override {
@@ -78,7 +78,7 @@ bool PlainFiles::exists(const std::string& path) const {
     return fs::exists(path_of(path), error);
 }
 
-std::optional<FileStamp> PlainFiles::stamp(const std::string& path) const {
+std::optional<host::FileStamp> PlainFiles::stamp(const std::string& path) const {
     const fs::path file = path_of(path);
     std::error_code error;
     if (!fs::is_regular_file(file, error))
@@ -89,16 +89,16 @@ std::optional<FileStamp> PlainFiles::stamp(const std::string& path) const {
     const auto modified = fs::last_write_time(file, error);
     if (error)
         return std::nullopt;
-    return FileStamp{.size = size, .modified = modified.time_since_epoch().count()};
+    return host::FileStamp{.size = size, .modified = modified.time_since_epoch().count()};
 }
 
-std::optional<FileContent> PlainFiles::read(const std::string& path, std::size_t most) const {
+std::optional<host::FileContent> PlainFiles::read(const std::string& path, std::size_t most) const {
     const auto before = stamp(path);
     if (!before || before->size > most)
         return std::nullopt;
     const auto now = file_clock::now();
     std::ifstream file(path_of(path), std::ios::binary);
-    FileContent content{.bytes = std::string(before->size, '\0'), .stamp = *before};
+    host::FileContent content{.bytes = std::string(before->size, '\0'), .stamp = *before};
     if (!file.read(content.bytes.data(), static_cast<std::streamsize>(content.bytes.size())) && !file.eof())
         return std::nullopt;
     content.bytes.resize(static_cast<std::size_t>(file.gcount()));
@@ -125,7 +125,7 @@ bool PlainFiles::replace(const std::string& path, const std::string& bytes) {
     return done;
 }
 
-std::unique_ptr<FileLock> PlainFiles::lock(const std::string& path) {
+std::unique_ptr<host::FileLock> PlainFiles::lock(const std::string& path) {
     const auto target = link_target(path_of(path));
     if (!target)
         return nullptr;
@@ -147,4 +147,4 @@ std::unique_ptr<FileLock> PlainFiles::lock(const std::string& path) {
     }
 }
 
-} // namespace host
+} // namespace support

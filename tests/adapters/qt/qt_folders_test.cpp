@@ -84,12 +84,4 @@ TEST_F(Folders, KeepAPictureThatTheUserReplaced) {
     EXPECT_EQ(content(own + "/plus.gif"), "mine");
 }
 
-TEST_F(Folders, TellWhetherAFileOrFolderIsThere) {
-    const auto folders = qt::make_folders(shipped.toStdString(), own.toStdString());
-    EXPECT_TRUE(folders->exists(folders->in_program_folder("plus.gif")));
-    EXPECT_TRUE(folders->exists(shipped.toStdString()));
-    EXPECT_FALSE(folders->exists(folders->in_program_folder("minus.gif")));
-    EXPECT_FALSE(folders->exists(""));
-}
-
 } // namespace

@@ -1,4 +1,4 @@
-#include "core/host/plain_files.h"
+#include "support/plain_files.h"
 
 #include "support/temporary_folder.h"
 
@@ -17,7 +17,7 @@ class PlainFilesTest : public ::testing::Test {
 protected:
     support::TemporaryFolder folder;
     std::string path = folder.file("a file.txt");
-    host::PlainFiles files;
+    support::PlainFiles files;
 };
 
 } // namespace

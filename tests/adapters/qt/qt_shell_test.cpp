@@ -56,4 +56,4 @@ TEST(Shell, TakesACompanionsNameForNoPath) {
 
 } // namespace
 
-#include "shell_test.moc"
+#include "qt_shell_test.moc"

@@ -1,8 +1,7 @@
 #pragma once
 
+#include "adapters/records/id_map.h"
 #include "desk/store/activity_reading.h"
-
-#include <QHash>
 
 #include <cstddef>
 #include <cstdint>
@@ -10,7 +9,6 @@
 #include <memory>
 #include <optional>
 #include <string>
-#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -79,7 +77,7 @@ private:
 
     store::ActivityReading& reading_;
 
-    QHash<store::Id, Row> rows_;
+    IdMap<Row> rows_;
 
     // Of those the rows of the loaded scopes, which lie apart from each other, and the series of some dates.
     std::vector<Scope> loaded_scopes_;
@@ -93,10 +91,10 @@ private:
 
     std::optional<std::vector<store::ActivityEntry>> entries_; // in order
 
-    std::optional<QHash<store::Id, std::vector<store::DateTime>>> exceptions_;
+    std::optional<IdMap<std::vector<store::DateTime>>> exceptions_;
     // Of the series that was asked for last: mostly the next question is for the same one.
     std::optional<std::pair<store::Id, const std::vector<store::DateTime>*>> last_exceptions_;
-    std::unordered_map<store::Id, std::string> details_;
+    IdMap<std::string> details_;
 };
 
 } // namespace records

@@ -59,9 +59,11 @@ public:
     bool isEOF() const override { return real_->isEOF(); }
     void SkipToRecurring(values::DateTime from, values::DateTime to) override { real_->SkipToRecurring(from, to); }
     void SkipToEdited(values::DateTime since) override { real_->SkipToEdited(since); }
-    std::optional<std::string> IdsNoLongerListed(const std::string& ids, std::int64_t moment) override {
-        return real_->IdsNoLongerListed(ids, moment);
+    std::optional<std::vector<std::string_view>> IdsGoneSince(std::span<const std::string_view> ids,
+                                                              std::int64_t moment) override {
+        return real_->IdsGoneSince(ids, moment);
     }
+    std::optional<char> FirstCharacterOfIds() override { return real_->FirstCharacterOfIds(); }
     bool Goto(const std::string& id) override { return record_.note("Goto " + id), real_->Goto(id); }
     void SetDateScope(values::DateTime from, values::DateTime to) override { real_->SetDateScope(from, to); }
     void ClearDateScope() override { real_->ClearDateScope(); }

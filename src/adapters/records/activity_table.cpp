@@ -74,6 +74,11 @@ void ActivityTable::SkipToEdited(DateTime since) {
     cursor_.to_edited(since.seconds());
 }
 
+std::optional<char> ActivityTable::FirstCharacterOfIds() {
+    session_->catch_up();
+    return session_->activities().has_own_ids_alone() ? std::optional(store::first_of_own_ids) : std::nullopt;
+}
+
 bool ActivityTable::Goto(const std::string& id) {
     give_up_change();
     return cursor_.go_to(id);

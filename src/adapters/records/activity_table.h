@@ -7,7 +7,9 @@
 #include <memory>
 #include <optional>
 #include <set>
+#include <span>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace records {
@@ -24,9 +26,11 @@ public:
     void MoveNext() override;
     void SkipToRecurring(act::DateTime from, act::DateTime to) override;
     void SkipToEdited(act::DateTime since) override;
-    std::optional<std::string> IdsNoLongerListed(const std::string& ids, std::int64_t moment) override {
-        return cursor_.ids_no_longer_listed(ids, moment);
+    std::optional<std::vector<std::string_view>> IdsGoneSince(std::span<const std::string_view> ids,
+                                                              std::int64_t moment) override {
+        return cursor_.ids_gone_since(ids, moment);
     }
+    std::optional<char> FirstCharacterOfIds() override;
     bool isEOF() const override { return cursor_.is_at_end(); }
     bool Goto(const std::string& id) override;
 

@@ -1,7 +1,5 @@
 #include "adapters/records/cursor.h"
 
-#include "core/values/ids.h"
-
 #include <algorithm>
 
 namespace records {
@@ -101,23 +99,17 @@ void Cursor::to_next_of(const Records& records) {
     }
 }
 
-std::optional<std::string> Cursor::ids_no_longer_listed(const std::string& ids, std::int64_t moment) {
+std::optional<std::vector<std::string_view>> Cursor::ids_gone_since(std::span<const std::string_view> ids,
+                                                                    std::int64_t moment) {
     session_->catch_up();
-    const auto beginnings = static_cast<std::size_t>(std::ranges::count(ids, store::first_of_own_ids));
-    if (ids.size() != beginnings * values::id_length || !session_->activities().has_own_ids_alone())
-        return std::nullopt;
-    const auto changed = session_->changed_behind(moment);
+    const auto changed = session_->changed_since(moment);
     if (!changed)
         return std::nullopt;
-    std::string missing;
-    for (std::size_t at = 0; at < ids.size(); at += values::id_length) {
-        const std::string_view id = std::string_view(ids).substr(at, values::id_length);
-        if (id.front() != store::first_of_own_ids)
-            return std::nullopt;
-        if (changed->contains(store::Id(id)) && !lists(store::Id(id)))
-            missing += id;
-    }
-    return missing;
+    std::vector<std::string_view> gone;
+    for (const std::string_view text : ids)
+        if (const store::Id id = id_of(text); changed->contains(id) && !lists(id))
+            gone.push_back(text);
+    return gone;
 }
 
 bool Cursor::lists(const store::Id& id) {

@@ -5,7 +5,10 @@
 #include <memory>
 #include <optional>
 #include <set>
+#include <span>
 #include <string>
+#include <string_view>
+#include <vector>
 
 namespace records {
 
@@ -50,10 +53,10 @@ public:
     const store::ActivityEntry* entry();
     const store::ActivityRow* row();
 
-    // Of ids joined to one text, which all were in the list at that moment or later, those that no record of the
-    // list has now, in their order. None where an id of the database may also be found across the border of two of
-    // them, or where the session can't tell what has changed behind the moment.
-    std::optional<std::string> ids_no_longer_listed(const std::string& ids, std::int64_t moment);
+    // Of ids that were in the list at that moment or later, those that no record of the list has now, in their
+    // order. None where the session can't tell what has changed since the moment.
+    std::optional<std::vector<std::string_view>> ids_gone_since(std::span<const std::string_view> ids,
+                                                                std::int64_t moment);
 
 private:
     enum class Place { before_first, on_record, behind_record, behind_deleted, at_end, nowhere };

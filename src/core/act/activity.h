@@ -5,7 +5,10 @@
 
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <string>
+#include <string_view>
+#include <vector>
 
 namespace act {
 
@@ -64,13 +67,15 @@ public:
     virtual void SkipToRecurring([[maybe_unused]] DateTime from, [[maybe_unused]] DateTime to) {}
     // The same over records that weren't edited later than that.
     virtual void SkipToEdited([[maybe_unused]] DateTime since) {}
-    // Of ids joined to one text, each of which was in the list at that moment of its database or came into it
-    // later, those that no record of the list has now: what a walk over the list that takes every occurrence of
-    // each record's id out of the text would leave. None where that needs the walk.
-    virtual std::optional<std::string> IdsNoLongerListed([[maybe_unused]] const std::string& ids,
-                                                         [[maybe_unused]] std::int64_t moment) {
+    // Of ids that were in the list at that moment of its database or came into it later, those that no record of
+    // the list has now, in their order. None where only a walk over the list can tell.
+    virtual std::optional<std::vector<std::string_view>>
+    IdsGoneSince([[maybe_unused]] std::span<const std::string_view> ids, [[maybe_unused]] std::int64_t moment) {
         return std::nullopt;
     }
+    // The character with which the ids of all activities of the database begin. None where they differ in it, or
+    // where only a walk can tell.
+    virtual std::optional<char> FirstCharacterOfIds() { return std::nullopt; }
     // Stands on the record of that id, inside the filters or not, and MoveNext goes on behind it. False when it
     // doesn't exist: there is no current record then, and Data gives nothing.
     virtual bool Goto(const std::string& id) = 0;

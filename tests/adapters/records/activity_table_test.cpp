@@ -202,3 +202,25 @@ TEST_F(ActivityTable, ReadsTheStoreAfreshOnRebuild) {
     list->Goto(changed);
     EXPECT_EQ(list->Data(edited), Value(file.now));
 }
+
+TEST_F(ActivityTable, TellsTheFirstCharacterThatAllIdsHaveInCommon) {
+    EXPECT_EQ(list->FirstCharacterOfIds(), 'A');
+    store.add(meeting("own"));
+    EXPECT_EQ(list->FirstCharacterOfIds(), 'A');
+    store::Activity imported = meeting("imported");
+    imported.id = "00000001A000";
+    store.add(imported);
+    EXPECT_FALSE(list->FirstCharacterOfIds());
+    store.remove_activity(imported.id);
+    EXPECT_EQ(list->FirstCharacterOfIds(), 'A');
+}
+
+TEST_F(ActivityTable, TellsWhichIdsAreGoneSinceAMoment) {
+    const std::string kept = store.add(meeting("kept")), gone = store.add(meeting("gone"));
+    list->Rebuild();
+    const std::int64_t moment = database->Moment();
+    store.remove_activity(gone);
+    using Ids = std::vector<std::string_view>;
+    EXPECT_EQ(list->IdsGoneSince(Ids{kept, gone}, moment), Ids{gone});
+    EXPECT_FALSE(list->IdsGoneSince(Ids{kept, gone}, moment - 10)) << "before the database was opened";
+}

@@ -101,7 +101,7 @@ void ActivityTable::ClearDateScope() {
     set_filters(filters);
 }
 
-void ActivityTable::SetTypeFilter(int type) {
+void ActivityTable::SetTypeFilter(act::ActivityType type) {
     ListFilters filters = cursor_.filters();
     filters.without_types.insert(type);
     set_filters(filters);
@@ -113,7 +113,7 @@ void ActivityTable::ClearTypeFilter() {
     set_filters(filters);
 }
 
-void ActivityTable::SetPriorityFilter(int priority) {
+void ActivityTable::SetPriorityFilter(act::Priority priority) {
     ListFilters filters = cursor_.filters();
     filters.without_priorities.insert(priority);
     set_filters(filters);
@@ -140,7 +140,7 @@ void ActivityTable::ClearClearedFilter() {
 void ActivityTable::give_up_change() {
     draft_.reset();
     written_.clear();
-    only_this_ = false;
+    series_change_ = act::RecurringChange::whole_series;
     contact_place_ = 0;
     contacts_.clear();
 }
@@ -230,7 +230,8 @@ std::string ActivityTable::store_draft() {
     store::Store& store = session_->store();
     if (draft_->id.empty())
         return store.add(*draft_);
-    if (!only_this_ || draft_->recurrence.kind == store::RecurrenceKind::none) {
+    if (series_change_ == act::RecurringChange::whole_series ||
+        draft_->recurrence.kind == store::RecurrenceKind::none) {
         store.update(*draft_);
         return draft_->id;
     }
@@ -271,8 +272,8 @@ void ActivityTable::store_at_once(const std::string& id, const std::function<voi
     cursor_.record_was_written();
 }
 
-int ActivityTable::recurringType() const {
-    return entry().recurring ? static_cast<int>(row().recurrence.kind) : 0;
+act::RecurrenceKind ActivityTable::recurringType() const {
+    return entry().recurring ? row().recurrence.kind : act::RecurrenceKind::none;
 }
 
 int ActivityTable::GetRecurringFrequency() const { return row().recurrence.frequency; }

@@ -36,9 +36,9 @@ public:
 
     void SetDateScope(act::DateTime from, act::DateTime to) override;
     void ClearDateScope() override;
-    void SetTypeFilter(int type) override;
+    void SetTypeFilter(act::ActivityType type) override;
     void ClearTypeFilter() override;
-    void SetPriorityFilter(int priority) override;
+    void SetPriorityFilter(act::Priority priority) override;
     void ClearPriorityFilter() override;
     void SetClearedFilter() override;
     void ClearClearedFilter() override;
@@ -53,14 +53,14 @@ public:
     void Delete() override;
 
     bool isRecurring() const override { return entry().recurring; }
-    int recurringType() const override;
+    act::RecurrenceKind recurringType() const override;
     int GetRecurringFrequency() const override;
     act::DateTime GetRecurringUntilDate() const override;
     int GetDaysOfWeekBits() const override;
     int GetDaysOfMonthBits() const override;
     int GetWeeksOfMonthBits() const override;
     act::ExceptionInfo& ExceptionInfo() override;
-    void RecurringChangeMode(bool only_this) override { only_this_ = only_this; }
+    void RecurringChangeMode(act::RecurringChange change) override { series_change_ = change; }
 
     std::string FirstScheduledWith() override;
     std::string NextScheduledWith() override;
@@ -89,7 +89,7 @@ private:
     std::optional<store::Activity> draft_; // between Edit or Add and Update
     std::set<int> written_;                // the fields of the draft
     mutable store::ActivityRow draft_row_; // the draft as it is read
-    bool only_this_ = false;
+    act::RecurringChange series_change_ = act::RecurringChange::whole_series;
 
     std::size_t contact_place_ = 0; // of the walk over the contacts
     std::vector<std::string> contacts_;

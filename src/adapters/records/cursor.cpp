@@ -17,9 +17,8 @@ std::shared_ptr<const ActivityRow> row_in(const std::shared_ptr<const ActivityRo
 } // namespace
 
 bool ListFilters::pass(const ActivityEntry& entry) const {
-    return !(without_cleared && entry.cleared) &&
-           (without_types.empty() || !without_types.contains(static_cast<int>(entry.type))) &&
-           (without_priorities.empty() || !without_priorities.contains(static_cast<int>(entry.priority)));
+    return !(without_cleared && entry.cleared) && (without_types.empty() || !without_types.contains(entry.type)) &&
+           (without_priorities.empty() || !without_priorities.contains(entry.priority));
 }
 
 void Cursor::set_filters(const ListFilters& filters) {

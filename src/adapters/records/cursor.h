@@ -1,6 +1,7 @@
 #pragma once
 
 #include "adapters/records/shared_store.h"
+#include "core/act/activity_kinds.h"
 
 #include <memory>
 #include <optional>
@@ -15,8 +16,8 @@ namespace records {
 // What a list keeps out.
 struct ListFilters {
     std::optional<Scope> scope{};
-    std::set<int> without_types{};
-    std::set<int> without_priorities{};
+    std::set<act::ActivityType> without_types{};
+    std::set<act::Priority> without_priorities{};
     bool without_cleared = false;
 
     bool pass(const store::ActivityEntry& entry) const;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/act/activity_kinds.h"
 #include "core/values/date_time.h"
 #include "core/values/value.h"
 
@@ -15,13 +16,13 @@ namespace act {
 using values::DateTime;
 using values::Value;
 
-// Numbers of the activity fields that the calendar reads and writes.
+// Numbers of the activity fields.
 namespace activity_field {
 inline constexpr int id = 1;
 inline constexpr int edited = 3;
 inline constexpr int is_private = 5;
-inline constexpr int type = 25;     // 0 call, 1 meeting, 2 to-do
-inline constexpr int priority = 26; // 0 high, 1 medium, 2 low
+inline constexpr int type = 25;     // ActivityType
+inline constexpr int priority = 26; // Priority
 inline constexpr int regarding = 27;
 inline constexpr int start = 28;
 inline constexpr int end = 29;
@@ -35,7 +36,7 @@ inline constexpr int contact = 40;       // the contact's id
 inline constexpr int cleared = 41;       // "1" or "0"
 inline constexpr int details = 45;
 inline constexpr int contact_count = 100;
-inline constexpr int occurrence_length = 101; // minutes
+inline constexpr int occurrence_length = 101; // minutes from start to end, which needn't be the duration
 inline constexpr int date = 200;
 } // namespace activity_field
 
@@ -83,9 +84,9 @@ public:
     // Starts at or after `from` and before `to`.
     virtual void SetDateScope(DateTime from, DateTime to) = 0;
     virtual void ClearDateScope() = 0;
-    virtual void SetTypeFilter(int type) = 0; // keeps that type out, beside those kept out before
+    virtual void SetTypeFilter(ActivityType type) = 0; // keeps that type out, beside those kept out before
     virtual void ClearTypeFilter() = 0;
-    virtual void SetPriorityFilter(int priority) = 0; // keeps that priority out
+    virtual void SetPriorityFilter(Priority priority) = 0; // keeps that priority out
     virtual void ClearPriorityFilter() = 0;
     virtual void SetClearedFilter() = 0; // keeps cleared activities out
     virtual void ClearClearedFilter() = 0;
@@ -107,14 +108,14 @@ public:
     virtual void Delete() = 0;
 
     virtual bool isRecurring() const = 0;
-    virtual int recurringType() const = 0; // 0 none, 1 daily, 2 weekly, 3 days of the month, 4 weekdays of it
+    virtual RecurrenceKind recurringType() const = 0;
     virtual int GetRecurringFrequency() const = 0;      // the step in days, weeks or months; at least 1
     virtual DateTime GetRecurringUntilDate() const = 0; // 31 December 2099 for a series without an end
     virtual int GetDaysOfWeekBits() const = 0;          // bit 0 Sunday to bit 6 Saturday
     virtual int GetDaysOfMonthBits() const = 0;         // bit 0 the 1st to bit 30 the 31st
     virtual int GetWeeksOfMonthBits() const = 0;        // bit 0 the first week to bit 4 the fifth
     virtual class ExceptionInfo& ExceptionInfo() = 0;
-    virtual void RecurringChangeMode(bool only_this) = 0; // how the next Update applies to a series
+    virtual void RecurringChangeMode(RecurringChange change) = 0; // how the next Update applies to a series
 
     // Walk the contacts of the activity, its first one first; an empty text ends the walk. With an argument they
     // set the contact at the walk's place, at once.

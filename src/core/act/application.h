@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/values/date_time.h"
+#include "core/act/list_filter.h"
 
 #include <functional>
 #include <memory>
@@ -19,13 +19,6 @@ enum class CommandNumber {
     edit_activity = 1337,
     send_activity = 1343,
     activity_details = 20251,
-};
-
-// The filter of a contact view's activity list, in the application's own encoding.
-struct ListFilter {
-    int mask = 0;
-    std::string dates;
-    std::string users;
 };
 
 // The activity list of a contact view. Rows count from 0.
@@ -88,7 +81,7 @@ class EventControl {
 public:
     virtual ~EventControl() = default;
     virtual int Open_Databases(int argument) = 0; // 0 also when the application can't be reached
-    virtual bool Communication_Failed() = 0; // meaningful after Open_Databases gave 0
+    virtual bool Communication_Failed() = 0;      // meaningful after Open_Databases gave 0
     virtual void Disconnect() = 0;
     std::function<void()> OnDatabaseClose;
     std::function<void()> OnActUserWantsToClose;

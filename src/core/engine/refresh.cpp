@@ -97,9 +97,9 @@ void Refresh::filter_list(act::Activity& activity, host::Step& step) {
     step = 140;
     for (int number = 0; number <= 2; ++number) {
         if (is_zero(settings_, keys::filter_type(number)))
-            activity.SetTypeFilter(number);
+            activity.SetTypeFilter(static_cast<act::ActivityType>(number));
         if (is_zero(settings_, keys::filter_priority(number)))
-            activity.SetPriorityFilter(number);
+            activity.SetPriorityFilter(static_cast<act::Priority>(number));
     }
     if (is_zero(settings_, keys::filter_show_cleared))
         activity.SetClearedFilter();

@@ -146,7 +146,7 @@ void DragDrop::move_series(const clsMsgSchedCell& target, std::int32_t length, c
         values::to_date(values::text_of(activity().Data(field::start), here_.locale), here_.locale);
     const DateTime start = date_and_time(first.date(), target.DateTime(), here_.locale);
     activity().Edit();
-    activity().RecurringChangeMode(false);
+    activity().RecurringChangeMode(act::RecurringChange::whole_series);
     write_and_update(start, length, user);
 }
 

@@ -79,7 +79,7 @@ void Instances::Remove_Exception(const std::string& id, DateTime date) {
 
 InstanceChange Instances::Compare_Instance(const std::string& id) {
     activity().Goto(id);
-    if (activity().recurringType() != 0)
+    if (activity().recurringType() != act::RecurrenceKind::none)
         return InstanceChange::recurrence_touched;
     for (const int number : {field::type, field::priority, field::regarding, field::start, field::end,
                              field::duration, field::alarm, field::alarm_lead, field::colour, field::scheduled_for,
@@ -103,7 +103,7 @@ void Instances::Apply_To_Series(const std::string& instance, const std::string& 
     const ScheduledWith contacts = scheduled_with();
     activity().Goto(series);
     activity().Edit();
-    activity().RecurringChangeMode(false);
+    activity().RecurringChangeMode(act::RecurringChange::whole_series);
     write_fields(activity(), fields);
     activity().Update();
     // Whom the user took out of the instance goes from the series as well.

@@ -71,7 +71,7 @@ TEST_F(ActivityChanges, ChangesAWholeSeriesInItsPlace) {
     const std::string changed = store.add(series);
     list->Goto(changed);
     list->Edit();
-    list->RecurringChangeMode(false);
+    list->RecurringChangeMode(act::RecurringChange::whole_series);
     list->Data(field::start, monday.plus_minutes(14 * 60));
     list->Data(field::end, monday.plus_minutes(15 * 60));
     list->Update();
@@ -87,7 +87,7 @@ TEST_F(ActivityChanges, TakesTheFirstDateOutOfASeriesWhenOnlyItChanges) {
     const std::string series = store.add(daily("series"));
     list->Goto(series);
     list->Edit();
-    list->RecurringChangeMode(true);
+    list->RecurringChangeMode(act::RecurringChange::only_this);
     list->Data(regarding, std::string("alone"));
     const std::string alone = list->Update();
     EXPECT_NE(alone, series);
@@ -108,7 +108,7 @@ TEST_F(ActivityChanges, RefusesToChangeASeriesInPartThatSomebodyElseChanged) {
     const std::string series = store.add(daily("series"));
     list->Goto(series);
     list->Edit();
-    list->RecurringChangeMode(true);
+    list->RecurringChangeMode(act::RecurringChange::only_this);
     store.add_exception(series, monday.plus_days(3));
     EXPECT_EQ(failure_number([&] { list->Update(); }), 440);
     EXPECT_EQ(store.activities({}).size(), 1u);
@@ -149,9 +149,12 @@ TEST_F(ActivityChanges, TakesFieldsOnlyBetweenEditOrAddAndUpdate) {
 
 TEST_F(ActivityChanges, GivesAChangeUpWhenItMoves) {
     const std::string changed = store.add(meeting("monday"));
-    const std::vector<std::function<void()>> moves = {
-        [&] { list->MoveNext(); },    [&] { list->MoveFirst(); },      [&] { list->Rebuild(); },
-        [&] { list->Goto(changed); }, [&] { list->SetTypeFilter(0); }, [&] { list->ClearDateScope(); }};
+    const std::vector<std::function<void()>> moves = {[&] { list->MoveNext(); },
+                                                      [&] { list->MoveFirst(); },
+                                                      [&] { list->Rebuild(); },
+                                                      [&] { list->Goto(changed); },
+                                                      [&] { list->SetTypeFilter(act::ActivityType::call); },
+                                                      [&] { list->ClearDateScope(); }};
     for (const auto& move : moves) {
         list->Goto(changed);
         list->Edit();

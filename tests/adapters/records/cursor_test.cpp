@@ -108,13 +108,14 @@ TEST_F(Cursors, KeepOutWhatTheFiltersSay) {
     store.add(cleared);
     store.add(meeting("meeting"));
     for (const auto& scope : {std::optional<records::Scope>(), std::optional(days(0, 7))}) {
-        cursor.set_filters({.scope = scope, .without_types = {0}});
+        cursor.set_filters({.scope = scope, .without_types = {act::ActivityType::call}});
         EXPECT_EQ(rest(), "cleared meeting ");
-        cursor.set_filters({.scope = scope, .without_priorities = {0, 2}});
+        cursor.set_filters({.scope = scope, .without_priorities = {act::Priority::high, act::Priority::low}});
         EXPECT_EQ(rest(), "cleared ");
         cursor.set_filters({.scope = scope, .without_cleared = true});
         EXPECT_EQ(rest(), "call meeting ");
-        cursor.set_filters({.scope = scope, .without_types = {0, 1}});
+        cursor.set_filters(
+            {.scope = scope, .without_types = {act::ActivityType::call, act::ActivityType::meeting}});
         EXPECT_EQ(rest(), "");
     }
 }
@@ -127,7 +128,7 @@ TEST_F(Cursors, GoToARecordOutsideTheFiltersAndOnBehindIt) {
     call.type = store::ActivityType::call;
     const std::string thursday = store.add(call);
     store.add(meeting("friday", 4));
-    cursor.set_filters({.scope = days(2, 5), .without_types = {0}});
+    cursor.set_filters({.scope = days(2, 5), .without_types = {act::ActivityType::call}});
     EXPECT_TRUE(cursor.go_to(tuesday));
     EXPECT_EQ(cursor.row()->regarding, "tuesday");
     cursor.to_next();
@@ -250,7 +251,7 @@ TEST_F(Cursors, SkipToTheSeriesOfSomeDatesInsideTheFilters) {
             names += cursor.row()->regarding + " ";
         return names;
     };
-    cursor.set_filters({.without_types = {0}});
+    cursor.set_filters({.without_types = {act::ActivityType::call}});
     EXPECT_EQ(series(), "first second last ");
     cursor.set_filters({.scope = days(2, 5)});
     EXPECT_EQ(series(), "call second ");
@@ -308,7 +309,7 @@ TEST_F(Cursors, TellWhichIdsTheFiltersKeepOutSinceAChange) {
     changed.start = monday.plus_days(2).plus_minutes(600);
     store.update(changed);
     EXPECT_EQ(gone_since(moment, {other, plain}), Ids{});
-    cursor.set_filters({.without_types = {0}});
+    cursor.set_filters({.without_types = {act::ActivityType::call}});
     EXPECT_EQ(gone_since(moment, {other, plain}), Ids{plain});
     cursor.set_filters({.scope = days(0, 2)});
     EXPECT_EQ(gone_since(moment, {other, plain}), Ids{plain});

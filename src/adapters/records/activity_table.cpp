@@ -1,6 +1,7 @@
 #include "adapters/records/activity_table.h"
 
 #include "adapters/records/activity_fields.h"
+#include "core/act/edit_conflict.h"
 #include "core/values/failure.h"
 #include "core/values/ids.h"
 
@@ -14,6 +15,10 @@ using values::FailureNumber;
 namespace {
 
 const DateTime end_of_endless_series = DateTime::of(2099, 12, 31);
+
+[[noreturn]] void fail_as_deleted() {
+    throw act::EditConflict(act::EditConflict::Cause::deleted, "The activity was deleted by somebody else.");
+}
 
 } // namespace
 
@@ -160,7 +165,7 @@ const store::ActivityRow& ActivityTable::row() const {
     entry();
     const store::ActivityRow* row = cursor_.row();
     if (!row)
-        throw Failure(FailureNumber::automation, "The activity was deleted by somebody else.");
+        fail_as_deleted();
     return *row;
 }
 
@@ -212,7 +217,7 @@ void ActivityTable::Add() {
 store::Activity ActivityTable::stored() const {
     auto record = session_->store().activity(entry().key.id.text());
     if (!record)
-        throw Failure(FailureNumber::automation, "The activity was deleted by somebody else.");
+        fail_as_deleted();
     return *record;
 }
 

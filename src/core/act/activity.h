@@ -102,8 +102,8 @@ public:
 
     virtual void Edit() = 0;
     virtual void Add() = 0; // a new record, unseen by others until Update
-    // Stores the change durably as a whole and gives the record's id. Fails with 440 and stores nothing when
-    // another process changed or deleted the record since Edit.
+    // Stores the change durably as a whole and gives the record's id. Fails with an EditConflict (edit_conflict.h)
+    // and stores nothing when another process changed or deleted the record since Edit.
     virtual std::string Update() = 0;
     virtual void Delete() = 0;
 

@@ -1,5 +1,6 @@
 #include "desk/store/sqlite_store.h"
 
+#include "core/act/edit_conflict.h"
 #include "core/values/failure.h"
 #include "core/values/ids.h"
 #include "desk/store/contact_fields.h"
@@ -186,9 +187,9 @@ std::string SqliteStore::add(const Note& note) {
 }
 
 void SqliteStore::fail_as_changed(std::string_view kind, bool still_exists) const {
-    throw values::Failure(values::FailureNumber::automation,
-                          "The " + std::string(kind) + " was " + (still_exists ? "changed" : "deleted") +
-                              " by somebody else in the meantime. Your change wasn't stored.");
+    throw act::EditConflict(still_exists ? act::EditConflict::Cause::changed : act::EditConflict::Cause::deleted,
+                            "The " + std::string(kind) + " was " + (still_exists ? "changed" : "deleted") +
+                                " by somebody else in the meantime. Your change wasn't stored.");
 }
 
 } // namespace store

@@ -78,7 +78,7 @@ public:
     virtual std::optional<Activity> activity(const std::string& id) = 0;
     virtual std::string add(const Activity& activity) = 0;
     // Stores the record when nobody changed it since it was read (its revision tells) and gives its new
-    // revision; else fails and changes nothing.
+    // revision; else fails with an act::EditConflict and changes nothing.
     virtual std::int64_t update(const Activity& activity) = 0;
     virtual void remove_activity(const std::string& id) = 0;                    // an absent one is no failure
     virtual void add_exception(const std::string& activity, DateTime date) = 0; // the date counts, not the time

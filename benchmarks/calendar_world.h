@@ -1,7 +1,7 @@
 #pragma once
 
 #include "adapters/qt/qt_files.h"
-#include "adapters/records/records.h"
+#include "adapters/records/desk_database.h"
 #include "core/engine/calendar_engine.h"
 #include "support/fake_act_server.h"
 #include "support/fake_timer.h"

@@ -1,7 +1,6 @@
 #include "adapters/records/activity_table.h"
 
 #include "adapters/records/activity_fields.h"
-#include "core/act/edit_conflict.h"
 #include "core/values/failure.h"
 #include "core/values/ids.h"
 
@@ -15,10 +14,6 @@ using values::FailureNumber;
 namespace {
 
 const DateTime end_of_endless_series = DateTime::of(2099, 12, 31);
-
-[[noreturn]] void fail_as_deleted() {
-    throw act::EditConflict(act::EditConflict::Cause::deleted, "The activity was deleted by somebody else.");
-}
 
 } // namespace
 
@@ -144,8 +139,6 @@ void ActivityTable::ClearClearedFilter() {
 
 void ActivityTable::give_up_change() {
     draft_.reset();
-    written_.clear();
-    series_change_ = act::RecurringChange::whole_series;
     contact_place_ = 0;
     contacts_.clear();
 }
@@ -161,7 +154,7 @@ const store::ActivityEntry& ActivityTable::entry() const {
 
 const store::ActivityRow& ActivityTable::row() const {
     if (draft_)
-        return draft_row_ = row_of(*draft_);
+        return draft_->row();
     entry();
     const store::ActivityRow* row = cursor_.row();
     if (!row)
@@ -171,7 +164,7 @@ const store::ActivityRow& ActivityTable::row() const {
 
 Value ActivityTable::Data(int field) const {
     if (draft_)
-        return field == act::activity_field::details ? Value(draft_->details) : row_field(row(), field);
+        return draft_->field(field);
     const store::ActivityEntry* entry = cursor_.entry();
     if (!entry)
         return {};
@@ -188,72 +181,36 @@ Value ActivityTable::Data(int field) const {
 void ActivityTable::Data(int field, const Value& value) {
     if (!draft_)
         throw Failure(FailureNumber::automation, "No activity is being edited.");
-    const int duration = draft_->duration;
-    set_field(*draft_, field, value, session_->locale());
-    // A duration that a stored activity has already says nothing about its end.
-    if (field != act::activity_field::duration || draft_->id.empty() || draft_->duration != duration)
-        written_.insert(field);
+    draft_->set_field(field, value, session_->locale());
 }
 
 bool ActivityTable::HasDetails() const {
     if (draft_)
-        return !draft_->details.empty();
+        return !draft_->record().details.empty();
     const store::ActivityRow* row = cursor_.row();
     return row && row->has_details;
 }
 
 void ActivityTable::Edit() {
     give_up_change();
-    draft_ = stored();
+    draft_.emplace(stored());
 }
 
 void ActivityTable::Add() {
     give_up_change();
     session_->store(); // there must be one
     cursor_.to_nowhere();
-    draft_.emplace();
+    draft_.emplace(store::Activity{});
 }
 
-store::Activity ActivityTable::stored() const {
-    auto record = session_->store().activity(entry().key.id.text());
-    if (!record)
-        fail_as_deleted();
-    return *record;
-}
+store::Activity ActivityTable::stored() const { return stored_activity(session_->store(), entry().key.id.text()); }
 
 std::string ActivityTable::Update() {
     if (!draft_)
         throw Failure(FailureNumber::automation, "No activity is being edited.");
-    settle_times(*draft_, written_);
-    std::string id = store_draft();
+    std::string id = draft_->store_in(session_->store());
     give_up_change();
     cursor_.go_to_written(id);
-    return id;
-}
-
-std::string ActivityTable::store_draft() {
-    store::Store& store = session_->store();
-    if (draft_->id.empty())
-        return store.add(*draft_);
-    if (series_change_ == act::RecurringChange::whole_series ||
-        draft_->recurrence.kind == store::RecurrenceKind::none) {
-        store.update(*draft_);
-        return draft_->id;
-    }
-    // The series loses its first date, and what was changed becomes a plain activity.
-    std::string id;
-    store.together([&] {
-        store::Activity series = stored();
-        series.revision = draft_->revision;
-        if (series.start)
-            series.exceptions.push_back(*series.start);
-        store.update(series);
-        store::Activity instance = *draft_;
-        instance.id.clear();
-        instance.recurrence = {};
-        instance.exceptions.clear();
-        id = store.add(instance);
-    });
     return id;
 }
 
@@ -269,10 +226,8 @@ void ActivityTable::store_at_once(const std::string& id, const std::function<voi
         const auto before = store.activity(id);
         write();
         const auto after = store.activity(id);
-        if (draft_ && before && after && draft_->id == id && draft_->revision == before->revision) {
-            draft_->revision = after->revision;
-            draft_->exceptions = after->exceptions;
-        }
+        if (draft_ && before && after)
+            draft_->take_over_exceptions(*before, *after);
     });
     cursor_.record_was_written();
 }
@@ -301,7 +256,7 @@ act::ExceptionInfo& ActivityTable::ExceptionInfo() {
 std::string ActivityTable::FirstScheduledWith() {
     const store::ActivityRow& current = row();
     if (draft_)
-        contacts_ = draft_->contacts;
+        contacts_ = draft_->record().contacts;
     else if (current.contact_count > 1)
         contacts_ = session_->store().reading().contacts(current.entry.key.id);
     else
@@ -345,7 +300,9 @@ void ActivityTable::schedule_with(const std::string& contact) {
         contacts_ = contacts;
     };
     if (draft_) {
-        put(draft_->contacts);
+        std::vector<std::string> contacts = draft_->record().contacts;
+        put(contacts);
+        draft_->schedule_with(contacts);
         return;
     }
     session_->store().together([&] {

@@ -1,12 +1,12 @@
 #pragma once
 
+#include "adapters/records/activity_draft.h"
 #include "adapters/records/cursor.h"
 #include "core/act/activity.h"
 
 #include <functional>
 #include <memory>
 #include <optional>
-#include <set>
 #include <span>
 #include <string>
 #include <string_view>
@@ -60,7 +60,10 @@ public:
     int GetDaysOfMonthBits() const override;
     int GetWeeksOfMonthBits() const override;
     act::ExceptionInfo& ExceptionInfo() override;
-    void RecurringChangeMode(act::RecurringChange change) override { series_change_ = change; }
+    void RecurringChangeMode(act::RecurringChange change) override {
+        if (draft_)
+            draft_->apply_to(change);
+    }
 
     std::string FirstScheduledWith() override;
     std::string NextScheduledWith() override;
@@ -73,8 +76,8 @@ private:
     void give_up_change();
     const store::ActivityEntry& entry() const; // fails with 91 where there is no record
     const store::ActivityRow& row() const;
-    store::Activity stored() const; // the current record as the store has it; fails with 440 when it is gone
-    std::string store_draft();
+    store::Activity
+    stored() const; // the current record as the store has it; fails with an EditConflict when it is gone
     // Stores something of the current record beside its Update, which doesn't take it for another's change.
     void store_at_once(const std::string& id, const std::function<void()>& write);
     std::string scheduled_with();
@@ -86,10 +89,7 @@ private:
     mutable Cursor cursor_; // it looks up where it stands when it is asked
     std::unique_ptr<Exceptions> exceptions_;
 
-    std::optional<store::Activity> draft_; // between Edit or Add and Update
-    std::set<int> written_;                // the fields of the draft
-    mutable store::ActivityRow draft_row_; // the draft as it is read
-    act::RecurringChange series_change_ = act::RecurringChange::whole_series;
+    std::optional<ActivityDraft> draft_; // between Edit or Add and Update
 
     std::size_t contact_place_ = 0; // of the walk over the contacts
     std::vector<std::string> contacts_;

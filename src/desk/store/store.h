@@ -88,22 +88,7 @@ public:
     virtual ToolbarCommands& toolbar_commands() = 0; // buttons of other programs (toolbar_commands.h)
 
     // Several writes as one transaction: all of them or, when the block throws, none. Blocks may contain blocks.
-    template <typename Block>
-    void together(Block&& block) {
-        begin();
-        try {
-            block();
-        } catch (...) {
-            roll_back();
-            throw;
-        }
-        commit();
-    }
-
-protected:
-    virtual void begin() = 0;
-    virtual void commit() = 0; // rolls back when it fails
-    virtual void roll_back() = 0;
+    virtual void together(const std::function<void()>& block) = 0;
 };
 
 } // namespace store

@@ -1,4 +1,4 @@
-#include "adapters/records/records.h"
+#include "adapters/records/desk_database.h"
 #include "core/engine/engine_world.h"
 #include "support/recording_act.h"
 #include "support/temporary_database.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "adapters/records/records.h"
+#include "adapters/records/desk_database.h"
 #include "core/engine/engine_world.h"
 #include "core/interaction/interaction.h"
 #include "core/values/text.h"

@@ -21,7 +21,7 @@ public:
         : database_(std::move(database)) {
         ini.SettingsFile = settings_file;
         session.Create_Database();
-        users.Initialize_Users(false);
+        users.Initialize_Users(act::ShownUsers::of_the_filter);
         users.map_users();
         calendar.layout.NumDays = 7;
         calendar.layout.Initialize_Dates(day);

@@ -22,7 +22,7 @@ const ActivityKey& key_of(const ActivityCache::Row& row) { return row->entry.key
 
 bool holds(const Scope& scope, std::int64_t start) { return scope.from <= start && start < scope.to; }
 
-// The rows in order, and in memory one behind the other, since they are walked again and again.
+// The rows in order, and in memory one after the other, since they are walked again and again.
 std::vector<ActivityCache::Row> side_by_side(std::vector<ActivityRow> rows) {
     std::vector<ActivityRow*> order;
     order.reserve(rows.size());

@@ -42,7 +42,7 @@ public:
 
     // Where the last step of a walk without a scope arrived, so that the next one mostly needs no search.
     using Hint = std::size_t;
-    // The first entry of the list, and the first one behind a place. None at its end. What they give lives until
+    // The first entry of the list, and the first one after a place. None at its end. What they give lives until
     // the next call of any member.
     const store::ActivityEntry* first(const std::optional<Scope>& scope, Hint& hint);
     const store::ActivityEntry* next(const store::ActivityKey& place, const std::optional<Scope>& scope,

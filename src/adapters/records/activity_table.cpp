@@ -295,7 +295,7 @@ void ActivityTable::schedule_with(const std::string& contact) {
             contacts[contact_place_] = values::whole_id(contact);
         } else {
             contacts.erase(contacts.begin() + static_cast<std::ptrdiff_t>(contact_place_));
-            --contact_place_; // what came behind it is the next
+            --contact_place_; // what came after it is the next
         }
         contacts_ = contacts;
     };

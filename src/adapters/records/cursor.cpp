@@ -35,15 +35,15 @@ void Cursor::look_up() {
     if (place_ == Place::before_first) {
         session_->catch_up();
         skip_to_passing(session_->activities().first(filters_.scope, hint_));
-    } else if (place_ == Place::behind_record) {
+    } else if (place_ == Place::after_record) {
         skip_to_passing(session_->activities().next(entry_.key, filters_.scope, hint_));
     }
 }
 
 void Cursor::to_next() {
     look_up();
-    if (place_ == Place::on_record || place_ == Place::behind_deleted)
-        place_ = Place::behind_record;
+    if (place_ == Place::on_record || place_ == Place::after_deleted)
+        place_ = Place::after_record;
     row_.reset();
 }
 
@@ -67,7 +67,7 @@ bool Cursor::lists(const ActivityEntry& entry) const {
 
 template <typename Records>
 void Cursor::to_next_of(const Records& records) {
-    if (place_ == Place::behind_deleted || place_ == Place::at_end || place_ == Place::nowhere)
+    if (place_ == Place::after_deleted || place_ == Place::at_end || place_ == Place::nowhere)
         return;
     const auto is_here = [&](std::size_t at) {
         return at < records.size() && entry_in(records[at]).key == entry_.key;
@@ -154,7 +154,7 @@ void Cursor::record_was_written() {
 }
 
 void Cursor::record_was_removed() {
-    place_ = Place::behind_deleted;
+    place_ = Place::after_deleted;
     row_.reset();
 }
 

@@ -23,7 +23,7 @@ struct ListFilters {
     bool pass(const store::ActivityEntry& entry) const;
 };
 
-// A place in the list of activities: on a record, behind a deleted one, at the end, or nowhere. It is a place in
+// A place in the list of activities: on a record, after a deleted one, at the end, or nowhere. It is a place in
 // the order of starts and ids, not in a list that was made once; so the walk goes on rightly whatever comes and
 // goes round it.
 class Cursor {
@@ -46,7 +46,7 @@ public:
     // The same as go_to, for a record that this program has just written: what was read of it is outdated.
     bool go_to_written(const std::string& id);
     void record_was_written(); // the current one, if any
-    void record_was_removed(); // the current one; the walk goes on behind it
+    void record_was_removed(); // the current one; the walk goes on after it
     void to_nowhere();
 
     // The current record, of which the row is read when it is asked for first. None where there is no record, and
@@ -60,7 +60,7 @@ public:
                                                                 std::int64_t moment);
 
 private:
-    enum class Place { before_first, on_record, behind_record, behind_deleted, at_end, nowhere };
+    enum class Place { before_first, on_record, after_record, after_deleted, at_end, nowhere };
 
     void look_up();
     void skip_to_passing(const store::ActivityEntry* entry);

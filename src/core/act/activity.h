@@ -77,7 +77,7 @@ public:
     // The character with which the ids of all activities of the database begin. None where they differ in it, or
     // where only a walk can tell.
     virtual std::optional<char> FirstCharacterOfIds() { return std::nullopt; }
-    // Stands on the record of that id, inside the filters or not, and MoveNext goes on behind it. False when it
+    // Stands on the record of that id, inside the filters or not, and MoveNext goes on after it. False when it
     // doesn't exist: there is no current record then, and Data gives nothing.
     virtual bool Goto(const std::string& id) = 0;
 

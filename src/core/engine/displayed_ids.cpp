@@ -86,7 +86,7 @@ void DisplayedIds::clear() {
 }
 
 void DisplayedIds::note_pieces(std::size_t from, std::size_t to) {
-    // What ends behind `from` may have begun before it.
+    // What ends after `from` may have begun before it.
     const std::size_t first = from < values::id_length ? 0 : from - values::id_length + 1;
     for (std::size_t at = first; at <= to && at + values::id_length <= text_.size(); ++at) {
         const Bits bits = bits_of(text_.data() + at);

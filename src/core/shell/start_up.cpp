@@ -54,7 +54,7 @@ void StartUp::Form_Load() {
         step = 130;
         read_row_scheme();
         step = 140;
-        need_.users.Initialize_Users(false);
+        need_.users.Initialize_Users(act::ShownUsers::of_the_filter);
         step = 150;
         grid.layout.Initialize_Dates(need_.clock.today());
         step = 160;

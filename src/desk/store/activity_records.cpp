@@ -33,7 +33,7 @@ Activity in_order(const Activity& given) {
     return activity;
 }
 
-// All columns behind the id, of which the revision and the edit date are the store's.
+// All columns after the id, of which the revision and the edit date are the store's.
 void bind_record(Rows& statement, const Activity& activity, std::int64_t revision, DateTime edited) {
     const auto seconds = [](const std::optional<DateTime>& date) {
         return date ? std::optional(date->seconds()) : std::nullopt;
@@ -151,7 +151,9 @@ std::int64_t ActivityRecords::update(const Activity& given) {
         statement.bind_all(activity.id, activity.revision);
         statement.step();
         if (connection_.changed_rows() == 0)
-            fail_as_changed("activity", connection_.query(sql::activity_exists, activity.id).step());
+            fail_with_conflict("activity", connection_.query(sql::activity_exists, activity.id).step()
+                                               ? EditConflict::Cause::changed
+                                               : EditConflict::Cause::deleted);
         connection_.run(sql::clear_further_contacts, activity.id);
         connection_.run(sql::clear_exceptions, activity.id);
         write_lists(activity);
@@ -176,7 +178,7 @@ void ActivityRecords::add_exception(const std::string& activity, DateTime date) 
     const std::string id = values::whole_id(activity);
     transactions_.together([&] {
         if (!connection_.query(sql::activity_exists, id).step())
-            fail_as_changed("activity", false);
+            fail_with_conflict("activity", EditConflict::Cause::deleted);
         connection_.run(sql::add_exception, id, date.date().seconds());
         if (connection_.changed_rows() > 0)
             touch(id);

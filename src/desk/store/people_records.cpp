@@ -94,7 +94,9 @@ std::int64_t PeopleRecords::update(const Contact& contact) {
         statement.bind_all(id, contact.revision);
         statement.step();
         if (connection_.changed_rows() == 0)
-            fail_as_changed("contact", connection_.query(sql::contact_exists, id).step());
+            fail_with_conflict("contact", connection_.query(sql::contact_exists, id).step()
+                                              ? EditConflict::Cause::changed
+                                              : EditConflict::Cause::deleted);
     });
     return revision;
 }
@@ -129,7 +131,7 @@ void PeopleRecords::update(const Group& group) {
         const std::string id = values::whole_id(group.id);
         connection_.run(sql::update_group, transactions_.next_revision(), group.name, id);
         if (connection_.changed_rows() == 0)
-            fail_as_changed("group", false);
+            fail_with_conflict("group", EditConflict::Cause::deleted);
         connection_.run(sql::clear_group_members, id);
         write_members(id, group.contacts);
     });

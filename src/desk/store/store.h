@@ -37,7 +37,7 @@ struct ActivityQuery {
 //
 // Each writing member is one durable transaction: when it returns, a crash of the machine doesn't undo it; when
 // it fails, it has changed nothing. Ids are 12 characters of plain ASCII, of which the last can be a blank; a
-// text of 11 given as an id counts with a blank behind it.
+// text of 11 given as an id counts with a blank after it.
 class Store {
 public:
     // Makes a new empty database. Fails when a file stands at the path already.

@@ -72,7 +72,7 @@ public:
         session.ActGroup = session.ActDatabase->Group();
         session.ActApp = static_cast<act::Application&>(running_desk);
         session.ActContactView = static_cast<act::ContactView&>(running_desk);
-        users.Initialize_Users(false);
+        users.Initialize_Users(act::ShownUsers::of_the_filter);
         users.map_users();
         grid::Layout& layout = calendar.layout;
         layout.NumDays = days;

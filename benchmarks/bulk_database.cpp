@@ -18,7 +18,7 @@ namespace {
 
 constexpr int user_count = 20;
 constexpr int activities_for_a_contact = 20;
-constexpr int days_before = 10 * 365, days_behind = 365;
+constexpr int days_before = 10 * 365, days_after = 365;
 constexpr int longest_lead_in_days = 30;
 constexpr int records_at_once = 20000;
 
@@ -37,7 +37,7 @@ public:
         // Made some days before they start.
         std::vector<std::pair<int, int>> made_and_start;
         for (int i = 0; i < activities_; ++i) {
-            const int start = pick(days_before + days_behind);
+            const int start = pick(days_before + days_after);
             made_and_start.emplace_back(start - pick(longest_lead_in_days), start);
         }
         std::sort(made_and_start.begin(), made_and_start.end());

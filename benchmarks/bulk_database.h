@@ -6,7 +6,7 @@ namespace bench {
 
 // Fills an empty database with so many activities of twenty users, for measuring.
 //
-// Their starts lie in the ten years before `day` and the year behind it. A tenth are series of the four kinds,
+// Their starts lie in the ten years before `day` and the year after it. A tenth are series of the four kinds,
 // begun anywhere in those years, some without an end; one in twenty of them has exceptions. For every twenty
 // activities there is a contact. Records are added about in the order in which people would have made them, and
 // the same arguments always give the same records.

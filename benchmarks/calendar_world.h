@@ -1,7 +1,7 @@
 #pragma once
 
 #include "adapters/qt/qt_files.h"
-#include "adapters/records/records.h"
+#include "adapters/records/desk_database.h"
 #include "core/engine/calendar_engine.h"
 #include "support/fake_act_server.h"
 #include "support/fake_timer.h"
@@ -21,7 +21,7 @@ public:
         : database_(std::move(database)) {
         settings.ini.SettingsFile = settings_file;
         act.session.Create_Database();
-        act.users.Initialize_Users(false);
+        act.users.Initialize_Users(act::ShownUsers::of_the_filter);
         act.users.map_users();
         calendar.layout.NumDays(7);
         calendar.layout.Initialize_Dates(day);

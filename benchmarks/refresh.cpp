@@ -117,7 +117,7 @@ Result measure(const std::string& database, const support::TemporaryFolder& fold
     changing.emplace(database, settings, day);
     changing->calendar.selection.SelectedCell =
         changing->calendar.layout.Cells.reference(1, changing->calendar.layout.FixedCols());
-    changing->clock.time = store::wall_clock().plus_minutes(1); // behind the moment when the database was filled
+    changing->clock.time = store::wall_clock().plus_minutes(1); // after the moment when the database was filled
     Mover mover(database, changing->clock);
     for (int run = 0; run <= bench::runs; ++run) {
         engine::CalendarEngine& engine = changing->engine;

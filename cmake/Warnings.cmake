@@ -1,11 +1,14 @@
-# The compiler flags of every target of ours.
+# The compiler flags of every target of ours, and those that the product has beside them.
 add_library(orvanta_flags INTERFACE)
+add_library(orvanta_product_flags INTERFACE)
+target_link_libraries(orvanta_product_flags INTERFACE orvanta_flags)
 target_compile_features(orvanta_flags INTERFACE cxx_std_20)
 if(MSVC)
     target_compile_options(orvanta_flags INTERFACE /W4 /WX /permissive- /utf-8)
 else()
     target_compile_options(orvanta_flags INTERFACE -Wall -Wextra -Wpedantic -Werror -Wshadow=local
         -Wnon-virtual-dtor -Woverloaded-virtual -Wimplicit-fallthrough)
+    target_compile_options(orvanta_product_flags INTERFACE -Wconversion -Wsign-conversion)
     if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
         # GCC 12 sees overlaps in optimised std::string code that can't happen.
         target_compile_options(orvanta_flags INTERFACE -Wno-restrict)

@@ -23,7 +23,7 @@ using values::Value;
 // An activity record: its fields by number, and its rule.
 struct FakeActivityRecord {
     std::map<int, Value> fields;
-    int recurring_type = 0; // 0 none, 1 daily, 2 weekly, 3 days of the month, 4 weekdays of it
+    act::RecurrenceKind recurring_type = act::RecurrenceKind::none;
     int frequency = 1;
     DateTime until = DateTime::of(2099, 12, 31);
     int days_of_week = 0, days_of_month = 0, weeks_of_month = 0; // bits
@@ -138,9 +138,11 @@ public:
         data_.call("Activity.SetDateScope"), scope_ = {from, to}, scoped_ = true, apply();
     }
     void ClearDateScope() override { data_.call("Activity.ClearDateScope"), scoped_ = false, apply(); }
-    void SetTypeFilter(int type) override { data_.call("Activity.SetTypeFilter"), types_.insert(type), apply(); }
+    void SetTypeFilter(act::ActivityType type) override {
+        data_.call("Activity.SetTypeFilter"), types_.insert(type), apply();
+    }
     void ClearTypeFilter() override { data_.call("Activity.ClearTypeFilter"), types_.clear(), apply(); }
-    void SetPriorityFilter(int priority) override {
+    void SetPriorityFilter(act::Priority priority) override {
         data_.call("Activity.SetPriorityFilter"), priorities_.insert(priority), apply();
     }
     void ClearPriorityFilter() override {
@@ -183,8 +185,8 @@ public:
         apply();
     }
 
-    bool isRecurring() const override { return record().recurring_type != 0; }
-    int recurringType() const override { return record().recurring_type; }
+    bool isRecurring() const override { return record().recurring_type != act::RecurrenceKind::none; }
+    act::RecurrenceKind recurringType() const override { return record().recurring_type; }
     int GetRecurringFrequency() const override { return record().frequency; }
     DateTime GetRecurringUntilDate() const override { return record().until; }
     int GetDaysOfWeekBits() const override { return record().days_of_week; }
@@ -194,7 +196,8 @@ public:
         exceptions_ = FakeExceptionInfo(record().exceptions);
         return exceptions_;
     }
-    void RecurringChangeMode(bool only_this) override {
+    void RecurringChangeMode(act::RecurringChange change) override {
+        const bool only_this = change == act::RecurringChange::only_this;
         data_.call(std::string("Activity.RecurringChangeMode ") + (only_this ? "true" : "false"));
     }
 
@@ -221,9 +224,10 @@ private:
         const bool dated = std::holds_alternative<DateTime>(one.field(field::start));
         if (scoped_ && dated && (one.start() < scope_.first || one.start() >= scope_.second))
             return false;
-        return std::none_of(types_.begin(), types_.end(), [&](int type) { return one.has(field::type, type); }) &&
+        return std::none_of(types_.begin(), types_.end(),
+                            [&](auto type) { return one.has(field::type, static_cast<int>(type)); }) &&
                std::none_of(priorities_.begin(), priorities_.end(),
-                            [&](int priority) { return one.has(field::priority, priority); }) &&
+                            [&](auto priority) { return one.has(field::priority, static_cast<int>(priority)); }) &&
                !(uncleared_only_ && one.field(field::cleared) == Value(std::string("1")));
     }
     void apply() {
@@ -249,7 +253,8 @@ private:
     FakeActData& data_;
     std::pair<DateTime, DateTime> scope_;
     bool scoped_ = false, uncleared_only_ = false, editing_ = false;
-    std::set<int> types_, priorities_;
+    std::set<act::ActivityType> types_;
+    std::set<act::Priority> priorities_;
     std::vector<std::string> list_; // ids in order
     std::size_t next_ = 0;          // the place in the list at which MoveNext arrives
     std::string current_;           // empty: no current record

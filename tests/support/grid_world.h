@@ -49,7 +49,7 @@ public:
     // The session, its users and an empty grid of seven days or one from that date's view on.
     void open(values::DateTime date, int days = 7, bool one_row_per_user = true) {
         session.Create_Database();
-        users.Initialize_Users(false);
+        users.Initialize_Users(act::ShownUsers::of_the_filter);
         users.map_users();
         grid::Layout& layout = calendar.layout;
         layout.NumDays(days);

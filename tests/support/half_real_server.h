@@ -1,6 +1,6 @@
 #pragma once
 
-#include "adapters/records/records.h"
+#include "adapters/records/desk_database.h"
 #include "support/fake_act_server.h"
 
 #include <memory>

@@ -59,15 +59,17 @@ public:
     bool isEOF() const override { return real_->isEOF(); }
     void SkipToRecurring(values::DateTime from, values::DateTime to) override { real_->SkipToRecurring(from, to); }
     void SkipToEdited(values::DateTime since) override { real_->SkipToEdited(since); }
-    std::optional<std::string> IdsNoLongerListed(const std::string& ids, std::int64_t moment) override {
-        return real_->IdsNoLongerListed(ids, moment);
+    std::optional<std::vector<std::string_view>> IdsGoneSince(std::span<const std::string_view> ids,
+                                                              std::int64_t moment) override {
+        return real_->IdsGoneSince(ids, moment);
     }
+    std::optional<char> FirstCharacterOfIds() override { return real_->FirstCharacterOfIds(); }
     bool Goto(const std::string& id) override { return record_.note("Goto " + id), real_->Goto(id); }
     void SetDateScope(values::DateTime from, values::DateTime to) override { real_->SetDateScope(from, to); }
     void ClearDateScope() override { real_->ClearDateScope(); }
-    void SetTypeFilter(int type) override { real_->SetTypeFilter(type); }
+    void SetTypeFilter(act::ActivityType type) override { real_->SetTypeFilter(type); }
     void ClearTypeFilter() override { real_->ClearTypeFilter(); }
-    void SetPriorityFilter(int priority) override { real_->SetPriorityFilter(priority); }
+    void SetPriorityFilter(act::Priority priority) override { real_->SetPriorityFilter(priority); }
     void ClearPriorityFilter() override { real_->ClearPriorityFilter(); }
     void SetClearedFilter() override { real_->SetClearedFilter(); }
     void ClearClearedFilter() override { real_->ClearClearedFilter(); }
@@ -90,16 +92,17 @@ public:
     void Delete() override { record_.note("Delete"), real_->Delete(); }
 
     bool isRecurring() const override { return real_->isRecurring(); }
-    int recurringType() const override { return real_->recurringType(); }
+    act::RecurrenceKind recurringType() const override { return real_->recurringType(); }
     int GetRecurringFrequency() const override { return real_->GetRecurringFrequency(); }
     values::DateTime GetRecurringUntilDate() const override { return real_->GetRecurringUntilDate(); }
     int GetDaysOfWeekBits() const override { return real_->GetDaysOfWeekBits(); }
     int GetDaysOfMonthBits() const override { return real_->GetDaysOfMonthBits(); }
     int GetWeeksOfMonthBits() const override { return real_->GetWeeksOfMonthBits(); }
     act::ExceptionInfo& ExceptionInfo() override { return exceptions_.over(real_->ExceptionInfo()); }
-    void RecurringChangeMode(bool only_this) override {
+    void RecurringChangeMode(act::RecurringChange change) override {
+        const bool only_this = change == act::RecurringChange::only_this;
         record_.note(std::string("RecurringChangeMode ") + (only_this ? "true" : "false"));
-        real_->RecurringChangeMode(only_this);
+        real_->RecurringChangeMode(change);
     }
     std::string FirstScheduledWith() override {
         return record_.note("FirstScheduledWith"), real_->FirstScheduledWith();

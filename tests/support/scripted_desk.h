@@ -79,7 +79,8 @@ private:
             query.user = filter.users;
         std::vector<std::string> ids;
         for (const store::Activity& activity : store_.activities(query))
-            if ((filter.mask & (4 << static_cast<int>(activity.type))) && (!activity.cleared || filter.mask & 2))
+            if ((filter.mask & act::filter_mask::of(activity.type)) &&
+                (!activity.cleared || filter.mask & act::filter_mask::cleared))
                 ids.push_back(activity.id);
         return ids;
     }

@@ -13,7 +13,7 @@ using store::Id;
 namespace {
 
 // Beyond so many rows, reading afresh what is needed is cheaper than carrying on.
-constexpr qsizetype most_rows = 400000;
+constexpr std::size_t most_rows = 400000;
 constexpr int rows_at_once = 256;
 
 bool by_key(const ActivityEntry& left, const ActivityEntry& right) { return left.key < right.key; }
@@ -22,7 +22,7 @@ const ActivityKey& key_of(const ActivityCache::Row& row) { return row->entry.key
 
 bool holds(const Scope& scope, std::int64_t start) { return scope.from <= start && start < scope.to; }
 
-// The rows in order, and in memory one behind the other, since they are walked again and again.
+// The rows in order, and in memory one after the other, since they are walked again and again.
 std::vector<ActivityCache::Row> side_by_side(std::vector<ActivityRow> rows) {
     std::vector<ActivityRow*> order;
     order.reserve(rows.size());
@@ -122,12 +122,12 @@ const ActivityCache::Row& ActivityCache::keep(Row fresh) {
 }
 
 void ActivityCache::drop(const Id& id) {
-    if (const auto known = rows_.find(id); known != rows_.end()) {
+    if (const Row* known = rows_.find(id)) {
         take_out_of_order(**known);
-        rows_.erase(known);
+        rows_.erase(id);
     }
     if (exceptions_)
-        exceptions_->remove(id);
+        exceptions_->erase(id);
     details_.erase(id);
 }
 
@@ -259,7 +259,7 @@ ActivityCache::Row ActivityCache::row(const ActivityEntry& entry) {
 }
 
 ActivityCache::Row ActivityCache::find(const Id& id) {
-    if (const auto known = rows_.constFind(id); known != rows_.cend())
+    if (const Row* known = rows_.find(id))
         return *known;
     auto row = reading_.row(id);
     return row ? keep(std::move(*row)) : nullptr;
@@ -273,17 +273,16 @@ const std::vector<store::DateTime>& ActivityCache::exceptions(const Id& id) {
     }
     static const std::vector<store::DateTime> none;
     if (!last_exceptions_ || last_exceptions_->first != id) {
-        const auto known = exceptions_->constFind(id);
-        last_exceptions_.emplace(id, known == exceptions_->cend() ? &none : &*known);
+        const auto* known = exceptions_->find(id);
+        last_exceptions_.emplace(id, known ? known : &none);
     }
     return *last_exceptions_->second;
 }
 
 const std::string& ActivityCache::details(const Id& id) {
-    const auto [known, is_new] = details_.try_emplace(id);
-    if (is_new)
-        known->second = reading_.details(id);
-    return known->second;
+    if (const std::string* known = details_.find(id))
+        return *known;
+    return details_[id] = reading_.details(id);
 }
 
 } // namespace records

@@ -1,8 +1,7 @@
 #pragma once
 
+#include "adapters/records/id_map.h"
 #include "desk/store/activity_reading.h"
-
-#include <QHash>
 
 #include <cstddef>
 #include <cstdint>
@@ -10,7 +9,6 @@
 #include <memory>
 #include <optional>
 #include <string>
-#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -44,7 +42,7 @@ public:
 
     // Where the last step of a walk without a scope arrived, so that the next one mostly needs no search.
     using Hint = std::size_t;
-    // The first entry of the list, and the first one behind a place. None at its end. What they give lives until
+    // The first entry of the list, and the first one after a place. None at its end. What they give lives until
     // the next call of any member.
     const store::ActivityEntry* first(const std::optional<Scope>& scope, Hint& hint);
     const store::ActivityEntry* next(const store::ActivityKey& place, const std::optional<Scope>& scope,
@@ -79,7 +77,7 @@ private:
 
     store::ActivityReading& reading_;
 
-    QHash<store::Id, Row> rows_;
+    IdMap<Row> rows_;
 
     // Of those the rows of the loaded scopes, which lie apart from each other, and the series of some dates.
     std::vector<Scope> loaded_scopes_;
@@ -93,10 +91,10 @@ private:
 
     std::optional<std::vector<store::ActivityEntry>> entries_; // in order
 
-    std::optional<QHash<store::Id, std::vector<store::DateTime>>> exceptions_;
+    std::optional<IdMap<std::vector<store::DateTime>>> exceptions_;
     // Of the series that was asked for last: mostly the next question is for the same one.
     std::optional<std::pair<store::Id, const std::vector<store::DateTime>*>> last_exceptions_;
-    std::unordered_map<store::Id, std::string> details_;
+    IdMap<std::string> details_;
 };
 
 } // namespace records

@@ -74,6 +74,11 @@ void ActivityTable::SkipToEdited(DateTime since) {
     cursor_.to_edited(since.seconds());
 }
 
+std::optional<char> ActivityTable::FirstCharacterOfIds() {
+    session_->catch_up();
+    return session_->activities().has_own_ids_alone() ? std::optional(store::first_of_own_ids) : std::nullopt;
+}
+
 bool ActivityTable::Goto(const std::string& id) {
     give_up_change();
     return cursor_.go_to(id);
@@ -96,7 +101,7 @@ void ActivityTable::ClearDateScope() {
     set_filters(filters);
 }
 
-void ActivityTable::SetTypeFilter(int type) {
+void ActivityTable::SetTypeFilter(act::ActivityType type) {
     ListFilters filters = cursor_.filters();
     filters.without_types.insert(type);
     set_filters(filters);
@@ -108,7 +113,7 @@ void ActivityTable::ClearTypeFilter() {
     set_filters(filters);
 }
 
-void ActivityTable::SetPriorityFilter(int priority) {
+void ActivityTable::SetPriorityFilter(act::Priority priority) {
     ListFilters filters = cursor_.filters();
     filters.without_priorities.insert(priority);
     set_filters(filters);
@@ -134,8 +139,6 @@ void ActivityTable::ClearClearedFilter() {
 
 void ActivityTable::give_up_change() {
     draft_.reset();
-    written_.clear();
-    only_this_ = false;
     contact_place_ = 0;
     contacts_.clear();
 }
@@ -151,17 +154,17 @@ const store::ActivityEntry& ActivityTable::entry() const {
 
 const store::ActivityRow& ActivityTable::row() const {
     if (draft_)
-        return draft_row_ = row_of(*draft_);
+        return draft_->row();
     entry();
     const store::ActivityRow* row = cursor_.row();
     if (!row)
-        throw Failure(FailureNumber::automation, "The activity was deleted by somebody else.");
+        fail_as_deleted();
     return *row;
 }
 
 Value ActivityTable::Data(int field) const {
     if (draft_)
-        return field == act::activity_field::details ? Value(draft_->details) : row_field(row(), field);
+        return draft_->field(field);
     const store::ActivityEntry* entry = cursor_.entry();
     if (!entry)
         return {};
@@ -178,71 +181,36 @@ Value ActivityTable::Data(int field) const {
 void ActivityTable::Data(int field, const Value& value) {
     if (!draft_)
         throw Failure(FailureNumber::automation, "No activity is being edited.");
-    const int duration = draft_->duration;
-    set_field(*draft_, field, value, session_->locale());
-    // A duration that a stored activity has already says nothing about its end.
-    if (field != act::activity_field::duration || draft_->id.empty() || draft_->duration != duration)
-        written_.insert(field);
+    draft_->set_field(field, value, session_->locale());
 }
 
 bool ActivityTable::HasDetails() const {
     if (draft_)
-        return !draft_->details.empty();
+        return !draft_->record().details.empty();
     const store::ActivityRow* row = cursor_.row();
     return row && row->has_details;
 }
 
 void ActivityTable::Edit() {
     give_up_change();
-    draft_ = stored();
+    draft_.emplace(stored());
 }
 
 void ActivityTable::Add() {
     give_up_change();
     session_->store(); // there must be one
     cursor_.to_nowhere();
-    draft_.emplace();
+    draft_.emplace(store::Activity{});
 }
 
-store::Activity ActivityTable::stored() const {
-    auto record = session_->store().activity(entry().key.id.text());
-    if (!record)
-        throw Failure(FailureNumber::automation, "The activity was deleted by somebody else.");
-    return *record;
-}
+store::Activity ActivityTable::stored() const { return stored_activity(session_->store(), entry().key.id.text()); }
 
 std::string ActivityTable::Update() {
     if (!draft_)
         throw Failure(FailureNumber::automation, "No activity is being edited.");
-    settle_times(*draft_, written_);
-    std::string id = store_draft();
+    std::string id = draft_->store_in(session_->store());
     give_up_change();
     cursor_.go_to_written(id);
-    return id;
-}
-
-std::string ActivityTable::store_draft() {
-    store::Store& store = session_->store();
-    if (draft_->id.empty())
-        return store.add(*draft_);
-    if (!only_this_ || draft_->recurrence.kind == store::RecurrenceKind::none) {
-        store.update(*draft_);
-        return draft_->id;
-    }
-    // The series loses its first date, and what was changed becomes a plain activity.
-    std::string id;
-    store.together([&] {
-        store::Activity series = stored();
-        series.revision = draft_->revision;
-        if (series.start)
-            series.exceptions.push_back(*series.start);
-        store.update(series);
-        store::Activity instance = *draft_;
-        instance.id.clear();
-        instance.recurrence = {};
-        instance.exceptions.clear();
-        id = store.add(instance);
-    });
     return id;
 }
 
@@ -258,16 +226,14 @@ void ActivityTable::store_at_once(const std::string& id, const std::function<voi
         const auto before = store.activity(id);
         write();
         const auto after = store.activity(id);
-        if (draft_ && before && after && draft_->id == id && draft_->revision == before->revision) {
-            draft_->revision = after->revision;
-            draft_->exceptions = after->exceptions;
-        }
+        if (draft_ && before && after)
+            draft_->take_over_exceptions(*before, *after);
     });
     cursor_.record_was_written();
 }
 
-int ActivityTable::recurringType() const {
-    return entry().recurring ? static_cast<int>(row().recurrence.kind) : 0;
+act::RecurrenceKind ActivityTable::recurringType() const {
+    return entry().recurring ? row().recurrence.kind : act::RecurrenceKind::none;
 }
 
 int ActivityTable::GetRecurringFrequency() const { return row().recurrence.frequency; }
@@ -290,7 +256,7 @@ act::ExceptionInfo& ActivityTable::ExceptionInfo() {
 std::string ActivityTable::FirstScheduledWith() {
     const store::ActivityRow& current = row();
     if (draft_)
-        contacts_ = draft_->contacts;
+        contacts_ = draft_->record().contacts;
     else if (current.contact_count > 1)
         contacts_ = session_->store().reading().contacts(current.entry.key.id);
     else
@@ -329,12 +295,14 @@ void ActivityTable::schedule_with(const std::string& contact) {
             contacts[contact_place_] = values::whole_id(contact);
         } else {
             contacts.erase(contacts.begin() + static_cast<std::ptrdiff_t>(contact_place_));
-            --contact_place_; // what came behind it is the next
+            --contact_place_; // what came after it is the next
         }
         contacts_ = contacts;
     };
     if (draft_) {
-        put(draft_->contacts);
+        std::vector<std::string> contacts = draft_->record().contacts;
+        put(contacts);
+        draft_->schedule_with(contacts);
         return;
     }
     session_->store().together([&] {

@@ -1,13 +1,15 @@
 #pragma once
 
+#include "adapters/records/activity_draft.h"
 #include "adapters/records/cursor.h"
 #include "core/act/activity.h"
 
 #include <functional>
 #include <memory>
 #include <optional>
-#include <set>
+#include <span>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace records {
@@ -24,17 +26,19 @@ public:
     void MoveNext() override;
     void SkipToRecurring(act::DateTime from, act::DateTime to) override;
     void SkipToEdited(act::DateTime since) override;
-    std::optional<std::string> IdsNoLongerListed(const std::string& ids, std::int64_t moment) override {
-        return cursor_.ids_no_longer_listed(ids, moment);
+    std::optional<std::vector<std::string_view>> IdsGoneSince(std::span<const std::string_view> ids,
+                                                              std::int64_t moment) override {
+        return cursor_.ids_gone_since(ids, moment);
     }
+    std::optional<char> FirstCharacterOfIds() override;
     bool isEOF() const override { return cursor_.is_at_end(); }
     bool Goto(const std::string& id) override;
 
     void SetDateScope(act::DateTime from, act::DateTime to) override;
     void ClearDateScope() override;
-    void SetTypeFilter(int type) override;
+    void SetTypeFilter(act::ActivityType type) override;
     void ClearTypeFilter() override;
-    void SetPriorityFilter(int priority) override;
+    void SetPriorityFilter(act::Priority priority) override;
     void ClearPriorityFilter() override;
     void SetClearedFilter() override;
     void ClearClearedFilter() override;
@@ -49,14 +53,17 @@ public:
     void Delete() override;
 
     bool isRecurring() const override { return entry().recurring; }
-    int recurringType() const override;
+    act::RecurrenceKind recurringType() const override;
     int GetRecurringFrequency() const override;
     act::DateTime GetRecurringUntilDate() const override;
     int GetDaysOfWeekBits() const override;
     int GetDaysOfMonthBits() const override;
     int GetWeeksOfMonthBits() const override;
     act::ExceptionInfo& ExceptionInfo() override;
-    void RecurringChangeMode(bool only_this) override { only_this_ = only_this; }
+    void RecurringChangeMode(act::RecurringChange change) override {
+        if (draft_)
+            draft_->apply_to(change);
+    }
 
     std::string FirstScheduledWith() override;
     std::string NextScheduledWith() override;
@@ -69,8 +76,8 @@ private:
     void give_up_change();
     const store::ActivityEntry& entry() const; // fails with 91 where there is no record
     const store::ActivityRow& row() const;
-    store::Activity stored() const; // the current record as the store has it; fails with 440 when it is gone
-    std::string store_draft();
+    store::Activity
+    stored() const; // the current record as the store has it; fails with an EditConflict when it is gone
     // Stores something of the current record beside its Update, which doesn't take it for another's change.
     void store_at_once(const std::string& id, const std::function<void()>& write);
     std::string scheduled_with();
@@ -82,10 +89,7 @@ private:
     mutable Cursor cursor_; // it looks up where it stands when it is asked
     std::unique_ptr<Exceptions> exceptions_;
 
-    std::optional<store::Activity> draft_; // between Edit or Add and Update
-    std::set<int> written_;                // the fields of the draft
-    mutable store::ActivityRow draft_row_; // the draft as it is read
-    bool only_this_ = false;
+    std::optional<ActivityDraft> draft_; // between Edit or Add and Update
 
     std::size_t contact_place_ = 0; // of the walk over the contacts
     std::vector<std::string> contacts_;

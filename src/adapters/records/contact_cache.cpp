@@ -19,7 +19,7 @@ const std::string* ContactCache::field(const store::Id& contact, int number) {
 
 void ContactCache::forget(const store::Id& contact) {
     last_.reset();
-    contacts_.remove(contact);
+    contacts_.erase(contact);
 }
 
 void ContactCache::forget_all() {
@@ -30,14 +30,15 @@ void ContactCache::forget_all() {
 const ContactCache::Fields* ContactCache::fields_of(const store::Id& contact) {
     if (last_ && last_->first == contact)
         return last_->second;
-    auto known = contacts_.constFind(contact);
-    if (known == contacts_.cend()) {
+    const Fields* known = contacts_.find(contact);
+    if (!known) {
         auto fields = reading_.contact_fields(contact, wanted_);
         if (!fields)
             return nullptr;
-        known = contacts_.emplace(contact, std::move(*fields));
+        last_.reset(); // it moves with the others
+        known = &(contacts_[contact] = std::move(*fields));
     }
-    last_.emplace(contact, &*known);
+    last_.emplace(contact, known);
     return last_->second;
 }
 

@@ -1,8 +1,7 @@
 #pragma once
 
+#include "adapters/records/id_map.h"
 #include "desk/store/activity_reading.h"
-
-#include <QHash>
 
 #include <optional>
 #include <string>
@@ -32,7 +31,7 @@ private:
 
     store::ActivityReading& reading_;
     std::vector<int> wanted_; // the numbers of the fields, in the order in which they were first asked for
-    QHash<store::Id, Fields> contacts_;
+    IdMap<Fields> contacts_;
     std::optional<std::pair<store::Id, const Fields*>> last_; // mostly the next question is for the same one
 };
 

@@ -1,7 +1,5 @@
 #include "adapters/records/cursor.h"
 
-#include "core/values/ids.h"
-
 #include <algorithm>
 
 namespace records {
@@ -19,9 +17,8 @@ std::shared_ptr<const ActivityRow> row_in(const std::shared_ptr<const ActivityRo
 } // namespace
 
 bool ListFilters::pass(const ActivityEntry& entry) const {
-    return !(without_cleared && entry.cleared) &&
-           (without_types.empty() || !without_types.contains(static_cast<int>(entry.type))) &&
-           (without_priorities.empty() || !without_priorities.contains(static_cast<int>(entry.priority)));
+    return !(without_cleared && entry.cleared) && (without_types.empty() || !without_types.contains(entry.type)) &&
+           (without_priorities.empty() || !without_priorities.contains(entry.priority));
 }
 
 void Cursor::set_filters(const ListFilters& filters) {
@@ -38,15 +35,15 @@ void Cursor::look_up() {
     if (place_ == Place::before_first) {
         session_->catch_up();
         skip_to_passing(session_->activities().first(filters_.scope, hint_));
-    } else if (place_ == Place::behind_record) {
+    } else if (place_ == Place::after_record) {
         skip_to_passing(session_->activities().next(entry_.key, filters_.scope, hint_));
     }
 }
 
 void Cursor::to_next() {
     look_up();
-    if (place_ == Place::on_record || place_ == Place::behind_deleted)
-        place_ = Place::behind_record;
+    if (place_ == Place::on_record || place_ == Place::after_deleted)
+        place_ = Place::after_record;
     row_.reset();
 }
 
@@ -70,7 +67,7 @@ bool Cursor::lists(const ActivityEntry& entry) const {
 
 template <typename Records>
 void Cursor::to_next_of(const Records& records) {
-    if (place_ == Place::behind_deleted || place_ == Place::at_end || place_ == Place::nowhere)
+    if (place_ == Place::after_deleted || place_ == Place::at_end || place_ == Place::nowhere)
         return;
     const auto is_here = [&](std::size_t at) {
         return at < records.size() && entry_in(records[at]).key == entry_.key;
@@ -101,23 +98,17 @@ void Cursor::to_next_of(const Records& records) {
     }
 }
 
-std::optional<std::string> Cursor::ids_no_longer_listed(const std::string& ids, std::int64_t moment) {
+std::optional<std::vector<std::string_view>> Cursor::ids_gone_since(std::span<const std::string_view> ids,
+                                                                    std::int64_t moment) {
     session_->catch_up();
-    const auto beginnings = static_cast<std::size_t>(std::ranges::count(ids, store::first_of_own_ids));
-    if (ids.size() != beginnings * values::id_length || !session_->activities().has_own_ids_alone())
-        return std::nullopt;
-    const auto changed = session_->changed_behind(moment);
+    const auto changed = session_->changed_since(moment);
     if (!changed)
         return std::nullopt;
-    std::string missing;
-    for (std::size_t at = 0; at < ids.size(); at += values::id_length) {
-        const std::string_view id = std::string_view(ids).substr(at, values::id_length);
-        if (id.front() != store::first_of_own_ids)
-            return std::nullopt;
-        if (changed->contains(store::Id(id)) && !lists(store::Id(id)))
-            missing += id;
-    }
-    return missing;
+    std::vector<std::string_view> gone;
+    for (const std::string_view text : ids)
+        if (const store::Id id = id_of(text); changed->contains(id) && !lists(id))
+            gone.push_back(text);
+    return gone;
 }
 
 bool Cursor::lists(const store::Id& id) {
@@ -163,7 +154,7 @@ void Cursor::record_was_written() {
 }
 
 void Cursor::record_was_removed() {
-    place_ = Place::behind_deleted;
+    place_ = Place::after_deleted;
     row_.reset();
 }
 

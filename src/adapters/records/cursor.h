@@ -1,25 +1,29 @@
 #pragma once
 
 #include "adapters/records/shared_store.h"
+#include "core/act/activity_kinds.h"
 
 #include <memory>
 #include <optional>
 #include <set>
+#include <span>
 #include <string>
+#include <string_view>
+#include <vector>
 
 namespace records {
 
 // What a list keeps out.
 struct ListFilters {
     std::optional<Scope> scope{};
-    std::set<int> without_types{};
-    std::set<int> without_priorities{};
+    std::set<act::ActivityType> without_types{};
+    std::set<act::Priority> without_priorities{};
     bool without_cleared = false;
 
     bool pass(const store::ActivityEntry& entry) const;
 };
 
-// A place in the list of activities: on a record, behind a deleted one, at the end, or nowhere. It is a place in
+// A place in the list of activities: on a record, after a deleted one, at the end, or nowhere. It is a place in
 // the order of starts and ids, not in a list that was made once; so the walk goes on rightly whatever comes and
 // goes round it.
 class Cursor {
@@ -42,7 +46,7 @@ public:
     // The same as go_to, for a record that this program has just written: what was read of it is outdated.
     bool go_to_written(const std::string& id);
     void record_was_written(); // the current one, if any
-    void record_was_removed(); // the current one; the walk goes on behind it
+    void record_was_removed(); // the current one; the walk goes on after it
     void to_nowhere();
 
     // The current record, of which the row is read when it is asked for first. None where there is no record, and
@@ -50,13 +54,13 @@ public:
     const store::ActivityEntry* entry();
     const store::ActivityRow* row();
 
-    // Of ids joined to one text, which all were in the list at that moment or later, those that no record of the
-    // list has now, in their order. None where an id of the database may also be found across the border of two of
-    // them, or where the session can't tell what has changed behind the moment.
-    std::optional<std::string> ids_no_longer_listed(const std::string& ids, std::int64_t moment);
+    // Of ids that were in the list at that moment or later, those that no record of the list has now, in their
+    // order. None where the session can't tell what has changed since the moment.
+    std::optional<std::vector<std::string_view>> ids_gone_since(std::span<const std::string_view> ids,
+                                                                std::int64_t moment);
 
 private:
-    enum class Place { before_first, on_record, behind_record, behind_deleted, at_end, nowhere };
+    enum class Place { before_first, on_record, after_record, after_deleted, at_end, nowhere };
 
     void look_up();
     void skip_to_passing(const store::ActivityEntry* entry);

@@ -13,7 +13,9 @@ constexpr std::size_t most_noted_changes = 20000;
 
 } // namespace
 
-store::Id id_of(const std::string& text) {
+store::Id id_of(std::string_view text) {
+    if (text.size() == values::id_length)
+        return store::Id(text);
     const std::string whole = values::whole_id(text);
     return store::Id(whole.size() == values::id_length ? whole : std::string());
 }
@@ -84,7 +86,7 @@ void SharedStore::forget_changes(std::int64_t revision) {
     changes_known_from_ = revision;
 }
 
-std::optional<std::unordered_set<store::Id>> SharedStore::changed_behind(std::int64_t moment) const {
+std::optional<std::unordered_set<store::Id>> SharedStore::changed_since(std::int64_t moment) const {
     if (moment < changes_known_from_)
         return std::nullopt;
     std::unordered_set<store::Id> ids;

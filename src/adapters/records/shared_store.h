@@ -9,6 +9,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <unordered_map>
 #include <unordered_set>
 #include <utility>
@@ -17,7 +18,7 @@
 namespace records {
 
 // None for a text that is no id, so that a longer one isn't found by its beginning.
-store::Id id_of(const std::string& text);
+store::Id id_of(std::string_view text);
 
 // A database while it is open: its store and what has been read of it. The objects that a program holds share it.
 // They may outlive its closing; then they fail with 440, as every member here does.
@@ -39,9 +40,9 @@ public:
 
     // The file's revision that everything in memory is at least as new as.
     std::int64_t moment() const { return seen_; }
-    // The activities that were added, changed or removed behind a moment, as far as has been taken in, and perhaps
+    // The activities that were added, changed or removed since a moment, as far as has been taken in, and perhaps
     // some more. None where that isn't known any more.
-    std::optional<std::unordered_set<store::Id>> changed_behind(std::int64_t moment) const;
+    std::optional<std::unordered_set<store::Id>> changed_since(std::int64_t moment) const;
 
     // What has been read, as new as the last catch_up.
     ActivityCache& activities();

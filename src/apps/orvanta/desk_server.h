@@ -1,7 +1,7 @@
 #pragma once
 
 #include "adapters/bus/application_bridge.h"
-#include "adapters/records/records.h"
+#include "adapters/records/desk_database.h"
 #include "core/act/objects.h"
 
 #include <memory>

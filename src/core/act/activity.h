@@ -1,24 +1,28 @@
 #pragma once
 
+#include "core/act/activity_kinds.h"
 #include "core/values/date_time.h"
 #include "core/values/value.h"
 
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <string>
+#include <string_view>
+#include <vector>
 
 namespace act {
 
 using values::DateTime;
 using values::Value;
 
-// Numbers of the activity fields that the calendar reads and writes.
+// Numbers of the activity fields.
 namespace activity_field {
 inline constexpr int id = 1;
 inline constexpr int edited = 3;
 inline constexpr int is_private = 5;
-inline constexpr int type = 25;     // 0 call, 1 meeting, 2 to-do
-inline constexpr int priority = 26; // 0 high, 1 medium, 2 low
+inline constexpr int type = 25;     // ActivityType
+inline constexpr int priority = 26; // Priority
 inline constexpr int regarding = 27;
 inline constexpr int start = 28;
 inline constexpr int end = 29;
@@ -32,7 +36,7 @@ inline constexpr int contact = 40;       // the contact's id
 inline constexpr int cleared = 41;       // "1" or "0"
 inline constexpr int details = 45;
 inline constexpr int contact_count = 100;
-inline constexpr int occurrence_length = 101; // minutes
+inline constexpr int occurrence_length = 101; // minutes from start to end, which needn't be the duration
 inline constexpr int date = 200;
 } // namespace activity_field
 
@@ -64,23 +68,25 @@ public:
     virtual void SkipToRecurring([[maybe_unused]] DateTime from, [[maybe_unused]] DateTime to) {}
     // The same over records that weren't edited later than that.
     virtual void SkipToEdited([[maybe_unused]] DateTime since) {}
-    // Of ids joined to one text, each of which was in the list at that moment of its database or came into it
-    // later, those that no record of the list has now: what a walk over the list that takes every occurrence of
-    // each record's id out of the text would leave. None where that needs the walk.
-    virtual std::optional<std::string> IdsNoLongerListed([[maybe_unused]] const std::string& ids,
-                                                         [[maybe_unused]] std::int64_t moment) {
+    // Of ids that were in the list at that moment of its database or came into it later, those that no record of
+    // the list has now, in their order. None where only a walk over the list can tell.
+    virtual std::optional<std::vector<std::string_view>>
+    IdsGoneSince([[maybe_unused]] std::span<const std::string_view> ids, [[maybe_unused]] std::int64_t moment) {
         return std::nullopt;
     }
-    // Stands on the record of that id, inside the filters or not, and MoveNext goes on behind it. False when it
+    // The character with which the ids of all activities of the database begin. None where they differ in it, or
+    // where only a walk can tell.
+    virtual std::optional<char> FirstCharacterOfIds() { return std::nullopt; }
+    // Stands on the record of that id, inside the filters or not, and MoveNext goes on after it. False when it
     // doesn't exist: there is no current record then, and Data gives nothing.
     virtual bool Goto(const std::string& id) = 0;
 
     // Starts at or after `from` and before `to`.
     virtual void SetDateScope(DateTime from, DateTime to) = 0;
     virtual void ClearDateScope() = 0;
-    virtual void SetTypeFilter(int type) = 0; // keeps that type out, beside those kept out before
+    virtual void SetTypeFilter(ActivityType type) = 0; // keeps that type out, beside those kept out before
     virtual void ClearTypeFilter() = 0;
-    virtual void SetPriorityFilter(int priority) = 0; // keeps that priority out
+    virtual void SetPriorityFilter(Priority priority) = 0; // keeps that priority out
     virtual void ClearPriorityFilter() = 0;
     virtual void SetClearedFilter() = 0; // keeps cleared activities out
     virtual void ClearClearedFilter() = 0;
@@ -96,20 +102,20 @@ public:
 
     virtual void Edit() = 0;
     virtual void Add() = 0; // a new record, unseen by others until Update
-    // Stores the change durably as a whole and gives the record's id. Fails with 440 and stores nothing when
-    // another process changed or deleted the record since Edit.
+    // Stores the change durably as a whole and gives the record's id. Fails with an EditConflict (edit_conflict.h)
+    // and stores nothing when another process changed or deleted the record since Edit.
     virtual std::string Update() = 0;
     virtual void Delete() = 0;
 
     virtual bool isRecurring() const = 0;
-    virtual int recurringType() const = 0; // 0 none, 1 daily, 2 weekly, 3 days of the month, 4 weekdays of it
+    virtual RecurrenceKind recurringType() const = 0;
     virtual int GetRecurringFrequency() const = 0;      // the step in days, weeks or months; at least 1
     virtual DateTime GetRecurringUntilDate() const = 0; // 31 December 2099 for a series without an end
     virtual int GetDaysOfWeekBits() const = 0;          // bit 0 Sunday to bit 6 Saturday
     virtual int GetDaysOfMonthBits() const = 0;         // bit 0 the 1st to bit 30 the 31st
     virtual int GetWeeksOfMonthBits() const = 0;        // bit 0 the first week to bit 4 the fifth
     virtual class ExceptionInfo& ExceptionInfo() = 0;
-    virtual void RecurringChangeMode(bool only_this) = 0; // how the next Update applies to a series
+    virtual void RecurringChangeMode(RecurringChange change) = 0; // how the next Update applies to a series
 
     // Walk the contacts of the activity, its first one first; an empty text ends the walk. With an argument they
     // set the contact at the walk's place, at once.

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/values/date_time.h"
+#include "core/act/list_filter.h"
 
 #include <functional>
 #include <memory>
@@ -19,13 +19,6 @@ enum class CommandNumber {
     edit_activity = 1337,
     send_activity = 1343,
     activity_details = 20251,
-};
-
-// The filter of a contact view's activity list, in the application's own encoding.
-struct ListFilter {
-    int mask = 0;
-    std::string dates;
-    std::string users;
 };
 
 // The activity list of a contact view. Rows count from 0.

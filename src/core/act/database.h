@@ -63,7 +63,7 @@ public:
     // Looks once what other programs have changed, and not again as long as the result lives: what many records
     // are read for then tells of one moment. Empty where nothing is gained by it.
     virtual std::shared_ptr<void> One_Look() { return nullptr; }
-    // Of the last look, for Activity::IdsNoLongerListed: greater after each change, and never the same for two
+    // Of the last look, for Activity::IdsGoneSince: greater after each change, and never the same for two
     // states of the database. Meaningful while it stays open.
     virtual std::int64_t Moment() { return 0; }
 };

@@ -31,28 +31,27 @@ void select_entry(ItemList& list, const std::string& select, Matches matches) {
 
 } // namespace
 
-void ListPopulator::Populate_cboUsers(ItemList& list, const std::string& select, bool add_empty_entry,
-                                      const std::string& security, const std::string& access) {
+void ListPopulator::Populate_cboUsers(ItemList& list, const WantedUsers& wanted) {
     guarded_("in modPopulateACTLists: Sub Populate_cboUsers - Line # ", [&](host::Step& step) {
         step = 10;
         list.Clear();
-        if (add_empty_entry)
+        if (wanted.with_empty_entry)
             list.AddItem("", 0);
         step = 20;
         Users& users = *session_.ActUsers;
         const int count = users.Count();
         for (int user = 1; user <= count; ++user) {
             step = 30;
-            bool taken = security.empty() || values::contains(users.Security(user), security);
+            bool taken = wanted.security.empty() || values::contains(users.Security(user), wanted.security);
             step = 40;
-            if (!access.empty())
-                taken = values::contains(users.Access(user), access);
+            if (!wanted.access.empty())
+                taken = values::contains(users.Access(user), wanted.access);
             step = 50;
             if (taken)
                 list.AddItem(users.name(user), user);
         }
         step = 60;
-        select_entry(list, select, [&](int index) { return list.List(index) == select; });
+        select_entry(list, wanted.select, [&](int index) { return list.List(index) == wanted.select; });
     });
 }
 

@@ -28,16 +28,22 @@ inline constexpr int details = 945;
 // Whether a list of fields looks at popup lists.
 enum class PopupMode { any = 0, only_with = 1, only_without = 2 };
 
+// The users whose security and access texts hold the given ones; where an access text is given, it alone decides.
+struct WantedUsers {
+    std::string security{};
+    std::string access{};
+    bool with_empty_entry = false; // before them
+    std::string select{};
+};
+
 // Fills the lists of the windows from the open database. "vbTopItem" as the text to select means the first
 // entry; an empty text, or one that no entry has, selects nothing. All have the usual failure handler.
 class ListPopulator {
 public:
     ListPopulator(Session& session, const host::Guard& guarded) : session_(session), guarded_(guarded) {}
 
-    // The users whose security and access texts hold the given ones; where an access text is given, it alone
-    // decides. The item data is the user's position in ActUsers.
-    void Populate_cboUsers(ItemList& list, const std::string& select, bool add_empty_entry,
-                           const std::string& security, const std::string& access);
+    // The wanted users. The item data is the user's position in ActUsers.
+    void Populate_cboUsers(ItemList& list, const WantedUsers& wanted);
     // The contact fields that Include_Field lets through, with the field's id as item data. `select` is such an
     // id. Entries are added to what the list holds.
     void Populate_cboFields(ItemList& list, const std::string& accepted_types, PopupMode popup_mode,

@@ -6,12 +6,12 @@
 
 namespace act {
 
-void UserList::Initialize_Users(bool all_users) {
+void UserList::Initialize_Users(ShownUsers shown) {
     guarded_("in frmMain: Sub Initialize_Users - Line # ", [&](host::Step& step) {
         step = 10;
         cboUsers.Clear();
         step = 20;
-        UsersFilter = all_users ? " " : settings::read(ini_, settings::keys::filter_users) + " ";
+        UsersFilter = shown == ShownUsers::all ? " " : settings::read(ini_, settings::keys::filter_users) + " ";
         if (UsersFilter != " ") {
             step = 30;
             NumUsers =
@@ -29,12 +29,12 @@ void UserList::Initialize_Users(bool all_users) {
             step = 60;
             NumUsers = session_.ActUsers->Count();
             step = 70;
-            lists_.Populate_cboUsers(cboUsers, "", false, "", "");
+            lists_.Populate_cboUsers(cboUsers, {});
         }
         step = 80;
         // Not again when even all users are none.
-        if (cboUsers.ListCount() == 0 && !all_users)
-            Initialize_Users(true);
+        if (cboUsers.ListCount() == 0 && shown != ShownUsers::all)
+            Initialize_Users(ShownUsers::all);
     });
 }
 

@@ -11,6 +11,8 @@
 
 namespace act {
 
+enum class ShownUsers { of_the_filter, all };
+
 // The users whom the calendar shows, and all users by id and name.
 class UserList {
 public:
@@ -24,8 +26,9 @@ public:
     std::unordered_map<std::string, std::string> UserIdToName;
     std::unordered_map<std::string, std::string> UserNameToId;
 
-    // Reads the filter and fills cboUsers. A filter that names nobody falls back to all users.
-    void Initialize_Users(bool all_users);
+    // Takes the users of the settings' filter, or all of them, and fills cboUsers. A filter that names nobody
+    // falls back to all users.
+    void Initialize_Users(ShownUsers shown);
     // Fills both maps with every user of the database. Has no failure handler.
     void map_users();
     // Whether activities of that user are shown.

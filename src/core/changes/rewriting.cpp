@@ -5,7 +5,7 @@ namespace changes {
 void Rewriting::apply(act::Activity& activity) const {
     activity.Edit();
     if (record == Record::whole_series)
-        activity.RecurringChangeMode(false);
+        activity.RecurringChangeMode(act::RecurringChange::whole_series);
     write_fields(activity, fields);
     activity.Update();
     if (contacts)

@@ -45,6 +45,21 @@ bool DisplayedIds::contains(std::string_view id) const {
     return text_.ends_with(id) || text_.find(id) != std::string::npos;
 }
 
+std::optional<std::vector<std::string_view>> DisplayedIds::one_by_one(char first_of_ids) const {
+    // Where the character stands at their beginnings alone, it does so in whatever of them is left.
+    const auto beginnings = static_cast<std::size_t>(std::ranges::count(text_, first_of_ids));
+    if (text_.size() != beginnings * values::id_length)
+        return std::nullopt;
+    std::vector<std::string_view> ids;
+    ids.reserve(beginnings);
+    for (std::string_view rest = text_; !rest.empty(); rest.remove_prefix(values::id_length)) {
+        if (rest.front() != first_of_ids)
+            return std::nullopt;
+        ids.push_back(rest.substr(0, values::id_length));
+    }
+    return ids;
+}
+
 void DisplayedIds::append(std::string_view id) {
     const std::size_t old_size = text_.size();
     text_ += id;
@@ -71,7 +86,7 @@ void DisplayedIds::clear() {
 }
 
 void DisplayedIds::note_pieces(std::size_t from, std::size_t to) {
-    // What ends behind `from` may have begun before it.
+    // What ends after `from` may have begun before it.
     const std::size_t first = from < values::id_length ? 0 : from - values::id_length + 1;
     for (std::size_t at = first; at <= to && at + values::id_length <= text_.size(); ++at) {
         const Bits bits = bits_of(text_.data() + at);

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -17,6 +18,9 @@ public:
 
     const std::string& text() const { return text_; }
     bool contains(std::string_view id) const;
+    // The ids one by one, in their order. None where an id that begins with that character might be found anywhere
+    // but as one of them, now or once some of them have been taken out.
+    std::optional<std::vector<std::string_view>> one_by_one(char first_of_ids) const;
     void append(std::string_view id);
     void remove(std::string_view id); // every occurrence
     void clear();

@@ -72,12 +72,12 @@ std::string QuickRefresh::Find_New(DateTime since) {
         step = 30;
         activity.MoveFirst();
         step = 40;
-        const auto not_listed = activity.IdsNoLongerListed(placing_.DisplayedIDs.text(), placing_.displayed_from);
+        const auto told = missing_without_walk(activity);
         std::optional<DisplayedIds> missing;
-        if (!not_listed)
+        if (!told)
             missing = placing_.DisplayedIDs;
         for (;; activity.MoveNext()) {
-            if (not_listed)
+            if (told)
                 activity.SkipToEdited(since);
             if (activity.isEOF())
                 break;
@@ -88,8 +88,22 @@ std::string QuickRefresh::Find_New(DateTime since) {
             if (missing)
                 missing->remove(id);
         }
-        return changed + (not_listed ? *not_listed : missing->text());
+        return changed + (told ? *told : missing->text());
     });
+}
+
+// What is left of the displayed ids once every occurrence of the id of each record of the list has been taken out
+// of their text. None where only the walk that takes them out can tell.
+std::optional<std::string> QuickRefresh::missing_without_walk(act::Activity& activity) const {
+    const auto first_of_ids = activity.FirstCharacterOfIds();
+    const auto ids = first_of_ids ? placing_.DisplayedIDs.one_by_one(*first_of_ids) : std::nullopt;
+    const auto gone = ids ? activity.IdsGoneSince(*ids, placing_.displayed_from) : std::nullopt;
+    if (!gone)
+        return std::nullopt;
+    std::string missing;
+    for (const std::string_view id : *gone)
+        missing += id;
+    return missing;
 }
 
 void QuickRefresh::Refresh_Activity(std::string id, SelectedCell selected) {

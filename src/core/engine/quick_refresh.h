@@ -6,6 +6,7 @@
 #include "core/engine/refresh.h"
 #include "core/grid/calendar_grid.h"
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -44,6 +45,7 @@ public:
     void Erase_Slot(std::string_view id);
 
 private:
+    std::optional<std::string> missing_without_walk(act::Activity& activity) const;
     void clear_cell_of(const std::string& id, std::string& treated);
     bool passes_filters(const act::Activity& activity) const;
     void place_single(act::Activity& activity);

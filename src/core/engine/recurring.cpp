@@ -37,15 +37,15 @@ void Recurring::Treat_Recurring() {
 
 void Recurring::treat_series(DateTime start, int duration) {
     switch (act_.session.ActActivity->recurringType()) {
-    case 1:
+    case act::RecurrenceKind::daily:
         return Treat_Daily(start, duration);
-    case 2:
+    case act::RecurrenceKind::weekly:
         return Treat_Weekly(start, duration);
-    case 3:
+    case act::RecurrenceKind::days_of_month:
         return Treat_Custom(start, duration);
-    case 4:
+    case act::RecurrenceKind::weekdays_of_month:
         return Treat_Monthly(start, duration);
-    default:
+    case act::RecurrenceKind::none:
         return;
     }
 }

@@ -19,8 +19,7 @@ public:
 
     // Every series of the list, with its filters and without its date scope. The list is at its end afterwards.
     void Treat_Recurring();
-    // The current record by its kind: 1 daily, 2 weekly, 3 days of the month, 4 weekdays of it; nothing for any
-    // other. `duration` is in minutes.
+    // The current record by its kind; nothing for one that is no series. `duration` is in minutes.
     void treat_series(DateTime start, int duration);
 
     void Treat_Daily(DateTime start, int duration);

@@ -92,9 +92,9 @@ void Refresh::filter_list(act::Activity& activity) const {
     activity.SetDateScope(grid_.layout.StartDate(), grid_.layout.after_last_day());
     for (int number = 0; number <= 2; ++number) {
         if (is_zero(settings_.ini, keys::filter_type(number)))
-            activity.SetTypeFilter(number);
+            activity.SetTypeFilter(static_cast<act::ActivityType>(number));
         if (is_zero(settings_.ini, keys::filter_priority(number)))
-            activity.SetPriorityFilter(number);
+            activity.SetPriorityFilter(static_cast<act::Priority>(number));
     }
     if (is_zero(settings_.ini, keys::filter_show_cleared))
         activity.SetClearedFilter();

@@ -60,7 +60,7 @@ void Instances::Remove_Exception(const std::string& id, DateTime date) {
 
 InstanceChange Instances::Compare_Instance(const std::string& id) {
     activity().Goto(id);
-    if (activity().recurringType() != 0)
+    if (activity().recurringType() != act::RecurrenceKind::none)
         return InstanceChange::recurrence_touched;
     for (const int number : {field::type, field::priority, field::regarding, field::start, field::end,
                              field::duration, field::alarm, field::alarm_lead, field::colour, field::scheduled_for,

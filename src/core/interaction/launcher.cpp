@@ -13,19 +13,13 @@ using values::ignoring_failure;
 
 namespace {
 
-constexpr int cleared_bit = 2;
-constexpr const char* all_dates = "1";
-
-// The activities of one type, as the filter of the contact view's list writes it.
-int mask_of_type(int type) {
-    switch (type) {
-    case 0:
-        return 228;
-    case 1:
-        return 232;
-    default:
-        return 240;
-    }
+// The activities of one type, whatever their priority. A number that is no other type's counts as a to-do.
+int mask_of_type(int number) {
+    const auto is = [&](act::ActivityType type) { return number == static_cast<int>(type); };
+    const act::ActivityType type = is(act::ActivityType::call)      ? act::ActivityType::call
+                                   : is(act::ActivityType::meeting) ? act::ActivityType::meeting
+                                                                    : act::ActivityType::to_do;
+    return act::filter_mask::of(type) | act::filter_mask::every_priority;
 }
 
 // Puts back what the work changed, also when it fails; its failure is then the one to tell.
@@ -82,7 +76,7 @@ void Launcher::Select_and_Launch_Command(const std::string& id, act::CommandNumb
         if (activity().Goto(id)) { // what is gone stands in no list
             step = 20;
             const int mask = mask_of_type(values::int16_of(activity().Data(field::type))) |
-                             (launch.showCleared ? cleared_bit : 0);
+                             (launch.showCleared ? act::filter_mask::cleared : 0);
             step = 30;
             show_contact(text(field::contact));
             step = 40;
@@ -103,7 +97,8 @@ void Launcher::run_in_list(act::CommandNumber command, int mask, const Launch& l
         act::ActivityList& list = view.Activities();
         const act::ListFilter users_own = list.GetFilter();
         const auto run = [&] {
-            list.SetFilter({mask, launch.allDates ? all_dates : dates_shown(), text(field::scheduled_for)});
+            list.SetFilter({mask, launch.allDates ? act::filter_dates::all : dates_shown(),
+                            text(field::scheduled_for)});
             run_selected(list, command, launch);
         };
         and_put_back(run, [&] { list.SetFilter(users_own); });
@@ -121,8 +116,7 @@ void Launcher::show_contact(const std::string& contact) {
 }
 
 std::string Launcher::dates_shown() const {
-    const values::DateTime start = layout_.StartDate(), end = layout_.after_last_day();
-    return "6\\" + values::short_date(start, here_.locale) + "\\" + values::short_date(end, here_.locale);
+    return act::filter_dates::text_of({layout_.StartDate(), layout_.after_last_day()}, here_.locale);
 }
 
 void Launcher::run_selected(act::ActivityList& list, act::CommandNumber command, const Launch& launch) {

@@ -103,7 +103,7 @@ void IniDocument::parse() {
     const std::string_view text = file_.text;
     for (std::size_t begin = 0; begin < text.size();) {
         std::size_t end = std::min(text.find_first_of(line_ends, begin), text.size());
-        end += text.substr(end, 2) == "\r\n" ? 2 : end < text.size() ? 1 : 0;
+        end += text.substr(end, 2) == "\r\n" ? 2U : end < text.size() ? 1U : 0U;
         parse_line({begin, end});
         begin = end;
     }

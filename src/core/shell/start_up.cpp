@@ -55,7 +55,7 @@ void StartUp::Form_Load() {
         step = 130;
         read_row_scheme();
         step = 140;
-        engine_.act.users.Initialize_Users(false);
+        engine_.act.users.Initialize_Users(act::ShownUsers::of_the_filter);
         step = 150;
         grid.layout.Initialize_Dates(here_.clock.today());
         step = 160;

@@ -1,8 +1,6 @@
 #include "desk/model/activity_filter.h"
 
 #include "core/values/ids.h"
-#include "core/values/text.h"
-#include "core/values/text_forms.h"
 #include "desk/model/refusal.h"
 #include "desk/store/activity_reading.h"
 
@@ -17,36 +15,33 @@ namespace {
 using store::ActivityType;
 using store::Priority;
 
-constexpr int cleared_bit = 2;
-constexpr std::array type_bits{std::pair{ActivityType::call, 4}, std::pair{ActivityType::meeting, 8},
-                               std::pair{ActivityType::to_do, 16}};
-constexpr std::array priority_bits{std::pair{Priority::high, 32}, std::pair{Priority::medium, 64},
-                                   std::pair{Priority::low, 128}};
-constexpr std::array period_codes{std::pair{Period::all, "1"}, std::pair{Period::today, "2"},
-                                  std::pair{Period::past, "3"}, std::pair{Period::future, "4"}};
+constexpr std::array types{ActivityType::call, ActivityType::meeting, ActivityType::to_do};
+constexpr std::array priorities{Priority::high, Priority::medium, Priority::low};
+constexpr std::array period_codes{
+    std::pair{Period::all, act::filter_dates::all}, std::pair{Period::today, act::filter_dates::today},
+    std::pair{Period::past, act::filter_dates::past}, std::pair{Period::future, act::filter_dates::future}};
 
-template <typename Kinds, typename Bits>
-int bits_of(const Kinds& kinds, const Bits& bits) {
+template <typename Kind>
+int mask_of(const std::set<Kind>& kinds) {
     int mask = 0;
-    for (const auto& [kind, bit] : bits)
-        if (kinds.contains(kind))
-            mask |= bit;
+    for (const Kind kind : kinds)
+        mask |= act::filter_mask::of(kind);
     return mask;
 }
 
-template <typename Kinds, typename Bits>
-Kinds kinds_of(int mask, const Bits& bits) {
-    Kinds kinds;
-    for (const auto& [kind, bit] : bits)
-        if (mask & bit)
+template <typename Kinds>
+auto kinds_of(int mask, const Kinds& all) {
+    std::set<typename Kinds::value_type> kinds;
+    for (const auto kind : all)
+        if (mask & act::filter_mask::of(kind))
             kinds.insert(kind);
     return kinds;
 }
 
-template <typename Kinds, typename Bits>
-Kinds missing(const Kinds& kinds, const Bits& bits) {
-    Kinds result;
-    for (const auto& [kind, bit] : bits)
+template <typename Kinds>
+auto missing(const std::set<typename Kinds::value_type>& kinds, const Kinds& all) {
+    std::set<typename Kinds::value_type> result;
+    for (const auto kind : all)
         if (!kinds.contains(kind))
             result.insert(kind);
     return result;
@@ -59,14 +54,12 @@ void read_dates(ActivityFilter& filter, const std::string& dates, const values::
         filter.period = known->first;
         return;
     }
-    const auto pieces = values::split(dates, "\\");
-    const auto from = pieces.size() == 3 ? values::parse_date(pieces[1], locale) : std::nullopt;
-    const auto to = pieces.size() == 3 ? values::parse_date(pieces[2], locale) : std::nullopt;
-    if (pieces.empty() || pieces[0] != "6" || !from || !to)
+    const auto range = act::filter_dates::range_of(dates, locale);
+    if (!range)
         refuse("The dates of the activity filter can't be read: \"" + dates + "\".");
     filter.period = Period::range;
-    filter.from = from->date();
-    filter.to = to->date();
+    filter.from = range->first;
+    filter.to = range->last;
 }
 
 void limit_period(store::ActivityQuery& query, const ActivityFilter& filter, DateTime today) {
@@ -128,23 +121,22 @@ void append_earlier_series(std::vector<store::Activity>& activities, store::Stor
 
 act::ListFilter codes_of(const ActivityFilter& filter, const values::Locale& locale) {
     act::ListFilter codes;
-    codes.mask = bits_of(filter.types, type_bits) | bits_of(filter.priorities, priority_bits) |
-                 (filter.with_cleared ? cleared_bit : 0);
+    codes.mask =
+        mask_of(filter.types) | mask_of(filter.priorities) | (filter.with_cleared ? act::filter_mask::cleared : 0);
     codes.users = filter.users;
     for (const auto& [period, code] : period_codes)
         if (period == filter.period)
             codes.dates = code;
     if (filter.period == Period::range)
-        codes.dates =
-            "6\\" + values::short_date(filter.from, locale) + "\\" + values::short_date(filter.to, locale);
+        codes.dates = act::filter_dates::text_of({filter.from, filter.to}, locale);
     return codes;
 }
 
 ActivityFilter filter_of(const act::ListFilter& codes, const values::Locale& locale) {
     ActivityFilter filter;
-    filter.types = kinds_of<std::set<ActivityType>>(codes.mask, type_bits);
-    filter.priorities = kinds_of<std::set<Priority>>(codes.mask, priority_bits);
-    filter.with_cleared = (codes.mask & cleared_bit) != 0;
+    filter.types = kinds_of(codes.mask, types);
+    filter.priorities = kinds_of(codes.mask, priorities);
+    filter.with_cleared = (codes.mask & act::filter_mask::cleared) != 0;
     filter.users = values::whole_id(codes.users);
     read_dates(filter, codes.dates, locale);
     return filter;
@@ -153,8 +145,8 @@ ActivityFilter filter_of(const act::ListFilter& codes, const values::Locale& loc
 std::vector<store::Activity> filtered(store::Store& store, const ActivityFilter& filter, DateTime today,
                                       const std::optional<std::string>& contact) {
     store::ActivityQuery query;
-    query.without_types = missing(filter.types, type_bits);
-    query.without_priorities = missing(filter.priorities, priority_bits);
+    query.without_types = missing(filter.types, types);
+    query.without_priorities = missing(filter.priorities, priorities);
     query.without_cleared = !filter.with_cleared;
     query.contact = contact;
     limit_period(query, filter, today);

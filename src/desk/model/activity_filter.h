@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/act/application.h"
+#include "core/act/list_filter.h"
 #include "core/values/locale.h"
 #include "desk/store/store.h"
 
@@ -29,9 +29,7 @@ struct ActivityFilter {
     bool operator==(const ActivityFilter&) const = default;
 };
 
-// The filter as other programs read and set it. The mask: 2 for the cleared ones too; 4 calls, 8 meetings, 16
-// to-dos; 32 high, 64 medium, 128 low priority. The dates: "1" all, "2" today, "3" past, "4" today and future,
-// "6\<first day>\<last day>" in short dates. The users as above.
+// The filter as other programs read and set it (list_filter.h).
 act::ListFilter codes_of(const ActivityFilter& filter, const values::Locale& locale);
 // Fails with 440 when the dates can't be read.
 ActivityFilter filter_of(const act::ListFilter& codes, const values::Locale& locale);

@@ -3,10 +3,16 @@
 #include "core/act/activity.h"
 #include "core/values/text_forms.h"
 
+#include <cstdint>
+
 namespace service {
 namespace {
 
 std::string flag_text(bool flag) { return flag ? "1" : "0"; }
+
+std::int64_t occurrence_length(const store::Activity& activity) {
+    return activity.start ? (activity.end.seconds() - activity.start->seconds()) / 60 : activity.duration;
+}
 
 } // namespace
 
@@ -32,8 +38,9 @@ std::string field_text(const store::Activity& activity, int field, const values:
     case number::date:
         return activity.start ? values::short_date(*activity.start, locale) : "";
     case number::duration:
-    case number::occurrence_length:
         return std::to_string(activity.duration);
+    case number::occurrence_length:
+        return std::to_string(occurrence_length(activity));
     case number::alarm:
         return flag_text(activity.alarm);
     case number::alarm_lead:

@@ -102,7 +102,7 @@ public:
     virtual std::optional<std::vector<std::string>> contact_fields(const Id& contact,
                                                                    const std::vector<int>& fields) = 0;
 
-    // What changed behind a revision. Read the store's revision before: what changes in between is told again by
+    // What changed after a revision. Read the store's revision before: what changes in between is told again by
     // the next call.
     virtual ActivityChanges changes_since(std::int64_t revision) = 0;
 };

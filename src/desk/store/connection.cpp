@@ -135,7 +135,7 @@ Connection::Connection(const std::string& path, Mode mode) : path_(path), wait_(
         fail(result);
     sqlite3_extended_result_codes(opened, 1);
     sqlite3_busy_handler(opened, Waiting::wait, static_cast<Waiting*>(wait_.get()));
-    // The file may come from anywhere: nothing in it may run code or change the tables behind our back.
+    // The file may come from anywhere: nothing in it may run code or change the tables unseen.
     sqlite3_db_config(opened, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
     sqlite3_db_config(opened, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
     sqlite3_db_config(opened, SQLITE_DBCONFIG_ENABLE_TRIGGER, 0, nullptr);

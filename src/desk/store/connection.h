@@ -38,7 +38,7 @@ public:
     void bind_all(const Arguments&... further) { // the next parameters
         (bind(further), ...);
     }
-    bool step(); // to the next row; false behind the last
+    bool step(); // to the next row; false after the last
     bool is_null(int column) const;
     std::int64_t number(int column) const; // 0 for NULL
     int small_number(int column) const { return static_cast<int>(number(column)); }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/act/activity_kinds.h"
 #include "core/values/date_time.h"
 
 #include <cstdint>
@@ -40,9 +41,9 @@ struct Note {
     std::string text{};
 };
 
-enum class ActivityType { call = 0, meeting = 1, to_do = 2 };
-enum class Priority { high = 0, medium = 1, low = 2 };
-enum class RecurrenceKind { none = 0, daily = 1, weekly = 2, days_of_month = 3, weekdays_of_month = 4 };
+using act::ActivityType;
+using act::Priority;
+using act::RecurrenceKind;
 
 struct Recurrence {
     RecurrenceKind kind = RecurrenceKind::none;

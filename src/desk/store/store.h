@@ -37,7 +37,7 @@ struct ActivityQuery {
 //
 // Each writing member is one durable transaction: when it returns, a crash of the machine doesn't undo it; when
 // it fails, it has changed nothing. Ids are 12 characters of plain ASCII, of which the last can be a blank; a
-// text of 11 given as an id counts with a blank behind it.
+// text of 11 given as an id counts with a blank after it.
 class Store {
 public:
     // Makes a new empty database. Fails when a file stands at the path already.
@@ -78,7 +78,7 @@ public:
     virtual std::optional<Activity> activity(const std::string& id) = 0;
     virtual std::string add(const Activity& activity) = 0;
     // Stores the record when nobody changed it since it was read (its revision tells) and gives its new
-    // revision; else fails and changes nothing.
+    // revision; else fails with an act::EditConflict and changes nothing.
     virtual std::int64_t update(const Activity& activity) = 0;
     virtual void remove_activity(const std::string& id) = 0;                    // an absent one is no failure
     virtual void add_exception(const std::string& activity, DateTime date) = 0; // the date counts, not the time
@@ -88,22 +88,7 @@ public:
     virtual ToolbarCommands& toolbar_commands() = 0; // buttons of other programs (toolbar_commands.h)
 
     // Several writes as one transaction: all of them or, when the block throws, none. Blocks may contain blocks.
-    template <typename Block>
-    void together(Block&& block) {
-        begin();
-        try {
-            block();
-        } catch (...) {
-            roll_back();
-            throw;
-        }
-        commit();
-    }
-
-protected:
-    virtual void begin() = 0;
-    virtual void commit() = 0; // rolls back when it fails
-    virtual void roll_back() = 0;
+    virtual void together(const std::function<void()>& block) = 0;
 };
 
 } // namespace store

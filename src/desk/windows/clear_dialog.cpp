@@ -1,6 +1,6 @@
 #include "desk/windows/clear_dialog.h"
 
-#include "desk/model/refusal.h"
+#include "core/act/edit_conflict.h"
 #include "desk/windows/boxes.h"
 #include "desk/windows/conversions.h"
 #include "desk/windows/rows.h"
@@ -95,8 +95,10 @@ void ClearDialog::erase() {
         store::Store& store = database_.store();
         store.together([&] {
             const auto present = store.activity(activity_.id);
-            model::require(!present || present->revision == activity_.revision,
-                           "Somebody else has changed the activity meanwhile. It hasn't been erased.");
+            if (present && present->revision != activity_.revision)
+                throw act::EditConflict(
+                    act::EditConflict::Cause::changed,
+                    "Somebody else has changed the activity meanwhile. It hasn't been erased.");
             store.remove_activity(activity_.id);
         });
     });

@@ -1,4 +1,5 @@
 #include "activity_fixture.h"
+#include "support/conflict_of.h"
 
 #include <map>
 
@@ -7,6 +8,7 @@ using act::activity_field::id;
 using act::activity_field::regarding;
 using act::activity_field::start;
 using store::RecurrenceKind;
+using support::conflict_of;
 using support::daily;
 using support::failure_number;
 using support::meeting;
@@ -15,6 +17,7 @@ using support::rest_of;
 using support::text;
 using support::Value;
 using values::DateTime;
+using Cause = act::EditConflict::Cause;
 namespace field = act::activity_field;
 
 namespace {
@@ -71,7 +74,7 @@ TEST_F(ActivityChanges, ChangesAWholeSeriesInItsPlace) {
     const std::string changed = store.add(series);
     list->Goto(changed);
     list->Edit();
-    list->RecurringChangeMode(false);
+    list->RecurringChangeMode(act::RecurringChange::whole_series);
     list->Data(field::start, monday.plus_minutes(14 * 60));
     list->Data(field::end, monday.plus_minutes(15 * 60));
     list->Update();
@@ -87,7 +90,7 @@ TEST_F(ActivityChanges, TakesTheFirstDateOutOfASeriesWhenOnlyItChanges) {
     const std::string series = store.add(daily("series"));
     list->Goto(series);
     list->Edit();
-    list->RecurringChangeMode(true);
+    list->RecurringChangeMode(act::RecurringChange::only_this);
     list->Data(regarding, std::string("alone"));
     const std::string alone = list->Update();
     EXPECT_NE(alone, series);
@@ -108,9 +111,10 @@ TEST_F(ActivityChanges, RefusesToChangeASeriesInPartThatSomebodyElseChanged) {
     const std::string series = store.add(daily("series"));
     list->Goto(series);
     list->Edit();
-    list->RecurringChangeMode(true);
+    list->RecurringChangeMode(act::RecurringChange::only_this);
     store.add_exception(series, monday.plus_days(3));
     EXPECT_EQ(failure_number([&] { list->Update(); }), 440);
+    EXPECT_EQ(conflict_of([&] { list->Update(); }), Cause::changed);
     EXPECT_EQ(store.activities({}).size(), 1u);
     EXPECT_EQ(store.activity(series)->exceptions, std::vector<DateTime>{monday.plus_days(3)});
 }
@@ -149,9 +153,12 @@ TEST_F(ActivityChanges, TakesFieldsOnlyBetweenEditOrAddAndUpdate) {
 
 TEST_F(ActivityChanges, GivesAChangeUpWhenItMoves) {
     const std::string changed = store.add(meeting("monday"));
-    const std::vector<std::function<void()>> moves = {
-        [&] { list->MoveNext(); },    [&] { list->MoveFirst(); },      [&] { list->Rebuild(); },
-        [&] { list->Goto(changed); }, [&] { list->SetTypeFilter(0); }, [&] { list->ClearDateScope(); }};
+    const std::vector<std::function<void()>> moves = {[&] { list->MoveNext(); },
+                                                      [&] { list->MoveFirst(); },
+                                                      [&] { list->Rebuild(); },
+                                                      [&] { list->Goto(changed); },
+                                                      [&] { list->SetTypeFilter(act::ActivityType::call); },
+                                                      [&] { list->ClearDateScope(); }};
     for (const auto& move : moves) {
         list->Goto(changed);
         list->Edit();
@@ -171,6 +178,7 @@ TEST_F(ActivityChanges, RefusesAnUpdateThatAnotherProcessForestalledAndStoresNot
     theirs.regarding = "theirs";
     store.update(theirs);
     EXPECT_EQ(failure_number([&] { list->Update(); }), 440);
+    EXPECT_EQ(conflict_of([&] { list->Update(); }), Cause::changed);
     EXPECT_EQ(store.activity(changed)->regarding, "theirs");
     list->Goto(changed);
     EXPECT_EQ(text(list->Data(regarding)), "theirs");
@@ -182,7 +190,26 @@ TEST_F(ActivityChanges, RefusesAnUpdateOfARecordThatAnotherProcessDeleted) {
     list->Edit();
     store.remove_activity(gone);
     EXPECT_EQ(failure_number([&] { list->Update(); }), 440);
+    EXPECT_EQ(conflict_of([&] { list->Update(); }), Cause::deleted);
     EXPECT_TRUE(store.activities({}).empty());
+}
+
+TEST_F(ActivityChanges, TellsThatAnotherProcessDeletedASeriesThatIsChangedInPart) {
+    const std::string gone = store.add(daily("series"));
+    list->Goto(gone);
+    list->Edit();
+    list->RecurringChangeMode(act::RecurringChange::only_this);
+    store.remove_activity(gone);
+    EXPECT_EQ(conflict_of([&] { list->Update(); }), Cause::deleted);
+    EXPECT_TRUE(store.activities({}).empty());
+}
+
+TEST_F(ActivityChanges, TakesNoOtherFailureOfAnUpdateForAConflict) {
+    list->Goto(store.add(meeting("monday")));
+    list->Edit();
+    list->Data(field::scheduled_for, std::string("U99999999999")); // whom there is not
+    EXPECT_EQ(failure_number([&] { list->Update(); }), 440);
+    EXPECT_THROW(conflict_of([&] { list->Update(); }), values::Failure);
 }
 
 TEST_F(ActivityChanges, EditsTheRecordAsItIsInTheStoreEvenWhenTheListIsOlder) {

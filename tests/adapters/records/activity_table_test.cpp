@@ -1,4 +1,5 @@
 #include "activity_fixture.h"
+#include "support/activity_fields.h"
 
 using act::activity_field::details;
 using act::activity_field::edited;
@@ -50,9 +51,9 @@ TEST_F(ActivityTable, AppliesEachScopeAndFilterAtOnceAndStandsOnTheFirstRecord) 
     EXPECT_EQ(rest_of(*list), "call urgent cleared plain next-week ");
     list->SetDateScope(monday, monday.plus_days(7));
     EXPECT_EQ(rest_of(*list), "call urgent cleared plain ");
-    list->SetTypeFilter(0);
+    list->SetTypeFilter(act::ActivityType::call);
     EXPECT_EQ(rest_of(*list), "urgent cleared plain ");
-    list->SetPriorityFilter(0);
+    list->SetPriorityFilter(act::Priority::high);
     EXPECT_EQ(rest_of(*list), "cleared plain ");
     list->SetClearedFilter();
     EXPECT_EQ(rest_of(*list), "plain ");
@@ -83,14 +84,14 @@ TEST_F(ActivityTable, KeepsSeveralTypesAndPrioritiesOut) {
         activity.priority = static_cast<store::Priority>(type);
         store.add(activity);
     }
-    list->SetTypeFilter(0);
-    list->SetTypeFilter(2);
+    list->SetTypeFilter(act::ActivityType::call);
+    list->SetTypeFilter(act::ActivityType::to_do);
     EXPECT_EQ(rest_of(*list), "1 ");
     list->ClearTypeFilter();
-    list->SetPriorityFilter(1);
-    list->SetPriorityFilter(2);
+    list->SetPriorityFilter(act::Priority::medium);
+    list->SetPriorityFilter(act::Priority::low);
     EXPECT_EQ(rest_of(*list), "0 ");
-    list->SetPriorityFilter(7); // there is no such priority to keep out
+    list->SetPriorityFilter(static_cast<act::Priority>(7)); // there is no such priority to keep out
     EXPECT_EQ(rest_of(*list), "0 ");
 }
 
@@ -176,19 +177,19 @@ TEST_F(ActivityTable, TellsASeries) {
     store.add(daily("endless", 1));
     store.add(meeting("plain", 2));
     EXPECT_TRUE(list->isRecurring());
-    EXPECT_EQ(list->recurringType(), 4);
+    EXPECT_EQ(list->recurringType(), RecurrenceKind::weekdays_of_month);
     EXPECT_EQ(list->GetRecurringFrequency(), 3);
     EXPECT_EQ(list->GetRecurringUntilDate(), DateTime::of(2025, 6, 30));
     EXPECT_EQ(list->GetDaysOfWeekBits(), 0x42);
     EXPECT_EQ(list->GetWeeksOfMonthBits(), 0x11);
     EXPECT_EQ(list->GetDaysOfMonthBits(), 0x40000001);
     list->MoveNext();
-    EXPECT_EQ(list->recurringType(), 1);
+    EXPECT_EQ(list->recurringType(), RecurrenceKind::daily);
     EXPECT_EQ(list->GetRecurringUntilDate(), DateTime::of(2099, 12, 31));
     EXPECT_EQ(list->GetRecurringFrequency(), 1);
     list->MoveNext();
     EXPECT_FALSE(list->isRecurring());
-    EXPECT_EQ(list->recurringType(), 0);
+    EXPECT_EQ(list->recurringType(), RecurrenceKind::none);
 }
 
 TEST_F(ActivityTable, ReadsTheStoreAfreshOnRebuild) {
@@ -201,4 +202,50 @@ TEST_F(ActivityTable, ReadsTheStoreAfreshOnRebuild) {
     EXPECT_EQ(rest_of(*list), "sunday monday tuesday ");
     list->Goto(changed);
     EXPECT_EQ(list->Data(edited), Value(file.now));
+}
+
+TEST_F(ActivityTable, TellsTheFirstCharacterThatAllIdsHaveInCommon) {
+    EXPECT_EQ(list->FirstCharacterOfIds(), 'A');
+    store.add(meeting("own"));
+    EXPECT_EQ(list->FirstCharacterOfIds(), 'A');
+    store::Activity imported = meeting("imported");
+    imported.id = "00000001A000";
+    store.add(imported);
+    EXPECT_FALSE(list->FirstCharacterOfIds());
+    store.remove_activity(imported.id);
+    EXPECT_EQ(list->FirstCharacterOfIds(), 'A');
+}
+
+TEST_F(ActivityTable, TellsWhichIdsAreGoneSinceAMoment) {
+    const std::string kept = store.add(meeting("kept")), gone = store.add(meeting("gone"));
+    list->Rebuild();
+    const std::int64_t moment = database->Moment();
+    store.remove_activity(gone);
+    using Ids = std::vector<std::string_view>;
+    EXPECT_EQ(list->IdsGoneSince(Ids{kept, gone}, moment), Ids{gone});
+    EXPECT_FALSE(list->IdsGoneSince(Ids{kept, gone}, moment - 10)) << "before the database was opened";
+}
+
+TEST_F(ActivityTable, GivesEachFieldOfTheTableOfFields) {
+    for (const bool is_series : {false, true}) {
+        store::Activity full = support::full_activity();
+        if (is_series) {
+            full.id = "0000000002A ";
+            full.recurrence.kind = RecurrenceKind::daily;
+        } else {
+            store.add(store::User{.id = full.user, .name = "Ann"});
+            store.add(store::Group{.id = full.group, .name = "Board"});
+            for (const std::string& contact : full.contacts)
+                store.add(store::Contact{.id = contact});
+        }
+        file.now = full.edited;
+        store.add(full);
+        ASSERT_TRUE(list->Goto(full.id));
+        for (const auto& field : support::fields_of_full_activity()) {
+            if (field.number != id) {
+                EXPECT_EQ(list->Data(field.number), field.value) << field.number;
+            }
+        }
+        EXPECT_EQ(list->Data(id), Value(full.id));
+    }
 }

@@ -2,6 +2,8 @@
 
 #include "records_fixture.h"
 
+#include <stdexcept>
+
 using records::Cursor;
 using records::ListFilters;
 using records::SharedStore;
@@ -24,6 +26,15 @@ protected:
         for (; !cursor.is_at_end(); cursor.to_next())
             names += cursor.row()->regarding + " ";
         return names;
+    }
+    using Ids = std::vector<std::string>;
+    // Where the session can tell.
+    Ids gone_since(std::int64_t moment, const Ids& of) {
+        const std::vector<std::string_view> ids(of.begin(), of.end());
+        const auto gone = cursor.ids_gone_since(ids, moment);
+        if (!gone)
+            throw std::logic_error("The session can't tell.");
+        return Ids(gone->begin(), gone->end());
     }
     static records::Scope days(int from, int to) {
         return {.from = monday.plus_days(from).seconds(), .to = monday.plus_days(to).seconds()};
@@ -97,13 +108,14 @@ TEST_F(Cursors, KeepOutWhatTheFiltersSay) {
     store.add(cleared);
     store.add(meeting("meeting"));
     for (const auto& scope : {std::optional<records::Scope>(), std::optional(days(0, 7))}) {
-        cursor.set_filters({.scope = scope, .without_types = {0}});
+        cursor.set_filters({.scope = scope, .without_types = {act::ActivityType::call}});
         EXPECT_EQ(rest(), "cleared meeting ");
-        cursor.set_filters({.scope = scope, .without_priorities = {0, 2}});
+        cursor.set_filters({.scope = scope, .without_priorities = {act::Priority::high, act::Priority::low}});
         EXPECT_EQ(rest(), "cleared ");
         cursor.set_filters({.scope = scope, .without_cleared = true});
         EXPECT_EQ(rest(), "call meeting ");
-        cursor.set_filters({.scope = scope, .without_types = {0, 1}});
+        cursor.set_filters(
+            {.scope = scope, .without_types = {act::ActivityType::call, act::ActivityType::meeting}});
         EXPECT_EQ(rest(), "");
     }
 }
@@ -116,7 +128,7 @@ TEST_F(Cursors, GoToARecordOutsideTheFiltersAndOnBehindIt) {
     call.type = store::ActivityType::call;
     const std::string thursday = store.add(call);
     store.add(meeting("friday", 4));
-    cursor.set_filters({.scope = days(2, 5), .without_types = {0}});
+    cursor.set_filters({.scope = days(2, 5), .without_types = {act::ActivityType::call}});
     EXPECT_TRUE(cursor.go_to(tuesday));
     EXPECT_EQ(cursor.row()->regarding, "tuesday");
     cursor.to_next();
@@ -239,7 +251,7 @@ TEST_F(Cursors, SkipToTheSeriesOfSomeDatesInsideTheFilters) {
             names += cursor.row()->regarding + " ";
         return names;
     };
-    cursor.set_filters({.without_types = {0}});
+    cursor.set_filters({.without_types = {act::ActivityType::call}});
     EXPECT_EQ(series(), "first second last ");
     cursor.set_filters({.scope = days(2, 5)});
     EXPECT_EQ(series(), "call second ");
@@ -280,12 +292,12 @@ TEST_F(Cursors, TellWhichIdsTheListHoldsNoLonger) {
     const std::string series = store.add(daily("series", 2));
     session->catch_up();
     const std::int64_t moment = session->moment();
-    EXPECT_EQ(cursor.ids_no_longer_listed("", moment), "");
-    EXPECT_EQ(cursor.ids_no_longer_listed(gone + plain + series, moment), "");
+    EXPECT_EQ(gone_since(moment, {}), Ids{});
+    EXPECT_EQ(gone_since(moment, {gone, plain, series}), Ids{});
     store.remove_activity(gone);
-    EXPECT_EQ(cursor.ids_no_longer_listed(gone + plain + series, moment), gone);
-    EXPECT_EQ(cursor.ids_no_longer_listed(plain + series, moment), "");
-    EXPECT_EQ(cursor.ids_no_longer_listed(gone + plain, session->moment()), "");
+    EXPECT_EQ(gone_since(moment, {gone, plain, series}), Ids{gone});
+    EXPECT_EQ(gone_since(moment, {plain, series}), Ids{});
+    EXPECT_EQ(gone_since(session->moment(), {gone, plain}), Ids{});
 }
 
 TEST_F(Cursors, TellWhichIdsTheFiltersKeepOutSinceAChange) {
@@ -296,25 +308,25 @@ TEST_F(Cursors, TellWhichIdsTheFiltersKeepOutSinceAChange) {
     changed.type = store::ActivityType::call;
     changed.start = monday.plus_days(2).plus_minutes(600);
     store.update(changed);
-    EXPECT_EQ(cursor.ids_no_longer_listed(other + plain, moment), "");
-    cursor.set_filters({.without_types = {0}});
-    EXPECT_EQ(cursor.ids_no_longer_listed(other + plain, moment), plain);
+    EXPECT_EQ(gone_since(moment, {other, plain}), Ids{});
+    cursor.set_filters({.without_types = {act::ActivityType::call}});
+    EXPECT_EQ(gone_since(moment, {other, plain}), Ids{plain});
     cursor.set_filters({.scope = days(0, 2)});
-    EXPECT_EQ(cursor.ids_no_longer_listed(other + plain, moment), plain);
+    EXPECT_EQ(gone_since(moment, {other, plain}), Ids{plain});
     cursor.set_filters({.scope = days(0, 3)});
-    EXPECT_EQ(cursor.ids_no_longer_listed(other + plain, moment), "");
+    EXPECT_EQ(gone_since(moment, {other, plain}), Ids{});
 }
 
-TEST_F(Cursors, DoNotTellItWhereAnIdMayStandAcrossTwoOthers) {
-    const std::string own = store.add(meeting("own"));
+TEST_F(Cursors, TellItOfIdsThatTheStoreDidNotMakeToo) {
+    store::Activity imported = meeting("imported");
+    imported.id = "00000001A00 ";
+    store.add(imported);
     session->catch_up();
     const std::int64_t moment = session->moment();
-    EXPECT_EQ(cursor.ids_no_longer_listed(own, moment), "");
-    EXPECT_FALSE(cursor.ids_no_longer_listed(own + "AA0000000001", moment));
-    EXPECT_FALSE(cursor.ids_no_longer_listed(own + "A", moment));
-    EXPECT_FALSE(cursor.ids_no_longer_listed("AA0000000001000000000002", moment));
-    store::Activity imported = meeting("imported");
-    imported.id = "00000001A000";
-    store.add(imported);
-    EXPECT_FALSE(cursor.ids_no_longer_listed(own, moment));
+    store.remove_activity(imported.id);
+    EXPECT_EQ(gone_since(moment, {"00000001A00 "}), Ids{"00000001A00 "});
+}
+
+TEST_F(Cursors, DoNotTellItOfAMomentBeforeTheyWereOpened) {
+    EXPECT_FALSE(cursor.ids_gone_since({}, session->moment() - 1));
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "adapters/records/records.h"
+#include "adapters/records/desk_database.h"
 #include "core/values/failure.h"
 #include "support/failure_number.h"
 #include "support/temporary_database.h"

@@ -58,20 +58,20 @@ TEST_F(Sessions, TellWhatHasChangedBehindAMoment) {
     const std::string first = store.add(meeting("first"));
     session.catch_up();
     const std::int64_t moment = session.moment();
-    EXPECT_EQ(session.changed_behind(moment), Ids{});
+    EXPECT_EQ(session.changed_since(moment), Ids{});
     store.remove_activity(first);
-    EXPECT_EQ(session.changed_behind(moment), Ids{}) << "before it is taken in";
+    EXPECT_EQ(session.changed_since(moment), Ids{}) << "before it is taken in";
     session.catch_up();
     const std::int64_t later = session.moment();
     const std::string second = store.add(meeting("second"));
     session.catch_up();
-    EXPECT_EQ(session.changed_behind(moment), (Ids{store::Id(first), store::Id(second)}));
-    EXPECT_EQ(session.changed_behind(later), Ids{store::Id(second)});
-    EXPECT_EQ(session.changed_behind(session.moment()), Ids{});
+    EXPECT_EQ(session.changed_since(moment), (Ids{store::Id(first), store::Id(second)}));
+    EXPECT_EQ(session.changed_since(later), Ids{store::Id(second)});
+    EXPECT_EQ(session.changed_since(session.moment()), Ids{});
 }
 
 TEST_F(Sessions, DoNotKnowWhatHasChangedBehindAMomentBeforeTheyWereOpened) {
-    EXPECT_FALSE(session.changed_behind(session.moment() - 1));
+    EXPECT_FALSE(session.changed_since(session.moment() - 1));
 }
 
 TEST_F(Sessions, ForgetWhatHasChangedWhereItWasTooMuch) {
@@ -82,9 +82,9 @@ TEST_F(Sessions, ForgetWhatHasChangedWhereItWasTooMuch) {
                 store.add(meeting("many"));
         });
         session.catch_up();
-        EXPECT_EQ(session.changed_behind(moment).has_value(), portion == 0);
+        EXPECT_EQ(session.changed_since(moment).has_value(), portion == 0);
     }
-    EXPECT_TRUE(session.changed_behind(session.moment()));
+    EXPECT_TRUE(session.changed_since(session.moment()));
 }
 
 TEST_F(Sessions, FailOnceTheyAreClosed) {

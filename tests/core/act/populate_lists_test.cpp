@@ -47,7 +47,7 @@ protected:
 };
 
 TEST_F(PopulateUsers, ListsAllUsersWhenBothTextsAreEmpty) {
-    lists.Populate_cboUsers(list, "", false, "", "");
+    lists.Populate_cboUsers(list, {});
     EXPECT_EQ(texts(), (Texts{"Ann", "Bob", "Cem"}));
     EXPECT_EQ(numbers(), (std::vector<int>{1, 2, 3}));
     EXPECT_EQ(list.ListIndex(), -1);
@@ -55,28 +55,28 @@ TEST_F(PopulateUsers, ListsAllUsersWhenBothTextsAreEmpty) {
 
 TEST_F(PopulateUsers, BeginsWithAnEmptyEntryWhenAsked) {
     list.AddItem("from before");
-    lists.Populate_cboUsers(list, "", true, "", "");
+    lists.Populate_cboUsers(list, {.with_empty_entry = true});
     EXPECT_EQ(texts(), (Texts{"", "Ann", "Bob", "Cem"}));
     EXPECT_EQ(list.ItemData(0), 0);
 }
 
 TEST_F(PopulateUsers, TakesThoseWhoseSecurityHoldsTheText) {
-    lists.Populate_cboUsers(list, "", false, "Stand", "");
+    lists.Populate_cboUsers(list, {.security = "Stand"});
     EXPECT_EQ(texts(), (Texts{"Bob", "Cem"}));
     EXPECT_EQ(numbers(), (std::vector<int>{2, 3}));
 }
 
 TEST_F(PopulateUsers, LetsTheAccessTextOverruleTheSecurityText) {
-    lists.Populate_cboUsers(list, "", false, "Standard", "Enabled");
+    lists.Populate_cboUsers(list, {.security = "Standard", .access = "Enabled"});
     EXPECT_EQ(texts(), (Texts{"Ann", "Bob"}));
 }
 
 TEST_F(PopulateUsers, SelectsTheTopItemOrTheEntryOfThatName) {
-    lists.Populate_cboUsers(list, "vbTopItem", false, "", "");
+    lists.Populate_cboUsers(list, {.select = "vbTopItem"});
     EXPECT_EQ(list.ListIndex(), 0);
-    lists.Populate_cboUsers(list, "Cem", false, "", "");
+    lists.Populate_cboUsers(list, {.select = "Cem"});
     EXPECT_EQ(list.ListIndex(), 2);
-    lists.Populate_cboUsers(list, "Dora", false, "", "");
+    lists.Populate_cboUsers(list, {.select = "Dora"});
     EXPECT_EQ(list.ListIndex(), -1);
 }
 

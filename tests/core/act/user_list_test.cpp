@@ -40,7 +40,7 @@ protected:
 };
 
 TEST_F(UserListTest, ShowsAllUsersWithoutAFilter) {
-    users.Initialize_Users(false);
+    users.Initialize_Users(act::ShownUsers::of_the_filter);
     EXPECT_EQ(shown(), (Texts{"Ann", "Bob", "Cem"}));
     EXPECT_EQ(users.UsersFilter, " ");
     EXPECT_EQ(users.NumUsers, 3);
@@ -48,7 +48,7 @@ TEST_F(UserListTest, ShowsAllUsersWithoutAFilter) {
 
 TEST_F(UserListTest, ShowsTheChosenUsersInTheFiltersOrderWithTheirPositions) {
     have_filter("BOB---------ANN---------");
-    users.Initialize_Users(false);
+    users.Initialize_Users(act::ShownUsers::of_the_filter);
     EXPECT_EQ(shown(), (Texts{"Bob", "Ann"}));
     EXPECT_EQ(users.cboUsers.ItemData(0), 2);
     EXPECT_EQ(users.cboUsers.ItemData(1), 1);
@@ -58,7 +58,7 @@ TEST_F(UserListTest, ShowsTheChosenUsersInTheFiltersOrderWithTheirPositions) {
 
 TEST_F(UserListTest, RestoresTheBlankThatAFileTakesFromTheLastId) {
     have_filter("ANN---------CEM-------- ");
-    users.Initialize_Users(false);
+    users.Initialize_Users(act::ShownUsers::of_the_filter);
     EXPECT_EQ(users.UsersFilter, "ANN---------CEM-------- ");
     EXPECT_EQ(shown(), (Texts{"Ann", "Cem"}));
     EXPECT_EQ(users.NumUsers, 2);
@@ -66,14 +66,14 @@ TEST_F(UserListTest, RestoresTheBlankThatAFileTakesFromTheLastId) {
 
 TEST_F(UserListTest, ShowsOnlyTheOthersWhenAChosenUserHasLeft) {
     have_filter("GONE--------BOB---------");
-    users.Initialize_Users(false);
+    users.Initialize_Users(act::ShownUsers::of_the_filter);
     EXPECT_EQ(shown(), (Texts{"Bob"}));
     EXPECT_EQ(users.NumUsers, 2);
 }
 
 TEST_F(UserListTest, ShowsAllUsersWhenNoChosenOneIsLeft) {
     have_filter("GONE--------AWAY--------");
-    users.Initialize_Users(false);
+    users.Initialize_Users(act::ShownUsers::of_the_filter);
     EXPECT_EQ(shown(), (Texts{"Ann", "Bob", "Cem"}));
     EXPECT_EQ(users.UsersFilter, " ");
     EXPECT_EQ(users.NumUsers, 3);
@@ -82,21 +82,21 @@ TEST_F(UserListTest, ShowsAllUsersWhenNoChosenOneIsLeft) {
 TEST_F(UserListTest, IsNeverEmptyAsLongAsThereIsOneUser) {
     data.users.resize(1);
     have_filter("GONE--------");
-    users.Initialize_Users(false);
+    users.Initialize_Users(act::ShownUsers::of_the_filter);
     EXPECT_EQ(shown(), Texts{"Ann"});
     EXPECT_EQ(users.NumUsers, 1);
 }
 
 TEST_F(UserListTest, IgnoresTheFilterWhenAllUsersAreAskedFor) {
     have_filter("BOB---------");
-    users.Initialize_Users(true);
+    users.Initialize_Users(act::ShownUsers::all);
     EXPECT_EQ(shown(), (Texts{"Ann", "Bob", "Cem"}));
 }
 
 TEST_F(UserListTest, StaysEmptyInADatabaseWithoutUsers) {
     data.users.clear();
     have_filter("BOB---------");
-    users.Initialize_Users(false);
+    users.Initialize_Users(act::ShownUsers::of_the_filter);
     EXPECT_EQ(shown(), (Texts{}));
     EXPECT_EQ(users.NumUsers, 0);
     EXPECT_TRUE(box.shown.empty());
@@ -104,17 +104,17 @@ TEST_F(UserListTest, StaysEmptyInADatabaseWithoutUsers) {
 
 TEST_F(UserListTest, RoundsARestOfHalfAnIdToTheEvenNumber) {
     have_filter("BOB---------ANN--"); // 17 characters and the blank: one and a half
-    users.Initialize_Users(false);
+    users.Initialize_Users(act::ShownUsers::of_the_filter);
     EXPECT_EQ(users.NumUsers, 2);
     EXPECT_EQ(shown(), (Texts{"Bob"}));
     have_filter("BOB---------ANN---------CEM--"); // two and a half
-    users.Initialize_Users(false);
+    users.Initialize_Users(act::ShownUsers::of_the_filter);
     EXPECT_EQ(users.NumUsers, 2);
 }
 
 TEST_F(UserListTest, MapsEveryUserBothWaysWhateverTheFilter) {
     have_filter("BOB---------");
-    users.Initialize_Users(false);
+    users.Initialize_Users(act::ShownUsers::of_the_filter);
     users.map_users();
     EXPECT_EQ(users.UserIdToName.at("CEM-------- "), "Cem");
     EXPECT_EQ(users.UserNameToId.at("Ann"), "ANN---------");

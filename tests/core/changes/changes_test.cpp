@@ -1,4 +1,4 @@
-#include "adapters/records/records.h"
+#include "adapters/records/desk_database.h"
 #include "core/changes/addition.h"
 #include "core/changes/occurrence.h"
 #include "core/changes/rewriting.h"

@@ -1,11 +1,16 @@
 #include "core/engine/displayed_ids.h"
 
 #include <gtest/gtest.h>
+
 #include <random>
+#include <string>
+#include <string_view>
+#include <vector>
 
 namespace {
 
 using engine::DisplayedIds;
+using Ids = std::vector<std::string_view>;
 
 TEST(DisplayedIds, IsAPlainTextOfIdsInTheOrderOfTheirComing) {
     DisplayedIds ids;
@@ -53,6 +58,27 @@ TEST(DisplayedIds, FindsWhatARemovalBringsTogether) {
     ids.append("333333444444");
     ids.remove("XXXXXXXXXXXX");
     EXPECT_TRUE(ids.contains("222222333333"));
+}
+
+TEST(DisplayedIds, GivesItsIdsOneByOneWhereNoneCanStandAcrossTwoOthers) {
+    DisplayedIds ids;
+    EXPECT_EQ(ids.one_by_one('A'), Ids{});
+    ids.append("A00000000002");
+    ids.append("A0000000001 ");
+    EXPECT_EQ(ids.one_by_one('A'), (Ids{"A00000000002", "A0000000001 "}));
+}
+
+TEST(DisplayedIds, DoesNotGiveThemWhereOneMayStandAcrossTwoOthers) {
+    for (const std::string second : {"AA0000000001", "A", "000000000001", "0A0000000001"}) {
+        DisplayedIds ids;
+        ids.append("A00000000002");
+        ids.append(second);
+        EXPECT_FALSE(ids.one_by_one('A')) << second;
+    }
+    DisplayedIds balanced;
+    balanced.append("AA0000000001");
+    balanced.append("000000000002");
+    EXPECT_FALSE(balanced.one_by_one('A'));
 }
 
 TEST(DisplayedIds, IsEmptyAfterClear) {

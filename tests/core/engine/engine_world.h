@@ -37,7 +37,7 @@ public:
     }
     FakeActivityRecord& add_daily(const std::string& name, DateTime start) {
         FakeActivityRecord& record = add(name, start);
-        record.recurring_type = 1;
+        record.recurring_type = act::RecurrenceKind::daily;
         return record;
     }
 

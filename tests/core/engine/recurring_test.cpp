@@ -45,20 +45,20 @@ TEST_F(RecurringTest, MarksOccurrencesAsRecurringAndGivesThemTheLengthOfTheSerie
 TEST_F(RecurringTest, ExpandsEachKind) {
     world_.add_daily("Daily", DateTime::of(2024, 1, 12, 8, 0));
     FakeActivityRecord& weekly = world_.add("Weekly", DateTime::of(2023, 12, 4, 9, 0));
-    weekly.recurring_type = 2;
+    weekly.recurring_type = act::RecurrenceKind::weekly;
     weekly.days_of_week = 1 << 1 | 1 << 3;
     FakeActivityRecord& custom = world_.add("Custom", DateTime::of(2023, 12, 1, 10, 0));
-    custom.recurring_type = 3;
+    custom.recurring_type = act::RecurrenceKind::days_of_month;
     custom.days_of_month = 1 << 7;
     FakeActivityRecord& monthly = world_.add("Monthly", DateTime::of(2024, 1, 1, 11, 0));
-    monthly.recurring_type = 4;
+    monthly.recurring_type = act::RecurrenceKind::weekdays_of_month;
     monthly.days_of_week = 1 << 2;
     monthly.weeks_of_month = 1 << 1;
     EXPECT_EQ(treat(), (Texts{"0/7 Daily", "0/8 Daily", "1/3 Weekly", "1/5 Weekly", "2/3 Custom", "3/4 Monthly"}));
 }
 
 TEST_F(RecurringTest, SkipsAnyOtherKind) {
-    world_.add("Five", DateTime::of(2024, 1, 10, 9, 0)).recurring_type = 5;
+    world_.add("Five", DateTime::of(2024, 1, 10, 9, 0)).recurring_type = static_cast<act::RecurrenceKind>(5);
     EXPECT_EQ(treat(), Texts{});
     EXPECT_TRUE(world_.box.shown.empty());
 }
@@ -79,7 +79,7 @@ TEST_F(RecurringTest, ClearsTheDateScopeAndLeavesTheListAtItsEnd) {
 
 TEST_F(RecurringTest, LeavesTheOtherFiltersInForce) {
     world_.add_daily("Call", DateTime::of(2024, 1, 10, 9, 0)).frequency = 30;
-    world_.session.ActActivity->SetTypeFilter(0);
+    world_.session.ActActivity->SetTypeFilter(act::ActivityType::call);
     EXPECT_EQ(treat(), Texts{});
 }
 
@@ -130,7 +130,7 @@ TEST_F(RecurringTest, ADateInExceptionInfoGivesNoOccurrenceWhateverItsTime) {
 
 TEST_F(RecurringTest, AMissingFifthWeekShowsTheBoxKeepsWhatWasPlacedAndGoesOnWithTheNextSeries) {
     FakeActivityRecord& monthly = world_.add("Fifth", DateTime::of(2024, 1, 8, 9, 0));
-    monthly.recurring_type = 4;
+    monthly.recurring_type = act::RecurrenceKind::weekdays_of_month;
     monthly.days_of_week = 1 << 4 | 1 << 5; // January 2024 has no fifth Thursday and no fifth Friday
     monthly.weeks_of_month = 1 << 1 | 1 << 3 | 1 << 4;
     world_.add_daily("Next", DateTime::of(2024, 1, 12, 10, 0)).frequency = 30;

@@ -113,7 +113,7 @@ TEST_F(RefreshActivityTest, TestsTheUser) {
 
 TEST_F(RefreshActivityTest, ExpandsASeriesWithoutLookingAtTypePriorityAndCleared) {
     FakeActivityRecord& daily = add("Daily", day(11));
-    daily.recurring_type = 1;
+    daily.recurring_type = act::RecurrenceKind::daily;
     daily.fields[field::cleared] = std::string("1");
     world_.set("Filter", "Type0", "0");
     world_.set("Filter", "Priority2", "0");
@@ -121,7 +121,7 @@ TEST_F(RefreshActivityTest, ExpandsASeriesWithoutLookingAtTypePriorityAndCleared
 }
 
 TEST_F(RefreshActivityTest, ExpandsASeriesAlsoWhereTheFullRefreshWouldNot) {
-    add("Daily", day(13)).recurring_type = 1;
+    add("Daily", day(13)).recurring_type = act::RecurrenceKind::daily;
     EXPECT_EQ(reread("Daily"), Texts{"1/8 Daily"});
     world_.engine.refresh.CheckRecurring = false;
     EXPECT_EQ(reread("Daily"), Texts{"1/8 Daily"});
@@ -134,7 +134,7 @@ TEST_F(RefreshActivityTest, ExpandsASeriesAlsoWhereTheFullRefreshWouldNot) {
 
 TEST_F(RefreshActivityTest, SkipsASeriesBehindTheViewBeforeItOrOfOtherUsers) {
     FakeActivityRecord& daily = add("Daily", day(14));
-    daily.recurring_type = 1;
+    daily.recurring_type = act::RecurrenceKind::daily;
     EXPECT_EQ(reread("Daily"), Texts{});
     move("Daily", day(10));
     daily.until = day(6);
@@ -229,7 +229,7 @@ TEST_F(OtherOperationsTest, AddOtherIDsOfAnActivityWithoutContactsAddsNothing) {
 }
 
 TEST_F(OtherOperationsTest, EraseSlotEmptiesTheFirstCellOfTheActivityAndForgetsItsId) {
-    add("Daily", day(10)).recurring_type = 1;
+    add("Daily", day(10)).recurring_type = act::RecurrenceKind::daily;
     add("Other", day(11, 10));
     fill();
     quick_refresh().Erase_Slot(id("Daily"));

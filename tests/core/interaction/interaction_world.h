@@ -1,6 +1,6 @@
 #pragma once
 
-#include "adapters/records/records.h"
+#include "adapters/records/desk_database.h"
 #include "core/engine/engine_world.h"
 #include "core/interaction/interaction.h"
 #include "core/values/text.h"
@@ -45,7 +45,7 @@ public:
         session.ActGroup = session.ActDatabase->Group();
         session.ActApp = static_cast<act::Application&>(running_desk);
         session.ActContactView = static_cast<act::ContactView&>(running_desk);
-        users.Initialize_Users(false);
+        users.Initialize_Users(act::ShownUsers::of_the_filter);
         users.map_users();
         grid::Layout& layout = calendar.layout;
         layout.NumDays(days);

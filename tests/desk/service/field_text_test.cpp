@@ -1,6 +1,7 @@
 #include "desk/service/field_text.h"
 
 #include "core/act/activity.h"
+#include "support/activity_fields.h"
 
 namespace {
 
@@ -29,6 +30,22 @@ store::Activity sample() {
 }
 
 std::string text(int field) { return field_text(sample(), field, values::english_us()); }
+
+TEST(FieldText, GivesEachFieldOfTheTableOfFields) {
+    for (const bool is_series : {false, true}) {
+        store::Activity full = support::full_activity();
+        if (is_series)
+            full.recurrence.kind = store::RecurrenceKind::daily;
+        for (const auto& field : support::fields_of_full_activity())
+            EXPECT_EQ(field_text(full, field.number, values::english_us()), field.text) << field.number;
+    }
+}
+
+TEST(FieldText, GivesTheDurationAsTheLengthOfAnOccurrenceWithoutAStart) {
+    auto activity = sample();
+    activity.start.reset();
+    EXPECT_EQ(field_text(activity, number::occurrence_length, values::english_us()), "90");
+}
 
 TEST(FieldText, GivesTheIdWithItsTrailingBlank) { EXPECT_EQ(text(number::id), "ABCDEFGHIJK "); }
 

@@ -1,4 +1,4 @@
-#include "adapters/records/records.h"
+#include "adapters/records/desk_database.h"
 
 #include "adapters/records/activity_table.h"
 #include "adapters/records/shared_store.h"

@@ -1,4 +1,4 @@
-#include "adapters/records/records.h"
+#include "adapters/records/desk_database.h"
 
 #include "records_fixture.h"
 #include "support/locales.h"

@@ -1,4 +1,5 @@
 #include "desk/store/expect_failure.h"
+#include "support/conflict_of.h"
 #include "support/temporary_database.h"
 
 #include <gtest/gtest.h>
@@ -10,9 +11,11 @@ using store::Contact;
 using store::Priority;
 using store::RecurrenceKind;
 using store::User;
+using support::conflict_of;
 using support::store_failure;
 using support::TemporaryDatabase;
 using values::DateTime;
+using Cause = act::EditConflict::Cause;
 
 namespace {
 
@@ -252,6 +255,7 @@ TEST_F(Activities, RefuseAChangeThatSomebodyElseForestalled) {
     other->update(theirs);
     mine.regarding = "Mine";
     EXPECT_NE(store_failure([&] { store.update(mine); }).find("changed by somebody else"), std::string::npos);
+    EXPECT_EQ(conflict_of([&] { store.update(mine); }), Cause::changed);
     EXPECT_EQ(store.activity(mine.id)->regarding, "Theirs");
 }
 
@@ -259,6 +263,7 @@ TEST_F(Activities, RefuseAChangeOfOneThatSomebodyElseDeleted) {
     const Activity mine = *store.activity(store.add(at(monday)));
     database.open_again()->remove_activity(mine.id);
     EXPECT_NE(store_failure([&] { store.update(mine); }).find("deleted by somebody else"), std::string::npos);
+    EXPECT_EQ(conflict_of([&] { store.update(mine); }), Cause::deleted);
     EXPECT_FALSE(store.activity(mine.id));
 }
 

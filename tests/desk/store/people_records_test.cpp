@@ -1,13 +1,16 @@
 #include "desk/store/contact_fields.h"
 #include "desk/store/expect_failure.h"
+#include "support/conflict_of.h"
 #include "support/temporary_database.h"
 
 #include <gtest/gtest.h>
 
 using store::Contact;
 using store::Group;
+using support::conflict_of;
 using support::store_failure;
 using support::TemporaryDatabase;
+using Cause = act::EditConflict::Cause;
 namespace contact_field = store::contact_field;
 
 namespace {
@@ -88,6 +91,7 @@ TEST(Contacts, RefuseAChangeThatSomebodyElseForestalled) {
     mine.fields[contact_field::city] = "Rome";
     EXPECT_NE(store_failure([&] { database.store().update(mine); }).find("changed by somebody else"),
               std::string::npos);
+    EXPECT_EQ(conflict_of([&] { database.store().update(mine); }), Cause::changed);
     EXPECT_EQ(database.store().contact(mine.id)->fields[contact_field::city], "Bern");
 }
 
@@ -132,4 +136,5 @@ TEST(Groups, RefuseAChangeOfOneThatIsGone) {
     TemporaryDatabase database;
     const Group gone{.id = "G99999999999", .name = "Gone"};
     EXPECT_NE(store_failure([&] { database.store().update(gone); }).find("deleted"), std::string::npos);
+    EXPECT_EQ(conflict_of([&] { database.store().update(gone); }), Cause::deleted);
 }

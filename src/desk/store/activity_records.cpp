@@ -1,8 +1,9 @@
-#include "core/values/failure.h"
+#include "desk/store/activity_records.h"
+
 #include "core/values/ids.h"
 #include "desk/store/activity_columns.h"
+#include "desk/store/conflict.h"
 #include "desk/store/sql.h"
-#include "desk/store/sqlite_store.h"
 
 #include <algorithm>
 
@@ -32,7 +33,7 @@ Activity in_order(const Activity& given) {
     return activity;
 }
 
-// All columns behind the id, of which the revision and the edit date are the store's.
+// All columns after the id, of which the revision and the edit date are the store's.
 void bind_record(Rows& statement, const Activity& activity, std::int64_t revision, DateTime edited) {
     const auto seconds = [](const std::optional<DateTime>& date) {
         return date ? std::optional(date->seconds()) : std::nullopt;
@@ -78,8 +79,8 @@ Activity activity_of(const Rows& rows) {
 
 } // namespace
 
-std::vector<Activity> SqliteStore::activities(const ActivityQuery& query) {
-    Rows rows = connection_->query(sql::activities(query));
+std::vector<Activity> ActivityRecords::activities(const ActivityQuery& query) {
+    Rows rows = connection_.query(sql::activities(query));
     if (query.from)
         rows.bind_all(query.from->seconds());
     if (query.to)
@@ -96,8 +97,8 @@ std::vector<Activity> SqliteStore::activities(const ActivityQuery& query) {
     return result;
 }
 
-std::optional<Activity> SqliteStore::activity(const std::string& id) {
-    Rows rows = connection_->query(sql::activity(), values::whole_id(id));
+std::optional<Activity> ActivityRecords::activity(const std::string& id) {
+    Rows rows = connection_.query(sql::activity(), values::whole_id(id));
     if (!rows.step())
         return std::nullopt;
     Activity activity = activity_of(rows);
@@ -105,88 +106,90 @@ std::optional<Activity> SqliteStore::activity(const std::string& id) {
     return activity;
 }
 
-void SqliteStore::read_lists(Activity& activity, int contact_count) {
+void ActivityRecords::read_lists(Activity& activity, int contact_count) {
     if (contact_count > 1) {
-        Rows contacts = connection_->query(sql::further_contacts, activity.id);
+        Rows contacts = connection_.query(sql::further_contacts, activity.id);
         while (contacts.step())
             activity.contacts.push_back(contacts.text(0));
     }
     if (activity.recurrence.kind != RecurrenceKind::none) {
-        Rows exceptions = connection_->query(sql::exceptions, activity.id);
+        Rows exceptions = connection_.query(sql::exceptions, activity.id);
         while (exceptions.step())
             activity.exceptions.push_back(DateTime::from_seconds(exceptions.number(0)));
     }
 }
 
-void SqliteStore::write_lists(const Activity& activity) {
+void ActivityRecords::write_lists(const Activity& activity) {
     for (std::size_t i = 1; i < activity.contacts.size(); ++i)
-        connection_->run(sql::add_further_contact, activity.id, i, values::whole_id(activity.contacts[i]));
+        connection_.run(sql::add_further_contact, activity.id, i, values::whole_id(activity.contacts[i]));
     for (const DateTime date : activity.exceptions)
-        connection_->run(sql::add_exception, activity.id, date.seconds());
+        connection_.run(sql::add_exception, activity.id, date.seconds());
 }
 
-std::string SqliteStore::add(const Activity& given) {
+std::string ActivityRecords::add(const Activity& given) {
     Activity activity = in_order(given);
-    together([&] {
-        activity.id = id_for(given.id, "activities", first_of_own_ids);
-        Rows statement = connection_->query(sql::add_activity(), activity.id);
-        bind_record(statement, activity, next_revision(), clock_());
+    transactions_.together([&] {
+        activity.id = transactions_.id_for(given.id, "activities", first_of_own_ids);
+        Rows statement = connection_.query(sql::add_activity(), activity.id);
+        bind_record(statement, activity, transactions_.next_revision(), clock_());
         statement.step();
         write_lists(activity);
         if (!given.id.empty())
-            connection_->run(sql::forget_removal, activity.id);
+            connection_.run(sql::forget_removal, activity.id);
     });
     return activity.id;
 }
 
-std::int64_t SqliteStore::update(const Activity& given) {
+std::int64_t ActivityRecords::update(const Activity& given) {
     Activity activity = in_order(given);
     activity.id = values::whole_id(given.id);
     std::int64_t revision = 0;
-    together([&] {
-        revision = next_revision();
-        Rows statement = connection_->query(sql::update_activity());
+    transactions_.together([&] {
+        revision = transactions_.next_revision();
+        Rows statement = connection_.query(sql::update_activity());
         bind_record(statement, activity, revision, clock_());
         statement.bind_all(activity.id, activity.revision);
         statement.step();
-        if (connection_->changed_rows() == 0)
-            fail_as_changed("activity", connection_->query(sql::activity_exists, activity.id).step());
-        connection_->run(sql::clear_further_contacts, activity.id);
-        connection_->run(sql::clear_exceptions, activity.id);
+        if (connection_.changed_rows() == 0)
+            fail_with_conflict("activity", connection_.query(sql::activity_exists, activity.id).step()
+                                               ? EditConflict::Cause::changed
+                                               : EditConflict::Cause::deleted);
+        connection_.run(sql::clear_further_contacts, activity.id);
+        connection_.run(sql::clear_exceptions, activity.id);
         write_lists(activity);
     });
     return revision;
 }
 
-void SqliteStore::remove_activity(const std::string& given) {
+void ActivityRecords::remove(const std::string& given) {
     const std::string id = values::whole_id(given);
-    together([&] {
-        connection_->run(sql::remove_activity, id);
-        if (connection_->changed_rows() > 0)
-            connection_->run(sql::log_removal, id, next_revision());
+    transactions_.together([&] {
+        connection_.run(sql::remove_activity, id);
+        if (connection_.changed_rows() > 0)
+            connection_.run(sql::log_removal, id, transactions_.next_revision());
     });
 }
 
-void SqliteStore::touch(const std::string& activity) {
-    connection_->run(sql::touch_activity, next_revision(), clock_().seconds(), activity);
+void ActivityRecords::touch(const std::string& activity) {
+    connection_.run(sql::touch_activity, transactions_.next_revision(), clock_().seconds(), activity);
 }
 
-void SqliteStore::add_exception(const std::string& activity, DateTime date) {
+void ActivityRecords::add_exception(const std::string& activity, DateTime date) {
     const std::string id = values::whole_id(activity);
-    together([&] {
-        if (!connection_->query(sql::activity_exists, id).step())
-            fail_as_changed("activity", false);
-        connection_->run(sql::add_exception, id, date.date().seconds());
-        if (connection_->changed_rows() > 0)
+    transactions_.together([&] {
+        if (!connection_.query(sql::activity_exists, id).step())
+            fail_with_conflict("activity", EditConflict::Cause::deleted);
+        connection_.run(sql::add_exception, id, date.date().seconds());
+        if (connection_.changed_rows() > 0)
             touch(id);
     });
 }
 
-void SqliteStore::remove_exception(const std::string& activity, DateTime date) {
+void ActivityRecords::remove_exception(const std::string& activity, DateTime date) {
     const std::string id = values::whole_id(activity);
-    together([&] {
-        connection_->run(sql::remove_exception, id, date.date().seconds());
-        if (connection_->changed_rows() > 0)
+    transactions_.together([&] {
+        connection_.run(sql::remove_exception, id, date.date().seconds());
+        if (connection_.changed_rows() > 0)
             touch(id);
     });
 }

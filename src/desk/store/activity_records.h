@@ -1,0 +1,38 @@
+#pragma once
+
+#include "desk/store/store.h"
+#include "desk/store/transactions.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace store {
+
+// The store's activities, as Store tells of them.
+class ActivityRecords {
+public:
+    // The clock lives as long as the records.
+    ActivityRecords(Connection& connection, Transactions& transactions, const Clock& clock)
+        : connection_(connection), transactions_(transactions), clock_(clock) {}
+
+    std::vector<Activity> activities(const ActivityQuery& query);
+    std::optional<Activity> activity(const std::string& id);
+    std::string add(const Activity& activity);
+    std::int64_t update(const Activity& activity);
+    void remove(const std::string& id);
+    void add_exception(const std::string& activity, DateTime date);
+    void remove_exception(const std::string& activity, DateTime date);
+
+private:
+    void read_lists(Activity& activity, int contact_count);
+    void write_lists(const Activity& activity);
+    void touch(const std::string& activity);
+
+    Connection& connection_;
+    Transactions& transactions_;
+    const Clock& clock_;
+};
+
+} // namespace store

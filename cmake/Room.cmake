@@ -25,6 +25,8 @@ function(orvanta_room)
     if(ROOM_PRECOMPILE)
         target_precompile_headers(${name} PRIVATE ${ROOM_PRECOMPILE})
     endif()
+    string(REPLACE ";" "," uses "${ROOM_USES}")
+    set_property(GLOBAL APPEND PROPERTY ORVANTA_ROOMS "${path}:${uses}")
     orvanta_check_includes(${name} ${path} FILES ${ROOM_SOURCES} ${ROOM_HEADERS} USES ${ROOM_USES} FOREIGN ${ROOM_FOREIGN})
 endfunction()
 

@@ -69,7 +69,7 @@ public:
     bool is_shown_where_it_was_moved(bench::CalendarWorld& world) const {
         const grid::Layout& layout = world.calendar.layout;
         for (int slot = 0; slot < layout.SlotsCount(); ++slot) {
-            const grid::clsMsgSchedSlot& one = layout.Slots(slot, layout.GetDayCol(start_));
+            const grid::clsMsgSchedSlot& one = layout.Slots(grid::SlotNumber(slot), layout.GetDayCol(start_));
             for (int index = 0; index < one.record_count(); ++index)
                 if (one.record(index).InUse && one.record(index).ActivityID == id_ &&
                     one.Time() <= start_.time() && start_.time() < one.Time().plus_minutes(60))

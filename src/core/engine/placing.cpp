@@ -50,14 +50,14 @@ void Placing::Treat_Activity(DateTime date, int duration, Kind kind) {
             last_ = std::move(fresh);
         }
         step = 80;
-        const std::optional<int> slot = slots_.slot_of(date);
+        const std::optional<grid::SlotNumber> slot = slots_.slot_of(date);
         if (!slot)
             return;
         step = 90;
         if (last_.colour.empty())
             last_.colour = colour_of(last_.own_colour, last_.user);
         step = 100;
-        const int further_slots = GetSlotSpan(*slot + 1, date.plus_minutes(duration));
+        const int further_slots = GetSlotSpan(slot->next(), date.plus_minutes(duration));
         step = 110;
         if (!DisplayedIDs.contains(last_.id))
             DisplayedIDs.append(last_.id);

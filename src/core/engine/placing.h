@@ -42,7 +42,9 @@ public:
     void Treat_Activity(DateTime date, int duration, Kind kind);
     // How many slots, counted from the given one, an occurrence covers that ends at that time; the date doesn't
     // count. Has no failure handler.
-    int GetSlotSpan(int first_slot, DateTime end_time) const { return slots_.span(first_slot, end_time); }
+    int GetSlotSpan(grid::SlotNumber first_slot, DateTime end_time) const {
+        return slots_.span(first_slot, end_time);
+    }
 
 private:
     // What an activity's occurrences have in common, as its slots get it.

@@ -25,14 +25,14 @@ const T& result_of(const std::variant<T, values::Failure>& read) {
 
 void SlotTable::read(const grid::SlotTimes& times, int count) {
     slots_.clear();
-    for (int slot = 0; slot < count; ++slot)
+    for (grid::SlotNumber slot; slot.value < count; ++slot)
         slots_.push_back({.start = outcome([&] { return times.start(slot); }),
                           .duration = outcome([&] { return times.duration(slot); })});
 }
 
 values::DateTime SlotTable::start(std::size_t slot) const { return result_of(slots_[slot].start); }
 
-std::optional<int> SlotTable::slot_of(values::DateTime time) const {
+std::optional<grid::SlotNumber> SlotTable::slot_of(values::DateTime time) const {
     const values::DateTime minute = time.time_to_the_minute();
     for (std::size_t slot = 0; slot < slots_.size(); ++slot) {
         if (minute < start(slot))
@@ -40,15 +40,15 @@ std::optional<int> SlotTable::slot_of(values::DateTime time) const {
         if (slot + 1 < slots_.size() && minute >= start(slot + 1))
             continue;
         if (minute < start(slot).plus_minutes(result_of(slots_[slot].duration) - 1))
-            return static_cast<int>(slot);
+            return grid::SlotNumber(static_cast<int>(slot));
     }
     return std::nullopt;
 }
 
-int SlotTable::span(int first, values::DateTime end_time) const {
+int SlotTable::span(grid::SlotNumber first, values::DateTime end_time) const {
     const values::DateTime minute = end_time.time_to_the_minute();
     int count = 0;
-    for (auto slot = static_cast<std::size_t>(first); slot < slots_.size() && minute > start(slot); ++slot)
+    for (auto slot = static_cast<std::size_t>(first.value); slot < slots_.size() && minute > start(slot); ++slot)
         ++count;
     return count;
 }

@@ -18,10 +18,10 @@ public:
 
     // The slot in which an activity of that time of day begins; none for one before the first slot, in a gap, in
     // the last minute of a slot, or behind the last slot's length.
-    std::optional<int> slot_of(values::DateTime time) const;
+    std::optional<grid::SlotNumber> slot_of(values::DateTime time) const;
     // How many slots from `first` on an activity covers that ends at that time of day. An end at the start of a
     // slot doesn't cover it.
-    int span(int first, values::DateTime end_time) const;
+    int span(grid::SlotNumber first, values::DateTime end_time) const;
 
 private:
     template <typename T>

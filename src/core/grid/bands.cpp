@@ -21,7 +21,7 @@ void Bands::Color_BackGround() {
 }
 
 Bands::Band Bands::band_of(int row) const {
-    const bool even = layout_.slot_of_row(row) % 2 == 0;
+    const bool even = layout_.slot_of_row(row).is_even();
     return {values::to_int32(even ? layout_.Color0() : layout_.Color1()), even ? even_selector : odd_selector};
 }
 
@@ -34,7 +34,7 @@ table::Colour Bands::GetBackGroundColor(int row) const {
     return here_.guarded("in modColorOffSlot: Function GetBackGroundColor - Line # ",
                          [&](host::Step& step) -> table::Colour {
                              step = 10;
-                             const bool even = DayGrid(0, users_.NumUsers).slot_of(row) % 2 == 0;
+                             const bool even = DayGrid(0, users_.NumUsers).slot_of(row).is_even();
                              step = 20;
                              return values::to_int32(even ? layout_.Color0() : layout_.Color1());
                          });

@@ -22,7 +22,7 @@ void clsMsgSchedCell::Initialize(int row, int col, std::string_view text, std::s
     initialized_ = true;
 }
 
-int clsMsgSchedCell::Slot() const { return lines_.slot_of(row_); }
+SlotNumber clsMsgSchedCell::Slot() const { return lines_.slot_of(row_); }
 
 values::DateTime clsMsgSchedCell::Time() const { return layout_->slot_times().start(Slot()); }
 

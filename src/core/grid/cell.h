@@ -30,7 +30,7 @@ public:
     int Col() const { return col_; }
     // Where the cell stands: its slot's number, and the slot's start and length as the settings now say.
     // Fails with 6 in a cell that is not initialised.
-    int Slot() const;
+    SlotNumber Slot() const;
     values::DateTime Time() const;
     values::DateTime DateTime() const { return Time(); }
     std::string Duration() const;                             // minutes, as text

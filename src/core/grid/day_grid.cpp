@@ -4,10 +4,10 @@
 
 namespace grid {
 
-int DayGrid::slot_of(int row) const {
+SlotNumber DayGrid::slot_of(int row) const {
     if (cells_per_slot_ == 0)
         throw values::Failure(values::FailureNumber::overflow);
-    return (row - first_row) / cells_per_slot_;
+    return SlotNumber((row - first_row) / cells_per_slot_);
 }
 
 } // namespace grid

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/grid/slot_number.h"
+
 namespace grid {
 
 // How days, slots and the places within a slot lie in a grid's columns and rows: below one row and right of some
@@ -15,9 +17,9 @@ public:
     int fixed_cols() const { return fixed_cols_; }
     int cells_per_slot() const { return cells_per_slot_; }
 
-    int row_of(int slot, int place = 0) const { return first_row + slot * cells_per_slot_ + place; }
-    int last_row_of(int slot) const { return row_of(slot, cells_per_slot_ - 1); }
-    int slot_of(int row) const; // fails with 6 when slots have no rows
+    int row_of(SlotNumber slot, int place = 0) const { return first_row + slot.value * cells_per_slot_ + place; }
+    int last_row_of(SlotNumber slot) const { return row_of(slot, cells_per_slot_ - 1); }
+    SlotNumber slot_of(int row) const; // fails with 6 when slots have no rows
     int place_of(int row) const { return row - row_of(slot_of(row)); }
     // The row of the same place so many slots further on.
     int row_below(int row, int further) const { return row + further * cells_per_slot_; }

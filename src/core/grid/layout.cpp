@@ -147,11 +147,11 @@ int Layout::GetDayCol(DateTime date) const {
 }
 
 void Layout::forget_row_times() {
-    RowTimes_.assign(static_cast<std::size_t>(lines_.row_of(SlotsCount_)), {});
+    RowTimes_.assign(static_cast<std::size_t>(lines_.row_of(SlotNumber(SlotsCount_))), {});
     FirstPMRow_ = 0;
 }
 
-void Layout::note_slot_start(int slot, DateTime start, DateTime afternoon) {
+void Layout::note_slot_start(SlotNumber slot, DateTime start, DateTime afternoon) {
     if (FirstPMRow_ == 0 && start >= afternoon)
         FirstPMRow_ = lines_.row_of(slot);
     for (int row = lines_.row_of(slot); row <= lines_.last_row_of(slot); ++row)

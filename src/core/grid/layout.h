@@ -102,13 +102,13 @@ public:
     int CellsPerSlot() const { return lines_.cells_per_slot(); }
     const DayGrid& lines() const { return lines_; }
     int last_row() const { return grid_.Rows() - 1; }
-    int slot_of_row(int row) const { return lines_.slot_of(row); } // fails with 6 when slots have no rows
-    int first_row_of(int slot) const { return lines_.row_of(slot); }
+    SlotNumber slot_of_row(int row) const { return lines_.slot_of(row); } // fails with 6 when slots have no rows
+    int first_row_of(SlotNumber slot) const { return lines_.row_of(slot); }
     // By grid row, the start of its slot as text, as the row titles were last written.
     const std::vector<std::string>& RowTimes() const { return RowTimes_; }
     int FirstPMRow() const { return FirstPMRow_; } // the first row of the afternoon; 0 if there is none
     void forget_row_times();
-    void note_slot_start(int slot, values::DateTime start, values::DateTime afternoon);
+    void note_slot_start(SlotNumber slot, values::DateTime start, values::DateTime afternoon);
 
     // A record that belongs to no cell yet.
     CellReference free_standing_cell() const { return CellReference(std::make_shared<clsMsgSchedCell>(*this)); }

@@ -19,7 +19,7 @@ void Rendering::Display_Changes(const std::string& id) {
         step = 30;
         Drawing drawing{grid, layout_.Cells, writer_, SpanList};
         std::optional<table::Place> place;
-        for (int slot = 0; slot < layout_.Slots.count(); ++slot)
+        for (SlotNumber slot; slot.value < layout_.Slots.count(); ++slot)
             for (int col = layout_.FixedCols(); col <= layout_.Slots.last_col(); ++col) {
                 if (layout_.is_day_off(layout_.date_of_column(col)))
                     continue;

@@ -27,8 +27,8 @@ std::optional<table::Colour> colour_in(const std::string& text) {
 
 } // namespace
 
-void clsMsgSchedSlot::Initialize(int slot_number, int col) {
-    slot_number_ = static_cast<std::int16_t>(slot_number);
+void clsMsgSchedSlot::Initialize(SlotNumber slot_number, int col) {
+    slot_number_ = slot_number;
     col_ = static_cast<std::int16_t>(col);
     lines_ = layout_->lines();
     start_date_ = layout_->StartDate();
@@ -242,15 +242,15 @@ void Slots::rebuild(const Layout& layout, const host::Guard& guarded) {
     cols_ = layout.last_col() + 1;
     records_.clear();
     records_.reserve(static_cast<std::size_t>(slots_) * static_cast<std::size_t>(cols_ - first_col_));
-    for (int slot = 0; slot < slots_; ++slot)
+    for (SlotNumber slot; slot.value < slots_; ++slot)
         for (int col = first_col_; col < cols_; ++col)
             records_.emplace_back(layout, guarded).Initialize(slot, col);
 }
 
-std::size_t Slots::index(int slot, int col) const {
-    if (slot < 0 || slot >= slots_ || col < first_col_ || col >= cols_)
+std::size_t Slots::index(SlotNumber slot, int col) const {
+    if (slot.value < 0 || slot.value >= slots_ || col < first_col_ || col >= cols_)
         throw values::Failure(values::FailureNumber::subscript_out_of_range);
-    return static_cast<std::size_t>(slot) * static_cast<std::size_t>(cols_ - first_col_) +
+    return static_cast<std::size_t>(slot.value) * static_cast<std::size_t>(cols_ - first_col_) +
            static_cast<std::size_t>(col - first_col_);
 }
 

@@ -45,7 +45,7 @@ class clsMsgSchedSlot {
 public:
     clsMsgSchedSlot(const Layout& layout, const host::Guard& guarded) : layout_(&layout), guarded_(&guarded) {}
 
-    void Initialize(int slot_number, int col);
+    void Initialize(SlotNumber slot_number, int col);
     // Fills the first free record, or one more at the end.
     void SetCell(const SlotEntry& entry);
     // Frees the first record of that id, if there is one; an empty id is that of a record that was never filled.
@@ -64,7 +64,7 @@ public:
     // The row of the slot, from first_row on, that belongs to the user, in the grid's current column; -1 if none.
     int GetCorrectCell(const table::GridModel& grid, std::string_view user_name, int first_row) const;
 
-    int SlotNo() const { return slot_number_; }
+    SlotNumber SlotNo() const { return slot_number_; }
     int Col() const { return col_; }
     int FirstRow() const { return lines_.row_of(slot_number_); }
     int LastRow() const { return lines_.last_row_of(slot_number_); }
@@ -84,7 +84,8 @@ private:
     const Layout* layout_;
     const host::Guard* guarded_;
     DayGrid lines_; // as it was at Initialize
-    std::int16_t slot_number_ = 0, col_ = 0;
+    SlotNumber slot_number_;
+    std::int16_t col_ = 0;
     bool changed_ = false;
     values::DateTime start_date_;
     // The records, of which as many count as were filled since the last ClearCells; the next ones are behind them,
@@ -103,8 +104,8 @@ public:
     int count() const { return slots_; } // slot numbers go from 0 to count - 1
     int first_col() const { return first_col_; }
     int last_col() const { return cols_ - 1; }
-    clsMsgSchedSlot& operator()(int slot, int col) { return records_[index(slot, col)]; }
-    const clsMsgSchedSlot& operator()(int slot, int col) const { return records_[index(slot, col)]; }
+    clsMsgSchedSlot& operator()(SlotNumber slot, int col) { return records_[index(slot, col)]; }
+    const clsMsgSchedSlot& operator()(SlotNumber slot, int col) const { return records_[index(slot, col)]; }
 
     std::vector<clsMsgSchedSlot>::iterator begin() { return records_.begin(); }
     std::vector<clsMsgSchedSlot>::iterator end() { return records_.end(); }
@@ -112,7 +113,7 @@ public:
     std::vector<clsMsgSchedSlot>::const_iterator end() const { return records_.end(); }
 
 private:
-    std::size_t index(int slot, int col) const;
+    std::size_t index(SlotNumber slot, int col) const;
 
     std::vector<clsMsgSchedSlot> records_;
     int slots_ = 0, first_col_ = 0, cols_ = 0;

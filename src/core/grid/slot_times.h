@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/grid/slot_number.h"
+
 #include "core/settings/ini_lib.h"
 #include "core/values/date_time.h"
 #include "core/values/locale.h"
@@ -16,11 +18,11 @@ public:
 
     // When a slot starts; 8:00 plus so many hours when the file doesn't say. Such a start beyond midnight is on
     // the next day. Fails with 13 when the file's text is no time.
-    values::DateTime start(int slot) const;
-    std::string start_text(int slot) const; // the file's text, or the default's text form
+    values::DateTime start(SlotNumber slot) const;
+    std::string start_text(SlotNumber slot) const; // the file's text, or the default's text form
     // How long a slot is, in minutes; "60" when the file doesn't say.
-    std::string duration_text(int slot) const;
-    int duration(int slot) const; // fails with 13 or 6 when the text is no 16-bit number
+    std::string duration_text(SlotNumber slot) const;
+    int duration(SlotNumber slot) const; // fails with 13 or 6 when the text is no 16-bit number
 
 private:
     // What belongs to one slot, kept so that thousands of reads don't make the same key and time again.
@@ -29,7 +31,7 @@ private:
         std::string text; // the start's text when it was last made a time
         values::DateTime time;
     };
-    Known& known(int slot) const;
+    Known& known(SlotNumber slot) const;
 
     const settings::IniLib& ini_;
     const values::Locale& locale_;

@@ -41,7 +41,7 @@ void Titles::Write_RowTitles() {
         step = 10;
         const values::DateTime afternoon = values::to_date(read(settings_.ini, keys::pm), here_.locale);
         layout_.forget_row_times();
-        for (int slot = 0; slot < layout_.SlotsCount(); ++slot) {
+        for (SlotNumber slot; slot.value < layout_.SlotsCount(); ++slot) {
             step = 20;
             const values::DateTime start = layout_.slot_times().start(slot);
             layout_.note_slot_start(slot, start, afternoon);

@@ -1,11 +1,9 @@
 #include "core/interaction/lookups.h"
 
+#include "core/table/selection.h"
 #include "core/values/ids.h"
 #include "core/values/text.h"
 #include "core/values/value.h"
-
-#include <algorithm>
-#include <tuple>
 
 namespace interaction {
 
@@ -44,25 +42,23 @@ void Lookups::mnupopLookup_Click() {
     });
 }
 
-Lookups::Range Lookups::range() const {
+table::CellRange Lookups::range() const {
     const table::GridModel& grid = grid_.msgSched;
-    Range range{grid::DayGrid::first_row, grid_.layout.last_row(), grid_.layout.FixedCols(),
-                grid_.layout.last_col()};
-    if (click_.on_title_row_only()) {
-        range.first_col = range.last_col = grid.Col();
-    } else if (click_.on_title_col_only()) {
-        range.first_row = range.last_row = grid.Row();
-    } else if (click_.MultiSelected && !click_.on_corner()) {
-        std::tie(range.first_row, range.last_row) = std::minmax({grid.Row(), grid.RowSel()});
-        std::tie(range.first_col, range.last_col) = std::minmax({grid.Col(), grid.ColSel()});
-    }
+    if (click_.MultiSelected && !click_.on_title_row_only() && !click_.on_title_col_only() && !click_.on_corner())
+        return table::selected_cells(grid);
+    table::CellRange range{.rows = {grid::DayGrid::first_row, grid_.layout.last_row()},
+                           .cols = {grid_.layout.FixedCols(), grid_.layout.last_col()}};
+    if (click_.on_title_row_only())
+        range.cols = {grid.Col(), grid.Col()};
+    else if (click_.on_title_col_only())
+        range.rows = {grid.Row(), grid.Row()};
     return range;
 }
 
-std::string Lookups::contacts_in(const Range& range) {
+std::string Lookups::contacts_in(const table::CellRange& range) {
     std::string list;
-    for (int row = range.first_row; row <= range.last_row; ++row)
-        for (int col = range.first_col; col <= range.last_col; ++col)
+    for (int row = range.rows.first; row <= range.rows.last; ++row)
+        for (int col = range.cols.first; col <= range.cols.last; ++col)
             add_contacts(grid_.layout.Cells(row, col), list);
     return list;
 }

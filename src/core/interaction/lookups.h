@@ -18,11 +18,8 @@ public:
     void mnupopLookup_Click(); // of the column, row, selection or calendar that was clicked
 
 private:
-    struct Range {
-        int first_row, last_row, first_col, last_col;
-    };
-    Range range() const;
-    std::string contacts_in(const Range& range);
+    table::CellRange range() const;
+    std::string contacts_in(const table::CellRange& range);
     void add_contacts(const grid::clsMsgSchedCell& cell, std::string& list);
     // With its further contacts, the list's current activity being the one that has them.
     void add_others(std::string& list);

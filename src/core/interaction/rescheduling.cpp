@@ -81,7 +81,7 @@ void Rescheduling::select_where_shown(const std::string& id, const clsMsgSchedCe
     grid::CellReference& SelectedCell = grid_.selection.SelectedCell;
     grid::Layout& layout = grid_.layout;
     SelectedCell = layout.Cells.reference(target.Row(), target.Col());
-    const int slot = target.Slot();
+    const grid::SlotNumber slot = target.Slot();
     for (int row = layout.first_row_of(slot); row <= layout.lines().last_row_of(slot) && !id.empty(); ++row)
         if (layout.Cells(row, target.Col()).ActivityID() == id) {
             SelectedCell = layout.Cells.reference(row, target.Col());

@@ -48,7 +48,7 @@ public:
         for (const grid::clsMsgSchedSlot& slot : calendar.layout.Slots)
             for (int index = 0; index < slot.record_count(); ++index)
                 if (slot.record(index).InUse)
-                    found.push_back(std::to_string(slot.SlotNo()) + "/" + std::to_string(slot.Col()) + " " +
+                    found.push_back(std::to_string(slot.SlotNo().value) + "/" + std::to_string(slot.Col()) + " " +
                                     name_of(slot.record(index).ActivityID));
         return found;
     }

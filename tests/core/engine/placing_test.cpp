@@ -81,7 +81,7 @@ TEST_F(PlacingTest, AnActivityAtTheLastMinuteOfASlotOrInAGapIsDropped) {
 TEST_F(PlacingTest, AnHourFromEightHasNoFurtherSlotsAndAMinuteMoreHasOne) {
     treat(DateTime::of(2024, 1, 10, 8, 0), 60);
     EXPECT_EQ(world_.only_record().GoesBeyond, 0);
-    world_.calendar.layout.Slots(0, wednesday).ClearCells();
+    world_.calendar.layout.Slots(grid::SlotNumber(0), wednesday).ClearCells();
     treat(DateTime::of(2024, 1, 10, 8, 0), 61);
     EXPECT_EQ(world_.only_record().GoesBeyond, 1);
 }
@@ -100,7 +100,7 @@ TEST_F(PlacingTest, AnIdStandsOnceInDisplayedIDs) {
 
 TEST_F(PlacingTest, SeesAtTheNextRefreshWhatChangedOfTheActivityPlacedLast) {
     treat(DateTime::of(2024, 1, 10, 9, 0));
-    world_.calendar.layout.Slots(1, wednesday).ClearCells();
+    world_.calendar.layout.Slots(grid::SlotNumber(1), wednesday).ClearCells();
     world_.act_data.contacts["contact-----"][26] = std::string("Chris Jones");
     activity_->fields[field::type] = std::int64_t{2};
     treat(DateTime::of(2024, 1, 10, 9, 0));
@@ -113,7 +113,7 @@ TEST_F(PlacingTest, ComposesATextAnewThatWasEmpty) {
     world_.act_data.contacts.erase("contact-----");
     treat(DateTime::of(2024, 1, 10, 9, 0));
     EXPECT_EQ(world_.only_record().Text, "");
-    world_.calendar.layout.Slots(1, wednesday).ClearCells();
+    world_.calendar.layout.Slots(grid::SlotNumber(1), wednesday).ClearCells();
     world_.act_data.contacts["contact-----"][26] = std::string("Chris Smith");
     world_.engine.placing.Treat_Activity(DateTime::of(2024, 1, 10, 9, 0), 60, engine::Placing::Kind::single);
     EXPECT_EQ(world_.only_record().Text, "Chris Smith");
@@ -172,7 +172,7 @@ TEST_F(PlacingTest, AUserWithoutAKeyIsBlackInModeTwo) {
 TEST_F(PlacingTest, AChangeOfAUsersColourIsSeenByTheNextRefresh) {
     world_.engine.placing.ShowActyColorsMode = 2;
     EXPECT_EQ(colour(), "0");
-    world_.calendar.layout.Slots(1, wednesday).ClearCells();
+    world_.calendar.layout.Slots(grid::SlotNumber(1), wednesday).ClearCells();
     world_.set("Colors", "Ann", "77");
     EXPECT_EQ(colour(), "77");
 }

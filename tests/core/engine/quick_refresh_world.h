@@ -51,7 +51,7 @@ protected:
         return world_.placed();
     }
     engine::QuickRefresh& quick_refresh() { return world_.engine.quick_refresh; }
-    int row_of(int slot) { return world_.calendar.layout.first_row_of(slot); }
+    int row_of(int slot) { return world_.calendar.layout.first_row_of(grid::SlotNumber(slot)); }
     grid::clsMsgSchedCell& cell(int slot, int col) { return world_.calendar.layout.Cells(row_of(slot), col); }
     const std::string& shown(int slot, int col) { return world_.calendar.msgSched.TextMatrix(row_of(slot), col); }
 

@@ -35,7 +35,7 @@ TEST_F(RefreshTest, PlacesTheActivitiesOfTheShownDaysAndDrawsThem) {
     world_.add("Behind", day(14, 0));
     EXPECT_EQ(refresh(), (Texts{"1/2 First", "2/8 Last"}));
     EXPECT_EQ(world_.displayed(), EngineWorld::user_id("First") + EngineWorld::user_id("Last"));
-    const int first_row = world_.calendar.layout.first_row_of(1);
+    const int first_row = world_.calendar.layout.first_row_of(grid::SlotNumber(1));
     EXPECT_EQ(world_.calendar.layout.Cells(first_row, 2).ActivityID(), EngineWorld::user_id("First"));
     EXPECT_EQ(world_.calendar.layout.Cells(first_row, 2).Text(), "Chris Smith");
     EXPECT_TRUE(world_.box.shown.empty());
@@ -93,7 +93,7 @@ TEST_F(RefreshTest, StoresTheMomentAndForgetsTheIdsOfBefore) {
 TEST_F(RefreshTest, EmptiesSlotsRecordsAndCellsOfBefore) {
     world_.add("Meet", day(10));
     refresh();
-    const int row = world_.calendar.layout.first_row_of(1);
+    const int row = world_.calendar.layout.first_row_of(grid::SlotNumber(1));
     ASSERT_EQ(world_.calendar.msgSched.TextMatrix(row, 5), "       Chris Smith");
     ASSERT_NE(world_.calendar.msgSched.cell(row, 5).picture, 0);
     world_.act_data.activities.clear();
@@ -209,7 +209,8 @@ TEST_F(RefreshTest, WorksInTheDailyViewWithRowsOfNobody) {
     world.add("Tomorrow", day(11));
     world.engine.refresh.Refresh_Data();
     EXPECT_EQ(world.placed(), Texts{"1/1 Today"});
-    EXPECT_EQ(world.calendar.layout.Cells(world.calendar.layout.first_row_of(1), 1).Text(), "Chris Smith");
+    EXPECT_EQ(world.calendar.layout.Cells(world.calendar.layout.first_row_of(grid::SlotNumber(1)), 1).Text(),
+              "Chris Smith");
 }
 
 TEST_F(RefreshTest, AFailureOfTheListLeavesHourglassAndLockOn) {
@@ -221,7 +222,7 @@ TEST_F(RefreshTest, AFailureOfTheListLeavesHourglassAndLockOn) {
     EXPECT_TRUE(world_.window.hourglass);
     ASSERT_EQ(world_.failures().size(), 1u);
     EXPECT_TRUE(world_.failures()[0].ends_with("\rin modRefresh: Sub Refresh_Data - Line # 70"));
-    EXPECT_EQ(world_.calendar.layout.Cells(world_.calendar.layout.first_row_of(1), 5).Text(), "")
+    EXPECT_EQ(world_.calendar.layout.Cells(world_.calendar.layout.first_row_of(grid::SlotNumber(1)), 5).Text(), "")
         << "the cells were emptied before";
 }
 
@@ -233,7 +234,7 @@ TEST_F(RefreshTest, AFailureInsideTheWalkEndsTheRefreshWhereItStands) {
     EXPECT_EQ(world_.failures(), Texts{"Error 13: 'Type mismatch'\rin modRefresh: Sub Refresh_Data - Line # 150"});
     EXPECT_TRUE(world_.window.locked);
     EXPECT_TRUE(world_.window.hourglass);
-    EXPECT_EQ(world_.calendar.layout.Cells(world_.calendar.layout.first_row_of(1), 4).Text(), "")
+    EXPECT_EQ(world_.calendar.layout.Cells(world_.calendar.layout.first_row_of(grid::SlotNumber(1)), 4).Text(), "")
         << "nothing was drawn";
 }
 

@@ -79,16 +79,18 @@ TEST_F(SlotTableTest, ADurationThatIsNoNumberFailsOnlyInItsSlot) {
 }
 
 TEST_F(SlotTableTest, AnEndAtTheStartOfASlotDoesNotCoverIt) {
-    EXPECT_EQ(table(9).span(1, at(9, 0)), 0);
-    EXPECT_EQ(table(9).span(1, at(9, 1)), 1);
-    EXPECT_EQ(table(9).span(1, at(11, 0)), 2);
+    EXPECT_EQ(table(9).span(grid::SlotNumber(1), at(9, 0)), 0);
+    EXPECT_EQ(table(9).span(grid::SlotNumber(1), at(9, 1)), 1);
+    EXPECT_EQ(table(9).span(grid::SlotNumber(1), at(11, 0)), 2);
 }
 
 TEST_F(SlotTableTest, ASpanEndsWithTheLastSlot) {
-    EXPECT_EQ(table(9).span(7, at(23, 0)), 2);
-    EXPECT_EQ(table(9).span(9, at(23, 0)), 0);
+    EXPECT_EQ(table(9).span(grid::SlotNumber(7), at(23, 0)), 2);
+    EXPECT_EQ(table(9).span(grid::SlotNumber(9), at(23, 0)), 0);
 }
 
-TEST_F(SlotTableTest, AnEndPastMidnightCoversNothing) { EXPECT_EQ(table(9).span(1, at(0, 30)), 0); }
+TEST_F(SlotTableTest, AnEndPastMidnightCoversNothing) {
+    EXPECT_EQ(table(9).span(grid::SlotNumber(1), at(0, 30)), 0);
+}
 
 } // namespace

@@ -130,17 +130,18 @@ TEST_F(CellTest, HasNoSlotBeforeItIsInitialised) {
 }
 
 TEST_F(CellTest, NeverGoesBeyondInAnythingThatIsDrawn) {
-    world.calendar.layout.Slots(0, 2).SetCell({.ActivityID = "ACTIVITY0001",
-                                               .ContactID = "",
-                                               .Recurring = "0",
-                                               .Cleared = "0",
-                                               .BackColor = "",
-                                               .ForeColor = "0",
-                                               .Type = "1",
-                                               .Text = "Call",
-                                               .Detail = "Ann||",
-                                               .HasDetails = "0",
-                                               .GoesBeyond = 2});
+    world.calendar.layout.Slots(grid::SlotNumber(0), 2)
+        .SetCell({.ActivityID = "ACTIVITY0001",
+                  .ContactID = "",
+                  .Recurring = "0",
+                  .Cleared = "0",
+                  .BackColor = "",
+                  .ForeColor = "0",
+                  .Type = "1",
+                  .Text = "Call",
+                  .Detail = "Ann||",
+                  .HasDetails = "0",
+                  .GoesBeyond = 2});
     world.calendar.rendering.Display_Changes("");
     for (const grid::clsMsgSchedCell& cell : layout.Cells)
         EXPECT_FALSE(cell.GoesBeyond());

@@ -10,6 +10,7 @@
 namespace {
 
 using grid::DayGrid;
+using grid::SlotNumber;
 using values::DateTime;
 
 TEST(DayGrid, MapsRowsToSlotsAndBack) {
@@ -17,8 +18,8 @@ TEST(DayGrid, MapsRowsToSlotsAndBack) {
     EXPECT_EQ(lines.slot_of(1), 0);
     EXPECT_EQ(lines.slot_of(4), 0);
     EXPECT_EQ(lines.slot_of(5), 1);
-    EXPECT_EQ(lines.row_of(2), 9);
-    EXPECT_EQ(lines.last_row_of(2), 12);
+    EXPECT_EQ(lines.row_of(SlotNumber(2)), 9);
+    EXPECT_EQ(lines.last_row_of(SlotNumber(2)), 12);
     EXPECT_EQ(lines.row_below(6, 2), 14);
     EXPECT_EQ(support::failure_number([] { DayGrid(2, 0).slot_of(1); }), 6);
 }
@@ -44,9 +45,9 @@ TEST_P(EveryLayout, LeadsThereAndBack) {
     ASSERT_EQ(layout.CellsPerSlot(), users);
     int row = DayGrid::first_row;
     for (int slot = 0; slot < slots; ++slot) {
-        EXPECT_EQ(layout.first_row_of(slot), row);
+        EXPECT_EQ(layout.first_row_of(SlotNumber(slot)), row);
         for (int place = 0; place < users; ++place, ++row) {
-            EXPECT_EQ(layout.lines().row_of(slot, place), row);
+            EXPECT_EQ(layout.lines().row_of(SlotNumber(slot), place), row);
             EXPECT_EQ(layout.slot_of_row(row), slot);
             EXPECT_EQ(layout.lines().place_of(row), place);
             const grid::clsMsgSchedCell& cell = layout.Cells(row, 0);
@@ -55,7 +56,7 @@ TEST_P(EveryLayout, LeadsThereAndBack) {
                 EXPECT_EQ(layout.lines().row_below(row - users, 1), row);
             }
         }
-        EXPECT_EQ(layout.lines().last_row_of(slot), row - 1);
+        EXPECT_EQ(layout.lines().last_row_of(SlotNumber(slot)), row - 1);
     }
     EXPECT_EQ(layout.last_row(), row - 1);
 
@@ -69,7 +70,7 @@ TEST_P(EveryLayout, LeadsThereAndBack) {
         EXPECT_EQ(layout.date_of_column(col), date);
         EXPECT_EQ(layout.nth_day(day), date);
         EXPECT_EQ(layout.lines().col_of(layout.lines().day_of(col)), col);
-        EXPECT_EQ(layout.Slots(0, col).Day(), date);
+        EXPECT_EQ(layout.Slots(SlotNumber(0), col).Day(), date);
     }
     EXPECT_EQ(layout.last_col(), layout.nth_day_col(days));
     EXPECT_EQ(layout.after_last_day(), date);

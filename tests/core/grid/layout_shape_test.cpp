@@ -84,20 +84,21 @@ TEST_F(LayoutShape, HasOnlyTheTitleRowWithoutUsers) {
 TEST_F(LayoutShape, MakesAllRecordsAnew) {
     world.have_users({"Ann"});
     open(true);
-    layout.Slots(0, 2).SetCell({.ActivityID = "A1",
-                                .ContactID = "",
-                                .Recurring = "0",
-                                .Cleared = "0",
-                                .BackColor = "",
-                                .ForeColor = "0",
-                                .Type = "1",
-                                .Text = "x",
-                                .Detail = "Ann||x",
-                                .HasDetails = "0"});
+    layout.Slots(grid::SlotNumber(0), 2)
+        .SetCell({.ActivityID = "A1",
+                  .ContactID = "",
+                  .Recurring = "0",
+                  .Cleared = "0",
+                  .BackColor = "",
+                  .ForeColor = "0",
+                  .Type = "1",
+                  .Text = "x",
+                  .Detail = "Ann||x",
+                  .HasDetails = "0"});
     layout.Cells(1, 2).ActivityID("A1");
     layout.Initialize_Calendar(layout.StartDate(), layout.EndDate());
-    EXPECT_FALSE(layout.Slots(0, 2).record(0).InUse);
-    EXPECT_FALSE(layout.Slots(0, 2).Changed());
+    EXPECT_FALSE(layout.Slots(grid::SlotNumber(0), 2).record(0).InUse);
+    EXPECT_FALSE(layout.Slots(grid::SlotNumber(0), 2).Changed());
     EXPECT_EQ(layout.Cells(1, 2).ActivityID(), "");
     EXPECT_FALSE(layout.Cells(1, 2).Initialized());
 }

@@ -92,8 +92,8 @@ TEST_F(RenderingTest, LeavesTheSlotsOfDaysOffUndrawnAndChanged) {
     EXPECT_EQ(world.column(1), (Column{""}));
     EXPECT_EQ(world.column(2), (Column{"x"}));
     EXPECT_EQ(world.column(7), (Column{""}));
-    EXPECT_TRUE(layout.Slots(0, 1).Changed());
-    EXPECT_FALSE(layout.Slots(0, 2).Changed());
+    EXPECT_TRUE(layout.Slots(grid::SlotNumber(0), 1).Changed());
+    EXPECT_FALSE(layout.Slots(grid::SlotNumber(0), 2).Changed());
 }
 
 TEST_F(RenderingTest, MakesTheCellOfTheSoughtActivityCurrent) {
@@ -140,7 +140,7 @@ TEST_F(RenderingTest, Clear_DependentsEmptiesDependsOnActivityOfTheContinuations
     world.put(0, 3, {.id = "A3", .user = "a", .text = "also long", .goes_beyond = 1});
     display();
     ASSERT_EQ(world.column(2), (Column{"long", "( Continued )", "other"}));
-    layout.Slots(0, 2).DeleteCell("A1");
+    layout.Slots(grid::SlotNumber(0), 2).DeleteCell("A1");
     display("A1");
     EXPECT_EQ(world.column(2), (Column{"", "", "other"}));
     for (const int row : {2, 3}) {

@@ -48,7 +48,7 @@ TEST_F(SlotDrawing, SplitsTheUsersNameFromTheDetail) {
 TEST_F(SlotDrawing, FindsTheUsersRowInTheSlot) {
     world.open_with_users({"Ann", "Bob"});
     world.calendar.msgSched.Col(3);
-    const grid::clsMsgSchedSlot& slot = layout.Slots(1, 3);
+    const grid::clsMsgSchedSlot& slot = layout.Slots(grid::SlotNumber(1), 3);
     EXPECT_EQ(slot.GetCorrectCell(world.calendar.msgSched, "Ann", slot.FirstRow()), 3);
     EXPECT_EQ(slot.GetCorrectCell(world.calendar.msgSched, "Bob", slot.FirstRow()), 4);
     EXPECT_EQ(slot.GetCorrectCell(world.calendar.msgSched, "Cem", slot.FirstRow()), -1);
@@ -64,7 +64,7 @@ TEST_F(SlotDrawing, OrdersASlotByUserAndThenByTheRestOfTheDetail) {
     EXPECT_EQ(world.column(1), (Column{"Lunch", "Review", "Call", "", "", ""}));
     EXPECT_EQ(world.place_of("A1"), "1|1");
     EXPECT_EQ(world.place_of("B1"), "3|1");
-    EXPECT_FALSE(layout.Slots(0, 1).Changed());
+    EXPECT_FALSE(layout.Slots(grid::SlotNumber(0), 1).Changed());
 }
 
 TEST_F(SlotDrawing, ClearsAnEmptySlot) {
@@ -74,12 +74,12 @@ TEST_F(SlotDrawing, ClearsAnEmptySlot) {
     draw(0, 1);
     world.calendar.msgSched.Row(1);
     world.calendar.msgSched.CellBackColor(77);
-    layout.Slots(0, 1).DeleteCell("A1");
+    layout.Slots(grid::SlotNumber(0), 1).DeleteCell("A1");
     draw(0, 1);
     EXPECT_EQ(world.column(1), (Column{"", ""}));
     EXPECT_EQ(world.calendar.msgSched.cell(1, 1).back_colour, 77);
     EXPECT_EQ(layout.Cells(1, 1).ActivityID(), "");
-    EXPECT_FALSE(layout.Slots(0, 1).Changed());
+    EXPECT_FALSE(layout.Slots(grid::SlotNumber(0), 1).Changed());
 }
 
 TEST_F(SlotDrawing, ShowsThePictureWithRoomForItWhereIconsAreOn) {
@@ -211,7 +211,7 @@ TEST_F(SlotDrawing, SkipsTheActivityOfAUserWithoutARow) {
     draw(0, 2);
     EXPECT_EQ(world.column(2), (Column{"", ""}));
     EXPECT_FALSE(world.calendar.writer.ActivityCells.contains("D1"));
-    EXPECT_FALSE(layout.Slots(0, 2).Changed());
+    EXPECT_FALSE(layout.Slots(grid::SlotNumber(0), 2).Changed());
 }
 
 } // namespace

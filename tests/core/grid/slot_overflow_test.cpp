@@ -37,7 +37,7 @@ TEST_F(SlotOverflow, MarksTheLastRowWithAPlusAndWritesTheSurplusOneIntoTheNextRo
                                        "              text d", "", ""}));
     EXPECT_EQ(world.place_of("d"), "4|1");
     EXPECT_EQ(layout.Cells(4, 1).ActivityID(), "d");
-    EXPECT_FALSE(layout.Slots(0, 1).Changed());
+    EXPECT_FALSE(layout.Slots(grid::SlotNumber(0), 1).Changed());
 }
 
 TEST_F(SlotOverflow, MovesTheTextClearOfThePlusWhereIconsAreOff) {
@@ -66,7 +66,7 @@ TEST_F(SlotOverflow, RunsOffTheGridFromTheLastSlotWithTheFailureBox) {
     ASSERT_EQ(world.box.shown.size(), 1U);
     EXPECT_NE(world.box.shown[0].text.find("Error 380: "), std::string::npos);
     EXPECT_NE(world.box.shown[0].text.find("in clsMsgSchedSlot: Sub Write_To_Grid - Line # "), std::string::npos);
-    EXPECT_TRUE(layout.Slots(0, 1).Changed());
+    EXPECT_TRUE(layout.Slots(grid::SlotNumber(0), 1).Changed());
     EXPECT_EQ(result, (table::Place{2, 1}));
 }
 
@@ -74,7 +74,7 @@ TEST_F(SlotOverflow, RunsOffTheGridFromTheLastSlotWithTheFailureBox) {
 TEST_F(SlotOverflow, ShowsThePlusForFreeRecordsBeyondTheRows) {
     world.open_with_rows(2, 2);
     put_many(0, 1, "abc");
-    layout.Slots(0, 1).DeleteCell("a");
+    layout.Slots(grid::SlotNumber(0), 1).DeleteCell("a");
     draw(0, 1);
     EXPECT_EQ(world.column(1), (Column{"text b", "plus:       text c", "", ""}));
     EXPECT_TRUE(world.box.shown.empty());
@@ -83,8 +83,8 @@ TEST_F(SlotOverflow, ShowsThePlusForFreeRecordsBeyondTheRows) {
 TEST_F(SlotOverflow, ShowsNoPlusForFreeRecordsWhenFewerActivitiesThanRowsAreLeft) {
     world.open_with_rows(2, 2);
     put_many(0, 1, "abc");
-    layout.Slots(0, 1).DeleteCell("a");
-    layout.Slots(0, 1).DeleteCell("c");
+    layout.Slots(grid::SlotNumber(0), 1).DeleteCell("a");
+    layout.Slots(grid::SlotNumber(0), 1).DeleteCell("c");
     draw(0, 1);
     EXPECT_EQ(world.column(1), (Column{"text b", "", "", ""}));
 }
@@ -96,7 +96,7 @@ TEST_F(SlotOverflow, FailsWhereASurplusActivityRunsOnBeyondTheGrid) {
     draw(1, 1);
     ASSERT_EQ(world.box.shown.size(), 1U);
     EXPECT_NE(world.box.shown[0].text.find("Error 9: "), std::string::npos);
-    EXPECT_TRUE(layout.Slots(1, 1).Changed());
+    EXPECT_TRUE(layout.Slots(grid::SlotNumber(1), 1).Changed());
 }
 
 // Ann's first activity by detail is shown, the other one sets the plus.

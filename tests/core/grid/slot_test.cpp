@@ -21,7 +21,7 @@ protected:
     }
 
     SlotWorld world;
-    grid::clsMsgSchedSlot& slot() { return world.calendar.layout.Slots(2, 4); }
+    grid::clsMsgSchedSlot& slot() { return world.calendar.layout.Slots(grid::SlotNumber(2), 4); }
 };
 
 TEST_F(SlotTest, KnowsItsRowsDayAndTime) {
@@ -133,10 +133,10 @@ TEST_F(SlotTest, HoldsNothingOfWhatItWasClearedOf) {
 
 TEST_F(SlotTest, IsFoundInsideTheGridOnly) {
     grid::Slots& slots = world.calendar.layout.Slots;
-    EXPECT_EQ(support::failure_number([&] { slots(9, 1); }), 9);
-    EXPECT_EQ(support::failure_number([&] { slots(-1, 1); }), 9);
-    EXPECT_EQ(support::failure_number([&] { slots(0, 0); }), 9);
-    EXPECT_EQ(support::failure_number([&] { slots(0, 8); }), 9);
+    EXPECT_EQ(support::failure_number([&] { slots(grid::SlotNumber(9), 1); }), 9);
+    EXPECT_EQ(support::failure_number([&] { slots(grid::SlotNumber(-1), 1); }), 9);
+    EXPECT_EQ(support::failure_number([&] { slots(grid::SlotNumber(0), 0); }), 9);
+    EXPECT_EQ(support::failure_number([&] { slots(grid::SlotNumber(0), 8); }), 9);
     EXPECT_EQ(support::failure_number([&] { slot().record(3); }), 9);
 }
 

@@ -42,17 +42,18 @@ public:
 
     // The detail text is the user's name, two bars and the text, as a refresh makes it.
     void put(int slot, int col, const Entry& entry) {
-        calendar.layout.Slots(slot, col).SetCell({.ActivityID = entry.id,
-                                                  .ContactID = "CONTACT00001",
-                                                  .Recurring = entry.recurring,
-                                                  .Cleared = entry.cleared,
-                                                  .BackColor = entry.back_color,
-                                                  .ForeColor = entry.fore_color,
-                                                  .Type = entry.type,
-                                                  .Text = entry.text,
-                                                  .Detail = entry.user + "||" + entry.text,
-                                                  .HasDetails = entry.has_details,
-                                                  .GoesBeyond = entry.goes_beyond});
+        calendar.layout.Slots(grid::SlotNumber(slot), col)
+            .SetCell({.ActivityID = entry.id,
+                      .ContactID = "CONTACT00001",
+                      .Recurring = entry.recurring,
+                      .Cleared = entry.cleared,
+                      .BackColor = entry.back_color,
+                      .ForeColor = entry.fore_color,
+                      .Type = entry.type,
+                      .Text = entry.text,
+                      .Detail = entry.user + "||" + entry.text,
+                      .HasDetails = entry.has_details,
+                      .GoesBeyond = entry.goes_beyond});
     }
 
     // What a column shows from row 1 on: the picture's name without ending and a colon where there is a picture,
@@ -85,7 +86,7 @@ class SlotDrawingTest : public testing::Test {
 protected:
     void draw(int slot, int col, const std::string& sought = "") {
         grid::Drawing drawing{world.calendar.msgSched, layout.Cells, world.calendar.writer, span_list};
-        layout.Slots(slot, col).Write_To_Grid(drawing, sought, result);
+        layout.Slots(grid::SlotNumber(slot), col).Write_To_Grid(drawing, sought, result);
     }
 
     SlotWorld world;

@@ -100,7 +100,7 @@ public:
 
     // Slot 0 is 8:00; of a slot's rows the first is Ann's, the second Bob's.
     int row_of(int hour_from_8, int position = 0) const {
-        return calendar.layout.first_row_of(hour_from_8) + position;
+        return calendar.layout.first_row_of(grid::SlotNumber(hour_from_8)) + position;
     }
     static int col_of(int day) { return day - 7 + 2; } // of January 2024
     grid::clsMsgSchedCell& cell(int row, int col) { return calendar.layout.Cells(row, col); }

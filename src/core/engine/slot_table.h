@@ -17,7 +17,7 @@ public:
     void read(const grid::SlotTimes& times, int count);
 
     // The slot in which an activity of that time of day begins; none for one before the first slot, in a gap, in
-    // the last minute of a slot, or behind the last slot's length.
+    // the last minute of a slot, or after the last slot's length.
     std::optional<grid::SlotNumber> slot_of(values::DateTime time) const;
     // How many slots from `first` on an activity covers that ends at that time of day. An end at the start of a
     // slot doesn't cover it.

@@ -30,10 +30,10 @@ void HolidayList::append(std::string_view line) {
 
 std::size_t HolidayList::insert(values::DateTime date, std::string_view description,
                                 const values::Locale& locale) {
-    const auto behind = std::find_if(holidays_.begin(), holidays_.end(), [&](const grid::Holiday& holiday) {
+    const auto next = std::find_if(holidays_.begin(), holidays_.end(), [&](const grid::Holiday& holiday) {
         return values::to_date(holiday.date, locale) >= date;
     });
-    const auto inserted = holidays_.insert(behind, {values::short_date(date, locale), one_line(description)});
+    const auto inserted = holidays_.insert(next, {values::short_date(date, locale), one_line(description)});
     return static_cast<std::size_t>(inserted - holidays_.begin());
 }
 

@@ -88,7 +88,7 @@ private:
     std::int16_t col_ = 0;
     bool changed_ = false;
     values::DateTime start_date_;
-    // The records, of which as many count as were filled since the last ClearCells; the next ones are behind them,
+    // The records, of which as many count as were filled since the last ClearCells; the next ones follow them,
     // with what they held before, so that their texts have room already. Records beyond, up to the slot's rows,
     // are free and empty and take no room.
     std::deque<SlotRecord> records_;

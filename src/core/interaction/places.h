@@ -11,7 +11,7 @@ class Places {
 public:
     explicit Places(const table::GridModel& msgSched) : grid_(msgSched) {}
 
-    // Above the first row behind the titles, or left of the first column behind them: those of the days stand
+    // Above the first row below the titles, or left of the first column right of them: those of the days stand
     // there, wherever the grid is scrolled to.
     bool is_in_title_row(int y) const { return y < grid_.RowPos(first_row()); }
     bool is_in_title_col(int x) const { return x < grid_.ColPos(first_col()); }

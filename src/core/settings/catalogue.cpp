@@ -12,7 +12,7 @@ NumberedKey title_key(std::string_view word, int title, std::string default_valu
     return {sections::print, numbered(word, title), std::move(default_value)};
 }
 
-// The place in the tables of defaults: the weekly view's six come behind the daily view's.
+// The place in the tables of defaults: the weekly view's six come after the daily view's.
 std::size_t field_index(std::string_view view, int line) {
     return static_cast<std::size_t>(view == weekly ? line + extra_fields : line);
 }

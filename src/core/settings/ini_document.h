@@ -26,7 +26,7 @@ public:
     std::vector<std::string> keys(std::string_view section) const;
     std::vector<std::string> sections() const;
 
-    // The key goes behind the section's last key, a new section to the end. False, with nothing changed, for what
+    // The key goes after the section's last key, a new section to the end. False, with nothing changed, for what
     // could not be read back: an empty name, a line end or NUL, a text that isn't UTF-8, a "]" in a section, a "="
     // in a key, a key that begins like a comment or a section.
     bool set(std::string_view section, std::string_view key, std::string_view value);

@@ -29,7 +29,7 @@ void Sizing::Form_Resize() {
     });
 }
 
-// The share of each column in the room behind the first two is taken of the same room that it is given back of, so
+// The share of each column in the room right of the first two is taken of the same room that it is given back of, so
 // that the columns stay as wide as they are.
 void Sizing::keep_column_widths(int grid_width) {
     const auto room = [&] { return grid_width - msgSched_.ColWidth(0) - msgSched_.ColWidth(1); };

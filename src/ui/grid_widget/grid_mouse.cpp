@@ -1,4 +1,7 @@
+#include "ui/grid_widget/grid_mouse.h"
+
 #include "ui/grid_widget/grid_widget.h"
+#include "ui/picture/picture_cache.h"
 
 #include <QCursor>
 #include <QFile>
@@ -53,22 +56,26 @@ int nearest_line(const picture::PixelLines& lines, int place) {
 
 } // namespace
 
-void GridWidget::mousePressEvent(QMouseEvent* event) {
-    const QPoint place = pointer_ = event->position().toPoint();
-    const int button = button_number(event->button());
+GridMouse::GridMouse(GridWidget& widget, table::GridModel& model) : widget_(widget), model_(model), sizer_(model) {
+    QObject::connect(&scroll_timer_, &QTimer::timeout, &widget, [this] { scroll_on(); });
+}
+
+void GridMouse::press(const QMouseEvent& event) {
+    const QPoint place = pointer_ = event.position().toPoint();
+    const int button = button_number(event.button());
     if (button == 0 || is_dragging_ || sizer_.is_sizing())
         return;
     if (button == 1) {
-        if (sizer_.begin(place, view()))
+        if (sizer_.begin(place, widget_.view()))
             return;
-        press_left(place, event->modifiers() & Qt::ShiftModifier);
+        press_left(place, event.modifiers() & Qt::ShiftModifier);
     }
-    const TwipsPlace twips = twips_from_pixels(place);
-    emit mouse_pressed(button, shift_number(event->modifiers()), twips.x, twips.y);
+    const GridWidget::TwipsPlace twips = widget_.twips_from_pixels(place);
+    emit widget_.mouse_pressed(button, shift_number(event.modifiers()), twips.x, twips.y);
 }
 
-void GridWidget::press_left(QPoint place, bool extends) {
-    const auto [row, col] = cell_at(place);
+void GridMouse::press_left(QPoint place, bool extends) {
+    const auto [row, col] = widget_.cell_at(place);
     const bool on_cell = row >= model_.FixedRows() && col >= model_.FixedCols();
     is_selecting_ = on_cell;
     if (on_cell && extends) {
@@ -82,9 +89,9 @@ void GridWidget::press_left(QPoint place, bool extends) {
     }
 }
 
-void GridWidget::mouseMoveEvent(QMouseEvent* event) {
-    const QPoint place = pointer_ = event->position().toPoint();
-    const bool is_pressed = event->buttons() & Qt::LeftButton;
+void GridMouse::move(const QMouseEvent& event) {
+    const QPoint place = pointer_ = event.position().toPoint();
+    const bool is_pressed = event.buttons() & Qt::LeftButton;
     if (sizer_.is_sizing() && is_pressed) {
         sizer_.move_to(place);
     } else if (is_dragging_) {
@@ -100,33 +107,33 @@ void GridWidget::mouseMoveEvent(QMouseEvent* event) {
     }
 }
 
-void GridWidget::mouseReleaseEvent(QMouseEvent* event) {
-    if (event->button() != Qt::LeftButton)
+void GridMouse::release(const QMouseEvent& event) {
+    if (event.button() != Qt::LeftButton)
         return;
-    const QPoint place = pointer_ = event->position().toPoint();
+    const QPoint place = pointer_ = event.position().toPoint();
     is_selecting_ = false;
     scroll_timer_.stop();
     sizer_.end();
     const bool drops = is_dragging_;
     end_drag();
-    if (drops && viewport()->rect().contains(place)) {
-        const TwipsPlace twips = twips_from_pixels(place);
-        emit dropped(twips.x, twips.y);
+    if (drops && widget_.viewport()->rect().contains(place)) {
+        const GridWidget::TwipsPlace twips = widget_.twips_from_pixels(place);
+        emit widget_.dropped(twips.x, twips.y);
     }
 }
 
-void GridWidget::mouseDoubleClickEvent(QMouseEvent* event) {
-    if (event->button() != Qt::LeftButton) {
-        mousePressEvent(event);
+void GridMouse::double_click(const QMouseEvent& event) {
+    if (event.button() != Qt::LeftButton) {
+        press(event);
         return;
     }
-    if (!LineSizer::cursor_at(event->position().toPoint(), view()))
-        emit double_clicked();
+    if (!LineSizer::cursor_at(event.position().toPoint(), widget_.view()))
+        emit widget_.double_clicked();
 }
 
-void GridWidget::extend_selection_to(QPoint place) {
-    const int row = nearest_line(view().rows, place.y());
-    const int col = nearest_line(view().cols, place.x());
+void GridMouse::extend_selection_to(QPoint place) {
+    const int row = nearest_line(widget_.view().rows, place.y());
+    const int col = nearest_line(widget_.view().cols, place.x());
     if (row < 0 || col < 0)
         return;
     if (row != model_.RowSel())
@@ -136,13 +143,14 @@ void GridWidget::extend_selection_to(QPoint place) {
 }
 
 // The view without the titles.
-QRect GridWidget::cells_rect() const {
-    return viewport()->rect().adjusted(view().cols.fixed_end(), view().rows.fixed_end(), 0, 0);
+QRect GridMouse::cells_rect() const {
+    return widget_.viewport()->rect().adjusted(widget_.view().cols.fixed_end(), widget_.view().rows.fixed_end(), 0,
+                                               0);
 }
 
 // A selection scrolls when it is drawn beyond the view, a drag already near its edge. A drag that has not left its
 // own cell doesn't scroll, or a click in the last row could move an activity.
-GridWidget::Scrolling GridWidget::wanted_scrolling() const {
+GridMouse::Scrolling GridMouse::wanted_scrolling() const {
     const QRect cells = cells_rect();
     if (is_dragging_ && !dragged_cell_.isEmpty())
         return {};
@@ -154,7 +162,7 @@ GridWidget::Scrolling GridWidget::wanted_scrolling() const {
             .cols = direction(pointer_.x(), cells.left(), cells.right())};
 }
 
-void GridWidget::scroll_if_at_edge() {
+void GridMouse::scroll_if_at_edge() {
     const Scrolling wanted = wanted_scrolling();
     if (wanted.rows == 0 && wanted.cols == 0)
         scroll_timer_.stop();
@@ -162,57 +170,58 @@ void GridWidget::scroll_if_at_edge() {
         scroll_timer_.start(is_dragging_ ? drag_interval : selection_interval);
 }
 
-void GridWidget::scroll_on() {
+void GridMouse::scroll_on() {
     const Scrolling wanted = wanted_scrolling();
     const auto scroll = [](QScrollBar* bar, int lines) { bar->setValue(bar->value() + lines); };
-    scroll(horizontalScrollBar(), wanted.cols);
-    scroll(verticalScrollBar(), wanted.rows);
+    scroll(widget_.horizontalScrollBar(), wanted.cols);
+    scroll(widget_.verticalScrollBar(), wanted.rows);
     if (is_dragging_)
         tell_drag_moved();
     else
         extend_selection_to(pointer_);
 }
 
-void GridWidget::tell_drag_moved() {
-    const TwipsPlace twips = twips_from_pixels(pointer_);
-    emit drag_moved(twips.x, twips.y);
+void GridMouse::tell_drag_moved() {
+    const GridWidget::TwipsPlace twips = widget_.twips_from_pixels(pointer_);
+    emit widget_.drag_moved(twips.x, twips.y);
 }
 
-void GridWidget::update_pointer(QPoint place) {
-    if (const auto shape = LineSizer::cursor_at(place, view()))
-        viewport()->setCursor(*shape);
+void GridMouse::update_pointer(QPoint place) {
+    if (const auto shape = LineSizer::cursor_at(place, widget_.view()))
+        widget_.viewport()->setCursor(*shape);
     else
-        viewport()->unsetCursor();
+        widget_.viewport()->unsetCursor();
 }
 
-void GridWidget::begin_drag() {
+void GridMouse::begin_drag() {
     is_dragging_ = true;
     is_selecting_ = false;
-    dragged_cell_ = cell_rect(model_.Row(), model_.Col());
-    bars_at_drag_ = {.vertical = verticalScrollBar()->value(), .horizontal = horizontalScrollBar()->value()};
+    dragged_cell_ = widget_.cell_rect(model_.Row(), model_.Col());
+    bars_at_drag_ = {.vertical = widget_.verticalScrollBar()->value(),
+                     .horizontal = widget_.horizontalScrollBar()->value()};
     show_drop_permitted(true);
 }
 
-void GridWidget::show_drop_permitted(bool permitted) {
+void GridMouse::show_drop_permitted(bool permitted) {
     if (!is_dragging_ || shown_permission_ == permitted)
         return;
     shown_permission_ = permitted;
-    viewport()->setCursor(drop_cursor(permitted, devicePixelRatioF()));
+    widget_.viewport()->setCursor(drop_cursor(permitted, widget_.devicePixelRatioF()));
 }
 
-void GridWidget::end_drag() {
+void GridMouse::end_drag() {
     is_dragging_ = false;
     shown_permission_.reset();
     update_pointer(pointer_);
 }
 
-void GridWidget::abandon_mouse_work() {
+void GridMouse::abandon() {
     if (sizer_.is_sizing())
         sizer_.abandon();
     if (is_dragging_) {
         end_drag();
-        horizontalScrollBar()->setValue(bars_at_drag_.horizontal);
-        verticalScrollBar()->setValue(bars_at_drag_.vertical);
+        widget_.horizontalScrollBar()->setValue(bars_at_drag_.horizontal);
+        widget_.verticalScrollBar()->setValue(bars_at_drag_.vertical);
     }
     is_selecting_ = false;
     scroll_timer_.stop();

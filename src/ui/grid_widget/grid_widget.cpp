@@ -30,15 +30,15 @@ table::CellRange all_cells(const table::GridModel& model) {
 } // namespace
 
 GridWidget::GridWidget(table::GridModel& model, QWidget* parent)
-    : QAbstractScrollArea(parent), model_(model), painter_(font()), sizer_(model), told_cells_(all_cells(model)),
-      told_current_(table::current_cell(model)), told_selection_(table::selected_cells(model)) {
+    : QAbstractScrollArea(parent), model_(model), painter_(font()), mouse_(*this, model),
+      told_cells_(all_cells(model)), told_current_(table::current_cell(model)),
+      told_selection_(table::selected_cells(model)) {
     install_grid_accessibility();
     setFocusPolicy(Qt::StrongFocus);
     setFrameShape(QFrame::NoFrame);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
     viewport()->setMouseTracking(true);
-    connect(&scroll_timer_, &QTimer::timeout, this, &GridWidget::scroll_on);
     model_.add_observer(*this);
     sync_scroll_bars();
 }
@@ -182,12 +182,12 @@ void GridWidget::focusInEvent(QFocusEvent* event) {
 
 void GridWidget::focusOutEvent(QFocusEvent* event) {
     QAbstractScrollArea::focusOutEvent(event);
-    abandon_mouse_work();
+    mouse_.abandon();
     viewport()->update();
 }
 
 void GridWidget::keyPressEvent(QKeyEvent* event) {
-    if (is_dragging_ && event->key() != Qt::Key_Escape)
+    if (mouse_.is_dragging() && event->key() != Qt::Key_Escape)
         return; // what is drawn mustn't lose the ground it came from
     const bool extends = event->modifiers() & Qt::ShiftModifier;
     if (move_cursor(model_, event->key(), event->modifiers(), view().rows.lines_in_view())) {
@@ -202,7 +202,7 @@ void GridWidget::keyPressEvent(QKeyEvent* event) {
             emit double_clicked();
         break;
     case Qt::Key_Escape:
-        abandon_mouse_work();
+        mouse_.abandon();
         break;
     case Qt::Key_F10:
         if (extends)

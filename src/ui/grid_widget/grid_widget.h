@@ -1,12 +1,11 @@
 #pragma once
 
 #include "core/table/grid_model.h"
-#include "ui/grid_widget/line_sizer.h"
+#include "ui/grid_widget/grid_mouse.h"
 #include "ui/picture/grid_painter.h"
 #include "ui/picture/view.h"
 
 #include <QAbstractScrollArea>
-#include <QTimer>
 
 #include <optional>
 
@@ -33,6 +32,13 @@ public:
 
     // Scrolls no further than needed for the cell to show whole.
     void make_visible(int row, int col);
+    // How the model shows in the viewport.
+    const picture::View& view() const;
+    // A place of the viewport in twips on the screen.
+    struct TwipsPlace {
+        int x, y;
+    };
+    TwipsPlace twips_from_pixels(QPoint place) const;
     // Where a cell lies in the viewport, in pixels; empty for a hidden or rolled away one.
     QRect cell_rect(int row, int col) const;
     // The cell at a place in the viewport; its row or column is -1 where there is none.
@@ -40,10 +46,10 @@ public:
 
     // The user draws the current cell from the press on until the button is let go. At an edge of the view the
     // grid scrolls. Escape, or somebody else's getting the focus, gives the drag up and scrolls back.
-    void begin_drag();
-    bool is_dragging() const { return is_dragging_; }
+    void begin_drag() { mouse_.begin_drag(); }
+    bool is_dragging() const { return mouse_.is_dragging(); }
     // What the pointer says while the user drags.
-    void show_drop_permitted(bool permitted);
+    void show_drop_permitted(bool permitted) { mouse_.show_drop_permitted(permitted); }
 
 signals:
     // A press. A left one has by then made a day cell under it the current cell, or with Shift the far end of the
@@ -63,10 +69,10 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
     void changeEvent(QEvent* event) override;
     void scrollContentsBy(int dx, int dy) override;
-    void mousePressEvent(QMouseEvent* event) override;
-    void mouseMoveEvent(QMouseEvent* event) override;
-    void mouseReleaseEvent(QMouseEvent* event) override;
-    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override { mouse_.press(*event); }
+    void mouseMoveEvent(QMouseEvent* event) override { mouse_.move(*event); }
+    void mouseReleaseEvent(QMouseEvent* event) override { mouse_.release(*event); }
+    void mouseDoubleClickEvent(QMouseEvent* event) override { mouse_.double_click(*event); }
     void contextMenuEvent(QContextMenuEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
@@ -82,41 +88,12 @@ private:
     void tell_what_is_new();
     void sync_scroll_bars();
     void scroll_to(table::Place first); // the first row and column after the titles
-    const picture::View& view() const;
-    struct TwipsPlace {
-        int x, y;
-    };
-    TwipsPlace twips_from_pixels(QPoint place) const;
-
-    void press_left(QPoint place, bool extends);
-    void extend_selection_to(QPoint place);
-    QRect cells_rect() const;
-    struct Scrolling { // by lines, -1 back and 1 on
-        int rows = 0;
-        int cols = 0;
-    };
-    Scrolling wanted_scrolling() const;
-    void scroll_if_at_edge();
-    void scroll_on();
-    void tell_drag_moved();
-    void update_pointer(QPoint place);
-    void end_drag();
-    void abandon_mouse_work();
     bool show_current_cell();
     void request_menu();
 
     table::GridModel& model_;
     picture::GridPainter painter_;
-    LineSizer sizer_;
-    QTimer scroll_timer_; // while a selection is drawn beyond the view or something is dragged to its edge
-    QPoint pointer_;      // where the pointer was last, in the viewport
-    QRect dragged_cell_;  // where the cell lies that is dragged, until the pointer has left it
-    std::optional<bool> shown_permission_; // what the pointer says while something is dragged
-    struct BarValues {
-        int vertical = 0;
-        int horizontal = 0;
-    };
-    BarValues bars_at_drag_; // when the drag began
+    GridMouse mouse_;
     mutable picture::View view_;
     mutable bool is_view_stale_ = true;
     // What screen readers know of.
@@ -124,8 +101,6 @@ private:
     table::Place told_current_;
     table::CellRange told_selection_;
     bool is_locked_ = false;
-    bool is_selecting_ = false;
-    bool is_dragging_ = false;
     bool settle_is_due_ = false;
     bool cells_changed_ = false, shape_changed_ = false, focus_came_ = false; // since the last settle
 };

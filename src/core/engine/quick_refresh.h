@@ -3,7 +3,6 @@
 #include "core/act/connection.h"
 #include "core/engine/placing.h"
 #include "core/engine/recurring.h"
-#include "core/engine/refresh.h"
 #include "core/grid/calendar_grid.h"
 
 #include <optional>

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "core/engine/quick_refresh.h"
-#include "core/engine/refresh.h"
 #include "core/host/clock.h"
 #include "core/settings/settings.h"
 

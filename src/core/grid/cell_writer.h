@@ -1,8 +1,6 @@
 #pragma once
 
 #include "core/grid/layout.h"
-#include "core/host/folders.h"
-#include "core/host/guard.h"
 #include "core/table/grid_model.h"
 
 #include <optional>

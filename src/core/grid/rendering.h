@@ -3,7 +3,6 @@
 #include "core/grid/cell_writer.h"
 #include "core/grid/layout.h"
 #include "core/grid/selection.h"
-#include "core/host/guard.h"
 
 #include <string>
 #include <string_view>

@@ -1,6 +1,5 @@
 #include "core/grid/titles.h"
 
-#include "core/act/user_list.h"
 #include "core/settings/catalogue.h"
 #include "core/values/failure.h"
 #include "core/values/numbers.h"

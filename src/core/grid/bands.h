@@ -21,7 +21,7 @@ public:
         int selector;
     };
     Band band_of(int row) const;
-    // Gives the rows of a column the colour.
+    // Gives a cell the colour, and its record the selector.
     void paint(int row, int col, const Band& band);
 
 private:

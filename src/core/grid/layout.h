@@ -12,6 +12,7 @@
 
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace grid {
@@ -29,17 +30,18 @@ public:
     grid::Slots Slots;
     bool KeepCellDims = false; // on during a jump, which keeps widths and heights
 
-    // How the calendar is laid out. All of this takes effect with the next Initialize_Calendar.
+    // How the calendar is laid out. The grid takes it over with the next Initialize_Calendar.
     int NumDays() const { return NumDays_; } // 7 in the weekly view, 1 in the daily view
     void NumDays(int days) { NumDays_ = days; }
     std::string_view view_name() const; // the view's word in the names of keys
     // A row for each user in each slot, or rows that all users share.
     bool OneRowPerUser() const { return OneRowPerUser_; }
     void OneRowPerUser(bool on);
-    int FixedCols() const { return lines_.fixed_cols(); }                  // 2 with OneRowPerUser, else 1
-    const std::string& DaysOff() const { return DaysOff_; }                // see next line
-    void DaysOff(std::string weekdays) { DaysOff_ = std::move(weekdays); } // digits, 1 Sunday: "17"
-    int StdColWidth() const { return StdColWidth_; }                       // twips
+    int FixedCols() const { return lines_.fixed_cols(); } // 2 with OneRowPerUser, else 1
+    // The weekdays that are hidden, as digits, 1 Sunday: "17".
+    const std::string& DaysOff() const { return DaysOff_; }
+    void DaysOff(std::string weekdays) { DaysOff_ = std::move(weekdays); }
+    int StdColWidth() const { return StdColWidth_; } // twips
     void StdColWidth(int twips) { StdColWidth_ = twips; }
     int StdRowHeight() const { return StdRowHeight_; }
     void StdRowHeight(int twips) { StdRowHeight_ = twips; }

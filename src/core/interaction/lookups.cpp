@@ -1,6 +1,6 @@
 #include "core/interaction/lookups.h"
 
-#include "core/table/selection.h"
+#include "core/table/selected_cells.h"
 #include "core/values/ids.h"
 #include "core/values/text.h"
 #include "core/values/value.h"

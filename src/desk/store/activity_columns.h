@@ -1,7 +1,7 @@
 #pragma once
 
 #include "desk/store/activity_reading.h"
-#include "desk/store/connection.h"
+#include "desk/store/sqlite_connection.h"
 
 #include <algorithm>
 

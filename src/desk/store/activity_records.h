@@ -14,7 +14,7 @@ namespace store {
 class ActivityRecords {
 public:
     // The clock lives as long as the records.
-    ActivityRecords(Connection& connection, Transactions& transactions, const Clock& clock)
+    ActivityRecords(SqliteConnection& connection, Transactions& transactions, const Clock& clock)
         : connection_(connection), transactions_(transactions), clock_(clock) {}
 
     std::vector<Activity> activities(const ActivityQuery& query);
@@ -30,7 +30,7 @@ private:
     void write_lists(const Activity& activity);
     void touch(const std::string& activity);
 
-    Connection& connection_;
+    SqliteConnection& connection_;
     Transactions& transactions_;
     const Clock& clock_;
 };

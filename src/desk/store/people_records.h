@@ -13,7 +13,7 @@ namespace store {
 // The store's users, groups, contacts and notes, as Store tells of them.
 class PeopleRecords {
 public:
-    PeopleRecords(Connection& connection, Transactions& transactions)
+    PeopleRecords(SqliteConnection& connection, Transactions& transactions)
         : connection_(connection), transactions_(transactions) {}
 
     std::vector<User> users();
@@ -33,7 +33,7 @@ private:
     std::vector<std::string> members(const std::string& group);
     void write_members(const std::string& group, const std::vector<std::string>& contacts);
 
-    Connection& connection_;
+    SqliteConnection& connection_;
     Transactions& transactions_;
 };
 

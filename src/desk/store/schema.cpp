@@ -17,7 +17,7 @@ values::Failure failure(const std::string& sentence) {
     return values::Failure(values::FailureNumber::automation, sentence);
 }
 
-int header_number(Connection& connection, std::string_view sql) {
+int header_number(SqliteConnection& connection, std::string_view sql) {
     Rows rows = connection.query(sql);
     return rows.step() ? rows.small_number(0) : 0;
 }
@@ -31,17 +31,17 @@ void make_empty_file(const std::string& path) {
     ::close(file);
 }
 
-std::unique_ptr<Connection> connect(const std::string& path, Connection::Mode mode) {
-    auto connection = std::make_unique<Connection>(path, mode);
+std::unique_ptr<SqliteConnection> connect(const std::string& path, SqliteConnection::Mode mode) {
+    auto connection = std::make_unique<SqliteConnection>(path, mode);
     connection->execute(std::string(sql::set_up));
     return connection;
 }
 
 // A database whose folder can't be written is refused by the engine, which wants to lay its log beside it. With
 // no log there, nobody has the file open, and it can be read as it is.
-std::unique_ptr<Connection> connect_for_reading_too(const std::string& path) {
+std::unique_ptr<SqliteConnection> connect_for_reading_too(const std::string& path) {
     try {
-        auto connection = connect(path, Connection::Mode::read_write);
+        auto connection = connect(path, SqliteConnection::Mode::read_write);
         header_number(*connection, sql::schema_version);
         return connection;
     } catch (const values::Failure&) {
@@ -53,7 +53,7 @@ std::unique_ptr<Connection> connect_for_reading_too(const std::string& path) {
         if (!can_be_read || has_log || can_hold_log)
             throw;
     }
-    return connect(path, Connection::Mode::read_only_snapshot);
+    return connect(path, SqliteConnection::Mode::read_only_snapshot);
 }
 
 void require_file(const std::string& path) {
@@ -74,7 +74,7 @@ const std::vector<Migration>& migrations() {
     return all;
 }
 
-void migrate(Connection& connection, const std::vector<Migration>& migrations) {
+void migrate(SqliteConnection& connection, const std::vector<Migration>& migrations) {
     if (header_number(connection, sql::schema_version) == migrations.back().to)
         return;
     connection.execute(std::string(sql::begin));
@@ -96,10 +96,10 @@ void migrate(Connection& connection, const std::vector<Migration>& migrations) {
     }
 }
 
-std::unique_ptr<Connection> create_database(const std::string& path) {
+std::unique_ptr<SqliteConnection> create_database(const std::string& path) {
     make_empty_file(path);
     try {
-        auto connection = connect(path, Connection::Mode::read_write);
+        auto connection = connect(path, SqliteConnection::Mode::read_write);
         connection->run(sql::write_ahead);
         migrate(*connection, migrations());
         return connection;
@@ -111,7 +111,7 @@ std::unique_ptr<Connection> create_database(const std::string& path) {
     }
 }
 
-std::unique_ptr<Connection> open_database(const std::string& path) {
+std::unique_ptr<SqliteConnection> open_database(const std::string& path) {
     require_file(path);
     auto connection = connect_for_reading_too(path);
     if (header_number(*connection, sql::application_id) != application_id)

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "desk/store/connection.h"
+#include "desk/store/sqlite_connection.h"
 
 #include <memory>
 #include <string>
@@ -21,11 +21,11 @@ struct Migration {
 const std::vector<Migration>& migrations(); // by rising version, the first makes the tables of an empty file
 
 // Runs the migrations that the file hasn't had, all of them or, at a failure, none.
-void migrate(Connection& connection, const std::vector<Migration>& migrations);
+void migrate(SqliteConnection& connection, const std::vector<Migration>& migrations);
 
 // Makes a file with empty tables; a failure leaves no file. Opens an existing one, looks whether it is a contact
 // database that this program understands, and brings it up to date.
-std::unique_ptr<Connection> create_database(const std::string& path);
-std::unique_ptr<Connection> open_database(const std::string& path);
+std::unique_ptr<SqliteConnection> create_database(const std::string& path);
+std::unique_ptr<SqliteConnection> open_database(const std::string& path);
 
 } // namespace store

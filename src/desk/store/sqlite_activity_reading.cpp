@@ -35,7 +35,7 @@ ActivityRow row_of(const Rows& rows) {
 
 class SqliteActivityReading final : public ActivityReading {
 public:
-    explicit SqliteActivityReading(Connection& connection) : connection_(connection) {}
+    explicit SqliteActivityReading(SqliteConnection& connection) : connection_(connection) {}
 
     void each_entry(const std::function<void(const ActivityEntry&)>& take) override {
         each_entry_in(connection_.query(sql::entries()), take);
@@ -137,14 +137,14 @@ private:
             take(row_of(rows));
     }
 
-    Connection& connection_;
+    SqliteConnection& connection_;
     std::vector<int> fields_in_sql_; // mostly the same in a row
     std::string contact_sql_;
 };
 
 } // namespace
 
-std::unique_ptr<ActivityReading> make_activity_reading(Connection& connection) {
+std::unique_ptr<ActivityReading> make_activity_reading(SqliteConnection& connection) {
     return std::make_unique<SqliteActivityReading>(connection);
 }
 

@@ -14,7 +14,7 @@ std::unique_ptr<Store> Store::open(const std::string& path, Clock clock) {
     return std::make_unique<SqliteStore>(open_database(path), std::move(clock));
 }
 
-SqliteStore::SqliteStore(std::unique_ptr<Connection> connection, Clock clock)
+SqliteStore::SqliteStore(std::unique_ptr<SqliteConnection> connection, Clock clock)
     : connection_(std::move(connection)), clock_(std::move(clock)), reading_(make_activity_reading(*connection_)),
       toolbar_commands_(make_toolbar_commands(*connection_, *this)) {}
 

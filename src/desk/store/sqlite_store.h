@@ -2,8 +2,8 @@
 
 #include "desk/store/activity_reading.h"
 #include "desk/store/activity_records.h"
-#include "desk/store/connection.h"
 #include "desk/store/people_records.h"
+#include "desk/store/sqlite_connection.h"
 #include "desk/store/store.h"
 #include "desk/store/toolbar_commands.h"
 #include "desk/store/transactions.h"
@@ -13,7 +13,7 @@ namespace store {
 // The store over a SQLite file. Each kind of record has a class of its own.
 class SqliteStore final : public Store {
 public:
-    SqliteStore(std::unique_ptr<Connection> connection, Clock clock);
+    SqliteStore(std::unique_ptr<SqliteConnection> connection, Clock clock);
 
     const std::string& path() const override { return connection_->path(); }
     bool is_read_only() const override { return connection_->is_read_only(); }
@@ -51,7 +51,7 @@ public:
     ToolbarCommands& toolbar_commands() override { return *toolbar_commands_; }
 
 private:
-    std::unique_ptr<Connection> connection_;
+    std::unique_ptr<SqliteConnection> connection_;
     Clock clock_;
     Transactions transactions_{*connection_};
     PeopleRecords people_{*connection_, transactions_};
@@ -60,7 +60,7 @@ private:
     std::unique_ptr<ToolbarCommands> toolbar_commands_;
 };
 
-std::unique_ptr<ActivityReading> make_activity_reading(Connection& connection);
-std::unique_ptr<ToolbarCommands> make_toolbar_commands(Connection& connection, Store& store);
+std::unique_ptr<ActivityReading> make_activity_reading(SqliteConnection& connection);
+std::unique_ptr<ToolbarCommands> make_toolbar_commands(SqliteConnection& connection, Store& store);
 
 } // namespace store

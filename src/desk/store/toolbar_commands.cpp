@@ -11,7 +11,7 @@ constexpr int last_view = 6;
 
 class SqliteToolbarCommands final : public ToolbarCommands {
 public:
-    SqliteToolbarCommands(Connection& connection, Store& store) : connection_(connection), store_(store) {}
+    SqliteToolbarCommands(SqliteConnection& connection, Store& store) : connection_(connection), store_(store) {}
 
     std::vector<ToolbarCommand> all() override { return read(connection_.query(sql::commands)); }
 
@@ -63,13 +63,13 @@ private:
         return result;
     }
 
-    Connection& connection_;
+    SqliteConnection& connection_;
     Store& store_;
 };
 
 } // namespace
 
-std::unique_ptr<ToolbarCommands> make_toolbar_commands(Connection& connection, Store& store) {
+std::unique_ptr<ToolbarCommands> make_toolbar_commands(SqliteConnection& connection, Store& store) {
     return std::make_unique<SqliteToolbarCommands>(connection, store);
 }
 

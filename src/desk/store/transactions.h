@@ -1,6 +1,6 @@
 #pragma once
 
-#include "desk/store/connection.h"
+#include "desk/store/sqlite_connection.h"
 
 #include <cstdint>
 #include <functional>
@@ -14,7 +14,7 @@ namespace store {
 // their first use in a transaction and written at its end: nobody else can change them meanwhile.
 class Transactions {
 public:
-    explicit Transactions(Connection& connection) : connection_(connection) {}
+    explicit Transactions(SqliteConnection& connection) : connection_(connection) {}
 
     // As the store's members of these names.
     void together(const std::function<void()>& block);
@@ -32,7 +32,7 @@ private:
     void roll_back();
     std::int64_t& counter(const std::string& name);
 
-    Connection& connection_;
+    SqliteConnection& connection_;
     bool is_reading_ = false; // between begin_reading and its end
     int open_blocks_ = 0;
     std::map<std::string, std::int64_t> counters_; // those used in this transaction

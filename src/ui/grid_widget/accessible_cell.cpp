@@ -1,6 +1,6 @@
 #include "ui/grid_widget/accessible_cell.h"
 
-#include "core/table/selection.h"
+#include "core/table/selected_cells.h"
 
 namespace ui {
 

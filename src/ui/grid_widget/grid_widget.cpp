@@ -1,6 +1,6 @@
 #include "ui/grid_widget/grid_widget.h"
 
-#include "core/table/selection.h"
+#include "core/table/selected_cells.h"
 #include "ui/grid_widget/accessible_grid.h"
 #include "ui/grid_widget/cursor_keys.h"
 #include "ui/picture/style.h"

@@ -1,6 +1,6 @@
 #include "ui/picture/grid_painter.h"
 
-#include "core/table/selection.h"
+#include "core/table/selected_cells.h"
 #include "ui/picture/style.h"
 
 #include <QPaintEngine>

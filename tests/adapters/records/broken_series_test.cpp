@@ -1,5 +1,5 @@
 #include "core/shell/shell_world.h"
-#include "desk/store/connection.h"
+#include "desk/store/sqlite_connection.h"
 #include "support/half_real_server.h"
 #include "support/temporary_database.h"
 
@@ -49,7 +49,7 @@ protected:
         std::string id =
             add(broken_hour,
                 {.kind = broken.kind, .days_of_week = 127, .weeks_of_month = 7, .days_of_month = 0x7FFFFFFF});
-        store::Connection(database.path(), store::Connection::Mode::read_write)
+        store::SqliteConnection(database.path(), store::SqliteConnection::Mode::read_write)
             .run("UPDATE activities SET " + broken.change + " WHERE id = ?", id);
         return id;
     }

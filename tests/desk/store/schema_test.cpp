@@ -9,8 +9,8 @@
 #include <algorithm>
 #include <filesystem>
 
-using store::Connection;
 using store::Migration;
+using store::SqliteConnection;
 using store::Store;
 using support::content_of;
 using support::store_failure;
@@ -30,13 +30,13 @@ void run_script(const std::string& path, const std::string& script) {
     sqlite3_close(database);
 }
 
-std::int64_t number(Connection& connection, std::string_view sql) {
+std::int64_t number(SqliteConnection& connection, std::string_view sql) {
     store::Rows rows = connection.query(sql);
     return rows.step() ? rows.number(0) : -1;
 }
 
 std::string tables_of(const std::string& path) {
-    Connection connection(path, Connection::Mode::read_write);
+    SqliteConnection connection(path, SqliteConnection::Mode::read_write);
     std::string result;
     store::Rows rows =
         connection.query("SELECT type, name, sql FROM sqlite_master WHERE sql IS NOT NULL ORDER BY type, name");
@@ -205,11 +205,11 @@ protected:
     std::vector<Migration> steps = {{1, "CREATE TABLE first (a)"},
                                     {2, "INSERT INTO first VALUES (20); CREATE TABLE second (a)"},
                                     {3, "INSERT INTO second SELECT a + 1 FROM first"}};
-    std::unique_ptr<Connection> connection;
+    std::unique_ptr<SqliteConnection> connection;
 
     void SetUp() override {
         write_file(path, "");
-        connection = std::make_unique<Connection>(path, Connection::Mode::read_write);
+        connection = std::make_unique<SqliteConnection>(path, SqliteConnection::Mode::read_write);
     }
     std::int64_t number(std::string_view sql) { return ::number(*connection, sql); }
 };

@@ -1,14 +1,14 @@
 #include "desk/store/sql.h"
 
-#include "desk/store/connection.h"
 #include "desk/store/contact_fields.h"
+#include "desk/store/sqlite_connection.h"
 #include "support/temporary_database.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 
-using store::Connection;
+using store::SqliteConnection;
 namespace sql = store::sql;
 
 namespace {
@@ -16,7 +16,7 @@ namespace {
 // How the engine goes about a statement. The parameters don't matter for that.
 std::string plan_of(std::string_view statement) {
     const support::TemporaryDatabase database;
-    Connection connection(database.path(), Connection::Mode::read_write);
+    SqliteConnection connection(database.path(), SqliteConnection::Mode::read_write);
     store::Rows rows = connection.query("EXPLAIN QUERY PLAN " + std::string(statement));
     std::string plan;
     while (rows.step())

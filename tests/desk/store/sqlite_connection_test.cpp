@@ -1,12 +1,12 @@
-#include "desk/store/connection.h"
+#include "desk/store/sqlite_connection.h"
 
 #include "desk/store/expect_failure.h"
 #include "support/temporary_database.h"
 
 #include <gtest/gtest.h>
 
-using store::Connection;
 using store::Rows;
+using store::SqliteConnection;
 using support::store_failure;
 using support::TemporaryDatabase;
 
@@ -15,7 +15,7 @@ namespace {
 class Connections : public testing::Test {
 protected:
     TemporaryDatabase database;
-    Connection connection{database.path(), Connection::Mode::read_write};
+    SqliteConnection connection{database.path(), SqliteConnection::Mode::read_write};
 };
 
 } // namespace

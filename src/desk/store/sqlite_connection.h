@@ -20,14 +20,14 @@ struct Prepared {
     ~Prepared();
 };
 
-class Connection;
+class SqliteConnection;
 
 // The rows of one run of a statement. Columns count from 0.
 class Rows {
 public:
     // The arguments are the statement's parameters in their order; absent optionals and nullptr are NULL.
     template <typename... Arguments>
-    Rows(Connection& connection, std::shared_ptr<Prepared> prepared, const Arguments&... arguments)
+    Rows(SqliteConnection& connection, std::shared_ptr<Prepared> prepared, const Arguments&... arguments)
         : connection_(connection), use_{std::move(prepared)} {
         bind_all(arguments...);
     }
@@ -64,22 +64,22 @@ private:
         ~Use();
     };
 
-    Connection& connection_;
+    SqliteConnection& connection_;
     Use use_;
     int next_parameter_ = 1;
 };
 
 // A connection to a database file. Everything that goes wrong is a values::Failure with 440 and a sentence that
 // names the file.
-class Connection {
+class SqliteConnection {
 public:
     enum class Mode { read_write, read_only_snapshot };
 
     // The file must exist. A snapshot is for a file that nobody writes and beside which nothing can be written.
-    Connection(const std::string& path, Mode mode);
-    ~Connection();
-    Connection(const Connection&) = delete;
-    Connection& operator=(const Connection&) = delete;
+    SqliteConnection(const std::string& path, Mode mode);
+    ~SqliteConnection();
+    SqliteConnection(const SqliteConnection&) = delete;
+    SqliteConnection& operator=(const SqliteConnection&) = delete;
 
     const std::string& path() const { return path_; }
     bool is_read_only() const;

@@ -1,4 +1,4 @@
-#include "desk/store/connection.h"
+#include "desk/store/sqlite_connection.h"
 
 #include "core/values/failure.h"
 
@@ -123,9 +123,10 @@ void Rows::bind(std::nullptr_t) {
         connection_.fail(result);
 }
 
-struct Connection::Wait : Waiting {};
+struct SqliteConnection::Wait : Waiting {};
 
-Connection::Connection(const std::string& path, Mode mode) : path_(path), wait_(std::make_unique<Wait>()) {
+SqliteConnection::SqliteConnection(const std::string& path, Mode mode)
+    : path_(path), wait_(std::make_unique<Wait>()) {
     const std::string name = mode == Mode::read_write ? path : snapshot_uri(path);
     const int flags = mode == Mode::read_write ? SQLITE_OPEN_READWRITE : SQLITE_OPEN_READONLY | SQLITE_OPEN_URI;
     sqlite3* opened = nullptr;
@@ -142,22 +143,22 @@ Connection::Connection(const std::string& path, Mode mode) : path_(path), wait_(
     sqlite3_db_config(opened, SQLITE_DBCONFIG_ENABLE_VIEW, 0, nullptr);
 }
 
-Connection::~Connection() = default;
+SqliteConnection::~SqliteConnection() = default;
 
-void Connection::Closer::operator()(sqlite3* database) const { sqlite3_close_v2(database); }
+void SqliteConnection::Closer::operator()(sqlite3* database) const { sqlite3_close_v2(database); }
 
-bool Connection::is_read_only() const { return sqlite3_db_readonly(database_.get(), "main") == 1; }
+bool SqliteConnection::is_read_only() const { return sqlite3_db_readonly(database_.get(), "main") == 1; }
 
-bool Connection::in_transaction() const { return sqlite3_get_autocommit(database_.get()) == 0; }
+bool SqliteConnection::in_transaction() const { return sqlite3_get_autocommit(database_.get()) == 0; }
 
-std::int64_t Connection::changed_rows() const { return sqlite3_changes64(database_.get()); }
+std::int64_t SqliteConnection::changed_rows() const { return sqlite3_changes64(database_.get()); }
 
-void Connection::execute(const std::string& script) {
+void SqliteConnection::execute(const std::string& script) {
     if (const int result = sqlite3_exec(database_.get(), script.c_str(), nullptr, nullptr, nullptr))
         fail(result);
 }
 
-std::shared_ptr<Prepared> Connection::prepared(std::string_view sql) {
+std::shared_ptr<Prepared> SqliteConnection::prepared(std::string_view sql) {
     std::shared_ptr<Prepared>& kept = statements_[std::string(sql)];
     if (kept && !kept->in_use) {
         kept->in_use = true;
@@ -173,7 +174,7 @@ std::shared_ptr<Prepared> Connection::prepared(std::string_view sql) {
     return fresh;
 }
 
-void Connection::fail(int result_code) const {
+void SqliteConnection::fail(int result_code) const {
     const char* message = database_ ? sqlite3_errmsg(database_.get()) : sqlite3_errstr(result_code);
     throw values::Failure(values::FailureNumber::automation, sentence_for(result_code, path_, message));
 }

@@ -225,3 +225,22 @@ TEST_F(FileExists, TakesFilesAndFolders) {
     EXPECT_TRUE(ini.FileExists(folder.path()));
     EXPECT_FALSE(ini.FileExists(""));
 }
+
+TEST_F(WriteKeyValue, TellsOnceOfEachFileThatCantBeWritten) {
+    Names told;
+    IniLib telling(files, guarded, [&](const std::string& file) { told.push_back(file); });
+    telling.SettingsFile = folder.file("missing/Orvanta.ini");
+    std::string second = folder.file("missing/second.ini");
+    EXPECT_FALSE(telling.WriteKeyValue("s", "a", "1"));
+    EXPECT_FALSE(telling.WriteKeyValue("s", "b", "1"));
+    EXPECT_FALSE(telling.WriteKeyValue("s", "a", "1", second));
+    EXPECT_EQ(told, (Names{telling.SettingsFile, second}));
+}
+
+TEST_F(WriteKeyValue, TellsNothingOfAValueThatCantStandInAFile) {
+    Names told;
+    IniLib telling(files, guarded, [&](const std::string& file) { told.push_back(file); });
+    telling.SettingsFile = path;
+    EXPECT_FALSE(telling.WriteKeyValue("s", "a", "two\nlines"));
+    EXPECT_TRUE(told.empty());
+}

@@ -76,7 +76,7 @@ private:
     std::vector<std::string> rows() {
         store::ActivityQuery query{.contact = contact};
         if (!filter.users.empty())
-            query.user = filter.users;
+            query.users = {filter.users};
         std::vector<std::string> ids;
         for (const store::Activity& activity : store_.activities(query))
             if ((filter.mask & act::filter_mask::of(activity.type)) &&

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace act {
 
@@ -66,6 +67,18 @@ public:
     // Of the last look, for Activity::IdsGoneSince: greater after each change, and never the same for two
     // states of the database. Meaningful while it stays open.
     virtual std::int64_t Moment() { return 0; }
+
+    // An activity that stands for an occurrence while it is edited is remembered durably. Its program says when it
+    // is made, so that what changes it afterwards counts as the user's work, and when it is kept or gone. Those of
+    // programs that died before that are taken back: where the user changed nothing, the activity goes and the
+    // series has its occurrence again; the others stay, and are given.
+    struct LeftInstance {
+        std::string regarding;
+        values::DateTime day;
+    };
+    virtual void Instance_Is_Made([[maybe_unused]] const std::string& instance) {}
+    virtual void Forget_Instance([[maybe_unused]] const std::string& instance) {}
+    virtual std::vector<LeftInstance> Take_Back_Instances() { return {}; }
 };
 
 } // namespace act

@@ -1,5 +1,6 @@
 #include "core/shell/start_up.h"
 
+#include "core/act/left_instances.h"
 #include "core/settings/catalogue.h"
 #include "core/shell/geometry.h"
 #include "core/shell/jump_targets.h"
@@ -63,6 +64,7 @@ void StartUp::Form_Load() {
         step = 170;
         engine_.act.users.map_users();
         step = 180;
+        act::take_back_instances(here_, engine_.act.session);
         engine_.refresh.Refresh_Data();
         step = 190;
         engine_.refresh_timer.start();

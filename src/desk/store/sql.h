@@ -17,6 +17,8 @@ inline constexpr std::string_view set_up = "PRAGMA foreign_keys = ON;"
                                            "PRAGMA cell_size_check = ON;"
                                            "PRAGMA cache_size = -32000;";
 inline constexpr std::string_view write_ahead = "PRAGMA journal_mode = WAL";
+// For a file that nobody else knows of yet.
+inline constexpr std::string_view without_journal = "PRAGMA journal_mode = OFF";
 inline constexpr std::string_view application_id = "PRAGMA application_id";
 inline constexpr std::string_view schema_version = "PRAGMA user_version";
 inline constexpr std::string_view data_version = "PRAGMA data_version";
@@ -26,6 +28,7 @@ const std::vector<std::string_view>& tables();
 std::string probe(std::string_view table);
 std::string_view create_tables(); // those of version 1
 std::string_view change_to_version_2();
+std::string_view change_to_version_4();
 
 inline constexpr std::string_view begin = "BEGIN IMMEDIATE";
 inline constexpr std::string_view begin_reading = "BEGIN";
@@ -68,7 +71,10 @@ inline constexpr std::string_view add_note =
 
 // Activities, whole: the order of the columns in `activities`, `activity`, `add_activity`, `update_activity`
 // (which ends with the id and the revision as read).
-std::string activities(const ActivityQuery& query); // its values are parameters: from, to, user, contact twice
+// The values of a query are parameters: from, to, users, contact twice.
+std::string activities(const ActivityQuery& query);
+std::string activities(const ActivityQuery& query, int skip, int most);
+std::string count_activities(const ActivityQuery& query); // one number
 std::string_view activity();
 std::string_view add_activity();
 std::string_view update_activity();
@@ -127,5 +133,14 @@ inline constexpr std::string_view place_command =
     "INSERT INTO toolbar_places (command, place, view) VALUES (?, ?, ?) ON CONFLICT DO NOTHING";
 inline constexpr std::string_view displace_command =
     "DELETE FROM toolbar_places WHERE command = ? AND place = ? AND view = ?";
+
+inline constexpr std::string_view instances =
+    "SELECT instance, series, day, owner, settled_revision FROM temporary_instances ORDER BY instance";
+inline constexpr std::string_view remember_instance =
+    "INSERT INTO temporary_instances (instance, series, day, owner) VALUES (?, ?, ?, ?)";
+inline constexpr std::string_view settle_instance =
+    "UPDATE temporary_instances SET settled_revision = (SELECT revision FROM activities WHERE id = instance)"
+    " WHERE instance = ?";
+inline constexpr std::string_view forget_instance = "DELETE FROM temporary_instances WHERE instance = ?";
 
 } // namespace store::sql

@@ -1,5 +1,6 @@
 #include "desk/store/sqlite_store.h"
 
+#include "desk/store/database_copy.h"
 #include "desk/store/schema.h"
 
 #include <utility>
@@ -16,6 +17,11 @@ std::unique_ptr<Store> Store::open(const std::string& path, Clock clock) {
 
 SqliteStore::SqliteStore(std::unique_ptr<SqliteConnection> connection, Clock clock)
     : connection_(std::move(connection)), clock_(std::move(clock)), reading_(make_activity_reading(*connection_)),
-      toolbar_commands_(make_toolbar_commands(*connection_, *this)) {}
+      toolbar_commands_(make_toolbar_commands(*connection_, *this)),
+      temporary_instances_(make_temporary_instances(*connection_, *this)) {}
+
+bool SqliteStore::save_copy(const std::string& path, const Progress& progress) {
+    return copy_database(*connection_, path, progress);
+}
 
 } // namespace store

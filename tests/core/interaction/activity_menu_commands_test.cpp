@@ -253,6 +253,17 @@ TEST_F(ActivityCommands, ClearOfAnOccurrenceDeletedInTheDialogAndAnsweredWithCan
     EXPECT_TRUE(box.shown.empty());
 }
 
+TEST_F(ActivityCommands, ClearOfAnOccurrenceHasItsInstanceRememberedUntilTheDialogHasClosed) {
+    const std::string series = add(daily(8, 9));
+    open();
+    select(row_of(1), col_of(10));
+    running_desk.on_command = [&](CommandNumber) { EXPECT_EQ(remembered_instances(), 1); };
+    hands.clearing.mnupopClear_Click();
+    EXPECT_EQ(running_desk.commands.size(), 1U);
+    EXPECT_EQ(remembered_instances(), 0);
+    EXPECT_EQ(all().size(), 2U);
+}
+
 TEST_F(ActivityCommands, ClearOfAnOccurrenceAsksTheDeskInThisOrder) {
     have(daily(8, 9));
     std::string instance;

@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 #include <sqlite3.h>
+#include <sys/stat.h>
 
 #include <algorithm>
 #include <filesystem>
@@ -52,6 +53,18 @@ void expect_failure_with(const std::string& path, const std::string& part) {
 }
 
 } // namespace
+
+TEST(Schema, MakesFilesForTheirOwnerAlone) {
+    const mode_t usual = ::umask(0);
+    TemporaryDatabase database;
+    database.store().add(store::Contact{});
+    for (const char* ending : {"", "-wal", "-shm"}) {
+        struct stat status = {};
+        ASSERT_EQ(::stat((database.path() + ending).c_str(), &status), 0) << ending;
+        EXPECT_EQ(status.st_mode & 0777, 0600U) << ending;
+    }
+    ::umask(usual);
+}
 
 TEST(Schema, RefusesAMissingFile) {
     const TemporaryFolder folder;

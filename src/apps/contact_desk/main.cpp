@@ -1,4 +1,5 @@
 #include "adapters/qt/appearance.h"
+#include "adapters/qt/end_requests.h"
 #include "adapters/qt/qt_locale.h"
 #include "apps/contact_desk/options.h"
 #include "core/values/failure.h"
@@ -12,7 +13,9 @@
 #include <QApplication>
 #include <QMessageBox>
 
+#include <functional>
 #include <iostream>
+#include <memory>
 
 namespace {
 
@@ -68,6 +71,12 @@ int run(const apps::ShowWindow& task, int argc, char** argv) {
         std::cerr << "contact-desk: there is no session bus, so other programs can't reach the contact desk.\n";
         break;
     }
+    std::unique_ptr<qt::EndRequests> end_requests;
+    const std::function<void()> hear_requests = [&] {
+        end_requests = qt::make_end_requests(
+            [&] { window.end([&] { QMetaObject::invokeMethod(&window, hear_requests, Qt::QueuedConnection); }); });
+    };
+    hear_requests();
     return QApplication::exec();
 }
 

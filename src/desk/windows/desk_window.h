@@ -34,6 +34,11 @@ public:
     // Opens a database. A failure shows its box, and what was open stays so.
     void open(const std::string& path) { database_commands_.open(path); }
 
+    // Closes the window for a program that was asked to end. What is typed in a dialog is stored or thrown away as
+    // the user says; other dialogs are cancelled. Calls `stays` when the user decides to stay, or it can't be
+    // stored.
+    void end(const std::function<void()>& stays);
+
     model::Desk& desk() { return *desk_; }
 
 protected:
@@ -49,6 +54,7 @@ private:
     void on(QAction* action, std::function<void()> work); // with the box for failures
 
     void about();
+    bool settle(QDialog& dialog);
 
     void show_view(QWidget* view);
     void come_forward(); // before the other windows

@@ -270,3 +270,57 @@ TEST_F(DeskWindowTest, ImportsOnlyWhereThereIsAnImport) {
     DeskWindow other(database, [](store::Store&, const std::string&) { return std::string(); });
     EXPECT_TRUE(other.findChild<QAction*>("file_import")->isEnabled());
 }
+
+// The desk, asked to end while an activity is edited and something typed for it.
+class EndingDesk : public DeskWindowTest {
+protected:
+    EndingDesk() {
+        window->open(path);
+        window->desk().contact_view().go_to(amber);
+        window->desk().contact_view().select_activity(1, true);
+        window->desk().run_command(act::CommandNumber::edit_activity, [this] { events.push_back("finished"); });
+        retype(child<QLineEdit>(*dialog(), "regarding_edit"), "Show both plans");
+    }
+    void end(QMessageBox::StandardButton answer) {
+        with_dialogs({[answer](QWidget& box) {
+                         EXPECT_TRUE(
+                             child<QLabel>(box, "qt_msgbox_label")->text().contains("Store what is typed"));
+                         click(dynamic_cast<QMessageBox&>(box).button(answer));
+                     }},
+                     [&] { window->end([this] { ++stays; }); });
+    }
+    std::string regarding() { return elsewhere()->activity(meeting)->regarding; }
+
+    int stays = 0;
+};
+
+TEST_F(EndingDesk, StoresWhatWasTypedWhenTheUserSaysSo) {
+    end(QMessageBox::Save);
+    EXPECT_EQ(regarding(), "Show both plans");
+    EXPECT_EQ(events, (Events{"finished", "wants to close", "closed"}));
+    EXPECT_EQ(stays, 0);
+}
+
+TEST_F(EndingDesk, ThrowsItAwayWhenTheUserSaysSo) {
+    end(QMessageBox::Discard);
+    EXPECT_EQ(regarding(), "Show the plan");
+    EXPECT_EQ(events, (Events{"finished", "wants to close", "closed"}));
+}
+
+TEST_F(EndingDesk, StaysWithTheDialogWhenTheUserSaysSo) {
+    end(QMessageBox::Cancel);
+    EXPECT_TRUE(window->isVisible());
+    ASSERT_NE(dialog(), nullptr);
+    EXPECT_EQ(child<QLineEdit>(*dialog(), "regarding_edit")->text(), "Show both plans");
+    EXPECT_EQ(events, Events{});
+    EXPECT_EQ(stays, 1);
+}
+
+TEST_F(DeskWindowTest, AskedToEndCancelsAQuestionThatIsOpenFirst) {
+    QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+    window->open(path);
+    QTimer::singleShot(100, [this] { window->end([] { FAIL(); }); });
+    action("file_open")->trigger(); // returns when its dialog has closed
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !window->isVisible(); }, 5000));
+    EXPECT_EQ(events, (Events{"wants to close", "closed"}));
+}

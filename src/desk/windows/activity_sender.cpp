@@ -20,7 +20,7 @@ namespace field = store::contact_field;
 
 void write(const QString& path, const QByteArray& bytes) {
     QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.flush() || !file.commit())
         model::refuse("The file can't be written: " + stored(path) + ": " + stored(file.errorString()));
 }
 

@@ -190,3 +190,57 @@ TEST_F(ActivityListTest, IsEmptyWhenTheDatabaseCloses) {
     EXPECT_EQ(list.row_count(), 0);
     EXPECT_EQ(child<QComboBox>(list, "user_box")->count(), 1);
 }
+
+// Beside the others, one every five minutes from tomorrow on.
+class ManyActivities : public ActivityListTest {
+protected:
+    static constexpr int many = 3000;
+
+    ManyActivities() {
+        const auto team = elsewhere();
+        team->together([&] {
+            for (int i = 0; i < many; ++i)
+                team->add(sample_activity(store::ActivityType::call, at(3, 20).plus_minutes(5 * i),
+                                          std::to_string(many - i), anna, {amber}));
+        });
+        database.refresh();
+        show(list);
+    }
+    RecordTable& table() { return *child<RecordTable>(list, "activity_table"); }
+
+    ActivityList list{database, Scope::everybody};
+};
+
+TEST_F(ManyActivities, HaveTheirRowsAskedForAsTheyComeIntoSight) {
+    EXPECT_EQ(child<QLabel>(list, "count_label")->text(), "3003 activities");
+    const int at_first = list.row_count();
+    EXPECT_LT(at_first, 1500);
+    EXPECT_EQ(list.activity(3).regarding, "3000");
+    table().scrollToBottom();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return list.row_count() > at_first; }, 5000));
+    EXPECT_EQ(list.activity(at_first).regarding, std::to_string(many - at_first + 3));
+}
+
+TEST_F(ManyActivities, KeepTheRowsThatWereAskedForWhenTheyAreReadAgain) {
+    table().scrollToBottom();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return list.row_count() > 600; }, 5000));
+    const int asked_for = list.row_count();
+    activity(*elsewhere(), store::ActivityType::call, at(3, 7), "Remind", anna, {amber});
+    database.refresh();
+    EXPECT_GE(list.row_count(), asked_for);
+    EXPECT_EQ(child<QLabel>(list, "count_label")->text(), "3004 activities");
+}
+
+TEST_F(ManyActivities, AreAllAskedForWhenAnotherOrderIsWanted) {
+    table().sortByColumn(date_column, Qt::DescendingOrder);
+    EXPECT_EQ(list.row_count(), 3003);
+    EXPECT_EQ(list.activity(0).regarding, "1");
+}
+
+TEST_F(ManyActivities, AreNotAskedForOnceTheDatabaseIsClosed) {
+    database.close();
+    EXPECT_EQ(list.row_count(), 0);
+    table().scrollToBottom();
+    QTest::qWait(50);
+    EXPECT_EQ(list.row_count(), 0);
+}

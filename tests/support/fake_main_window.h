@@ -63,6 +63,7 @@ public:
     void show_hourglass() override { calls.emplace_back("show_hourglass"); }
     void show_default_pointer() override { calls.emplace_back("show_default_pointer"); }
     void bring_to_front() override { calls.emplace_back("bring_to_front"); }
+    int event_loops() const override { return loops; }
 
     struct Place {
         int left = 0, top = 0, width = 18000, height = 11400;
@@ -75,6 +76,7 @@ public:
     std::string jump; // the entry that cboGoTo shows
     int cboGoTo_lines = 0;
     int unloads = 0;
+    int loops = 0;
     std::vector<std::string> calls;
     std::function<void()> Form_Unload;
     std::function<void(int)> chkView_Click, chkAMPM_Click;

@@ -2,6 +2,7 @@
 
 #include "support/fake_act_server.h"
 #include "support/fake_message_box.h"
+#include "support/fake_window.h"
 
 #include <gtest/gtest.h>
 
@@ -28,7 +29,8 @@ protected:
 
     support::FakeMessageBox box;
     host::ApplicationInfo application{.title = "Orvanta", .support_address = "help@example.org"};
-    host::Guard guarded{box, application};
+    support::FakeWindow window;
+    host::Guard guarded{box, application, window};
     support::FakeActData data;
     support::FakeApplicationState state;
     support::FakeServer server{data, state};

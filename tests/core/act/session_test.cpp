@@ -2,6 +2,7 @@
 
 #include "support/fake_act_server.h"
 #include "support/fake_message_box.h"
+#include "support/fake_window.h"
 
 #include <gtest/gtest.h>
 
@@ -12,7 +13,8 @@ protected:
     support::FakeMessageBox box;
     host::ApplicationInfo application{
         .title = "Orvanta", .major = 1, .minor = 0, .revision = 0, .support_address = "help@example.org"};
-    host::Guard guarded{box, application};
+    support::FakeWindow window;
+    host::Guard guarded{box, application, window};
     support::FakeActData data;
     support::FakeApplicationState state;
     support::FakeServer server{data, state};

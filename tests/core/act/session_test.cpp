@@ -61,13 +61,16 @@ TEST_F(SessionTest, ReleasesTheApplicationAndThenClosesTheDatabase) {
     EXPECT_FALSE(session.ActApp);
 }
 
-TEST_F(SessionTest, CannotCloseADatabaseThatNeverOpened) {
-    try {
-        session.Release();
-        FAIL() << "no failure";
-    } catch (const values::Failure& failure) {
-        EXPECT_EQ(failure.number(), 91);
-    }
+TEST_F(SessionTest, ReleasesTheApplicationAlsoWhereThereIsNoDatabase) {
+    data.failing = {"create database"};
+    session.Create_Database();
+    ASSERT_TRUE(session.ActApp);
+    data.calls.clear();
+    session.Release();
+    EXPECT_EQ(data.calls, std::vector<std::string>{"Application released"});
+    EXPECT_FALSE(session.ActContactView);
+    session.Release(); // nothing is left
+    EXPECT_EQ(data.calls.size(), 1U);
 }
 
 TEST_F(SessionTest, TakesANewActivityListInPlaceOfTheOld) {

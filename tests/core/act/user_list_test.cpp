@@ -114,6 +114,14 @@ TEST_F(UserListTest, RoundsARestOfHalfAnIdToTheEvenNumber) {
     EXPECT_EQ(users.NumUsers, 2);
 }
 
+TEST_F(UserListTest, CutsTheFilterByCharacters) {
+    data.users.push_back({"ÄRZTE-------", "Änne", "", ""});
+    have_filter("ÄRZTE-------BOB---------");
+    users.Initialize_Users(act::ShownUsers::of_the_filter);
+    EXPECT_EQ(shown(), (Texts{"Änne", "Bob"}));
+    EXPECT_EQ(users.NumUsers, 2);
+}
+
 TEST_F(UserListTest, MapsEveryUserBothWaysWhateverTheFilter) {
     have_filter("BOB---------");
     users.Initialize_Users(act::ShownUsers::of_the_filter);

@@ -6,6 +6,9 @@
 #include "desk/windows/conversions.h"
 #include "desk/windows/rows.h"
 #include "ui_activity_dialog.h"
+#include "widgets/date_field.h"
+
+#include <algorithm>
 
 namespace windows {
 namespace {
@@ -75,7 +78,7 @@ void ActivityDialog::show_activity() {
 
 void ActivityDialog::connect_parts() {
     connect(ui_->alarm_box, &QCheckBox::toggled, ui_->alarm_lead_box, &QWidget::setEnabled);
-    connect(ui_->date_edit, &DateField::date_changed, this,
+    connect(ui_->date_edit, &widgets::DateField::date_changed, this,
             [this] { ui_->recurring_tab->set_start(*ui_->date_edit->known_date()); });
 }
 

@@ -4,6 +4,7 @@
 #include "desk/windows/boxes.h"
 #include "desk/windows/conversions.h"
 #include "ui_recurrence_page.h"
+#include "widgets/date_field.h"
 
 #include <QGridLayout>
 
@@ -54,9 +55,10 @@ RecurrencePage::~RecurrencePage() = default;
 void RecurrencePage::show_rule(const store::Recurrence& rule, const std::vector<store::DateTime>& exceptions,
                                store::DateTime start, const values::Locale& locale) {
     build_ticks(locale);
+    given_ = {.rule = rule, .exceptions = exceptions, .start = start};
     start_ = start;
     locale_ = &locale;
-    for (DateField* field : {ui_->until_edit, ui_->exception_edit})
+    for (widgets::DateField* field : {ui_->until_edit, ui_->exception_edit})
         field->set_locale(locale);
     ui_->exception_edit->set_date(start);
     ui_->kind_box->setCurrentIndex(static_cast<int>(rule.kind));

@@ -17,9 +17,16 @@ public:
     int top() const override { return place.top; }
     int width() const override { return place.width; }
     int height() const override { return place.height; }
-    void set_left(int twips) override { place.left = twips; }
-    void set_top(int twips) override { place.top = twips; }
+    void set_left(int twips) override {
+        place.left = twips;
+        calls.emplace_back("set_left");
+    }
+    void set_top(int twips) override {
+        place.top = twips;
+        calls.emplace_back("set_top");
+    }
     void set_size(int width, int height) override {
+        calls.emplace_back("set_size");
         place.width = width;
         place.height = height;
     }

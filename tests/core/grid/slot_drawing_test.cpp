@@ -160,6 +160,16 @@ TEST_F(SlotDrawing, PassesOverAForeColourThatIsNoNumber) {
     EXPECT_TRUE(world.box.shown.empty());
 }
 
+TEST_F(SlotDrawing, PutsTheTextBackToTheTopLeftOfACellThatContinuedAnActivity) {
+    world.open_with_rows(1, 2);
+    world.calendar.msgSched.Row(2);
+    world.calendar.msgSched.Col(1);
+    world.calendar.msgSched.CellAlignment(table::Alignment::left_centre);
+    world.put(1, 1, {.id = "A1", .user = "a", .text = "x"});
+    draw(1, 1);
+    EXPECT_EQ(world.calendar.msgSched.cell(2, 1).alignment, table::Alignment::left_top);
+}
+
 TEST_F(SlotDrawing, StrikesAClearedActivityThroughAndContinuesItNowhere) {
     world.open_with_rows(1, 3);
     world.put(0, 1, {.id = "A1", .user = "a", .text = "x", .goes_beyond = 2, .cleared = "1"});

@@ -15,8 +15,8 @@ TEST_F(StartUp, ComesUpWithoutABoxAndInFront) {
     start();
     EXPECT_EQ(boxes(), Texts{});
     EXPECT_EQ(window.unloads, 0);
-    EXPECT_EQ(window.calls.back(), "set_window_state");
-    EXPECT_EQ(*(window.calls.end() - 2), "bring_to_front");
+    EXPECT_EQ(Texts(window.calls.end() - 5, window.calls.end()),
+              (Texts{"set_left", "set_top", "set_size", "bring_to_front", "set_window_state"}));
     EXPECT_EQ(calendar.start_up.ActHwnd, 4711U);
 }
 

@@ -21,12 +21,19 @@ public:
     virtual bool HasPopupList(int id) const = 0;
 };
 
+// Edit fails with 91 where there is no current record.
 class Contact {
 public:
     virtual ~Contact() = default;
     virtual class Fields& Fields() = 0;
     virtual bool Goto(const std::string& id) = 0; // false, and no current record, when it doesn't exist
     virtual Value Data(int field) const = 0;      // nothing without a record, or for a field that there is not
+    // Only between Edit and Update, else with 440, as for the id, which stays; a field that there is not fails
+    // with 381. A value that is no text is stored in its text form.
+    virtual void Data(int field, const Value& value) = 0;
+    virtual void Edit() = 0; // a change that Update hasn't stored is given up by this and by Goto
+    // As act::Activity::Update.
+    virtual std::string Update() = 0;
 };
 
 class Group {

@@ -82,6 +82,8 @@ struct Activity {
     Recurrence recurrence{};
     std::vector<DateTime> exceptions{}; // dates without an occurrence, rising
     std::int64_t revision = 0;          // rises with each change of any record; compares for changes since a read
+
+    bool operator==(const Activity&) const = default;
 };
 
 } // namespace store

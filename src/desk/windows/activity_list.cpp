@@ -5,6 +5,7 @@
 #include "desk/windows/conversions.h"
 #include "desk/windows/rows.h"
 #include "ui_activity_list.h"
+#include "widgets/date_field.h"
 
 #include <QMenu>
 
@@ -44,9 +45,9 @@ ActivityList::ActivityList(OpenDatabase& database, Scope scope, QWidget* parent)
     : QWidget(parent), database_(database), scope_(scope), ui_(std::make_unique<Ui::ActivityList>()) {
     ui_->setupUi(this);
     ui_->activity_table->set_columns(activity_columns(), date_column);
-    for (DateField* field : {ui_->from_edit, ui_->to_edit}) {
+    for (widgets::DateField* field : {ui_->from_edit, ui_->to_edit}) {
         field->set_locale(database.locale());
-        connect(field, &DateField::date_changed, this, &ActivityList::take_filter);
+        connect(field, &widgets::DateField::date_changed, this, &ActivityList::take_filter);
     }
     filter_.from = filter_.to = database.today();
     build_choices();

@@ -48,7 +48,14 @@ DeskWindow::DeskWindow(OpenDatabase& database, Import import)
     connect_schedule_menu();
     connect_view_menu();
     desk_ = std::make_unique<RunningDesk>(
-        database_, RunningDesk::Shown{.lookup = lookup_, .page = *contact_page_},
+        database_,
+        RunningDesk::Shown{.lookup = lookup_,
+                           .page = *contact_page_,
+                           .come_to_contacts =
+                               [this] {
+                                   show_view(contact_list_);
+                                   come_forward();
+                               }},
         RunningDesk::Commands{.by_number = commands_, .on_activities = activity_commands_});
     fill_commands();
     connect(&database_, &OpenDatabase::opened, this, [this] { show_view(contact_list_); });

@@ -2,6 +2,7 @@
 
 #include "core/values/text.h"
 #include "support/fake_message_box.h"
+#include "support/fake_window.h"
 #include "support/plain_files.h"
 #include "support/temporary_folder.h"
 
@@ -30,7 +31,8 @@ protected:
     support::PlainFiles files;
     support::FakeMessageBox box;
     host::ApplicationInfo application{.title = "Orvanta"};
-    host::Guard guarded{box, application};
+    support::FakeWindow window;
+    host::Guard guarded{box, application, window};
     IniLib ini{files, guarded};
 };
 

@@ -82,6 +82,17 @@ TEST_F(Closing, LetsTheApplicationGoClosesTheDatabaseAndEndsTheProgram) {
     EXPECT_FALSE(tmr2.running);
 }
 
+TEST_F(Closing, LetsTheApplicationGoThatHasNoDatabaseForTheCalendar) {
+    data.failing = {"create database"};
+    start();
+    data.calls.clear();
+    box.shown.clear();
+    calendar.closing.mnuExit_Click();
+    EXPECT_EQ(data.calls, Texts{"Application released"});
+    EXPECT_EQ(boxes(), Texts{});
+    EXPECT_EQ(program.ends, 1);
+}
+
 TEST_F(Closing, OfAStartThatStoppedShowsNoFurtherBox) {
     events.open_databases = 0;
     load();

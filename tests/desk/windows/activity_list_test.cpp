@@ -1,10 +1,10 @@
 #include "desk/windows/activity_list.h"
 
 #include "core/values/failure.h"
-#include "desk/windows/date_field.h"
 #include "desk/windows/record_table.h"
 #include "desk/windows/rows.h"
 #include "desk_fixture.h"
+#include "widgets/date_field.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -80,20 +80,20 @@ TEST_F(ActivityListTest, FiltersByPeriod) {
     show(list);
     choose(list, "period_box", "Today");
     EXPECT_EQ(ids(list), (Ids{series, call}));
-    EXPECT_FALSE(child<DateField>(list, "from_edit")->isVisible());
+    EXPECT_FALSE(child<widgets::DateField>(list, "from_edit")->isVisible());
 }
 
 TEST_F(ActivityListTest, ARangeIsTypedIntoTwoDateFields) {
     ActivityList list(database, Scope::everybody);
     show(list);
     choose(list, "period_box", "Date range");
-    auto* from = child<DateField>(list, "from_edit");
+    auto* from = child<widgets::DateField>(list, "from_edit");
     EXPECT_TRUE(from->isVisible());
     EXPECT_EQ(from->date(), at(3, 6));
     from->setFocus();
     retype(from, "3/7/2024");
     QTest::keyClick(from, Qt::Key_Return);
-    auto* to = child<DateField>(list, "to_edit");
+    auto* to = child<widgets::DateField>(list, "to_edit");
     retype(to, "3/8/2024");
     QTest::keyClick(to, Qt::Key_Return);
     EXPECT_EQ(ids(list), (Ids{series, meeting}));
@@ -122,7 +122,7 @@ TEST_F(ActivityListTest, AFilterSetFromOutsideShowsInTheBar) {
     EXPECT_EQ(ids(list), Ids{old_task});
     EXPECT_EQ(child<QPushButton>(list, "types_button")->text(), "&Types (1 of 3)");
     EXPECT_EQ(child<QComboBox>(list, "period_box")->currentText(), "Date range");
-    EXPECT_EQ(child<DateField>(list, "from_edit")->date(), at(1, 31));
+    EXPECT_EQ(child<widgets::DateField>(list, "from_edit")->date(), at(1, 31));
     EXPECT_EQ(child<QComboBox>(list, "user_box")->currentText(), "Anna Berg");
     EXPECT_TRUE(child<QCheckBox>(list, "cleared_box")->isChecked());
 }

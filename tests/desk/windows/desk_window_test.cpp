@@ -114,6 +114,20 @@ TEST_F(DeskWindowTest, ADatabaseThatCantBeWrittenCanBeReadAndSaysSo) {
     EXPECT_THROW(window->desk().run_command(act::CommandNumber::schedule_activity, [] {}), values::Failure);
 }
 
+TEST_F(DeskWindowTest, ALookupOfAnotherProgramIsShownInFrontWhateverViewThereWas) {
+    window->open(path);
+    for (const char* other : {"view_task_list", "view_groups", "view_contact", "view_contact_list"}) {
+        action(other)->trigger();
+        window->showMinimized();
+        window->desk().contact_view().create_lookup({cedar, birch});
+        EXPECT_EQ(view(), "contact_list_view") << other;
+        EXPECT_TRUE(action("view_contact_list")->isChecked()) << other;
+        EXPECT_EQ(count(), "2 of 4 contacts");
+        EXPECT_FALSE(window->isMinimized()) << other;
+        EXPECT_TRUE(QTest::qWaitForWindowActive(window.get())) << other;
+    }
+}
+
 TEST_F(DeskWindowTest, TheMenusSwitchTheViews) {
     window->open(path);
     command(Qt::Key_V, "view_contact");

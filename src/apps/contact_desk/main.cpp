@@ -38,10 +38,12 @@ int run(const apps::ImportFile& task, int, char**) {
     return 0;
 }
 
-// The report as a message box has room for it.
-std::string import_for_window(store::Store& store, const std::string& file) {
-    constexpr std::size_t most_remarks = 12;
-    return importing::import_file(store, file).text(most_remarks);
+constexpr std::size_t most_remarks_in_a_box = 12;
+
+windows::Exchange exchange() {
+    return {.take = [](store::Store& store, const std::string& file, const std::string& user) {
+        return importing::import_file(store, file, {.user = user}).text(most_remarks_in_a_box);
+    }};
 }
 
 int run(const apps::ShowWindow& task, int argc, char** argv) {
@@ -51,7 +53,7 @@ int run(const apps::ShowWindow& task, int argc, char** argv) {
     qt::dress(application);
     const values::Locale locale = qt::system_locale();
     windows::OpenDatabase database(locale);
-    windows::DeskWindow window(database, import_for_window);
+    windows::DeskWindow window(database, exchange());
     windows::OpenToolbarCommands toolbar_commands(database);
     service::Service service(window.desk(), toolbar_commands, locale);
     window.show();

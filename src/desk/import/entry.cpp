@@ -51,6 +51,15 @@ bool reads_start(Entry& entry, bool is_to_do, Times& times) {
     return true;
 }
 
+std::string line_of(Entry& entry, icalproperty_kind kind, const char* what) {
+    bool is_cut = false;
+    std::string line = single_line(text_of(entry, kind), &is_cut);
+    if (is_cut)
+        entry.changes.push_back("Its " + std::string(what) + " was cut to " + std::to_string(longest_single_line) +
+                                " characters.");
+    return line;
+}
+
 // In minutes, as the entry says it.
 std::int64_t told_duration(Entry& entry, const Component& told, Times& times) {
     const bool is_to_do = told.name == "VTODO";
@@ -122,16 +131,21 @@ store::ActivityType type_of(const Component& component, const std::string& summa
     return is_call ? store::ActivityType::call : store::ActivityType::meeting;
 }
 
-std::string details_of(const Entry& entry) {
+std::string details_of(Entry& entry) {
     std::string details = text_of(entry, ICAL_DESCRIPTION_PROPERTY);
     const auto add = [&](const std::string& text) {
         if (!text.empty())
             details += (details.empty() ? "" : "\n") + text;
     };
-    const std::string place = single_line(text_of(entry, ICAL_LOCATION_PROPERTY));
+    const std::string place = line_of(entry, ICAL_LOCATION_PROPERTY, "location");
     add(place.empty() ? "" : "Location: " + place);
-    add(single_line(text_of(entry, ICAL_URL_PROPERTY)));
-    return several_lines(details);
+    add(line_of(entry, ICAL_URL_PROPERTY, "web address"));
+    bool is_cut = false;
+    details = several_lines(details, &is_cut);
+    if (is_cut)
+        entry.changes.push_back("Its details were cut to " + std::to_string(longest_several_lines) +
+                                " characters.");
+    return details;
 }
 
 void read_colour(Entry& entry) {
@@ -189,10 +203,8 @@ void tell_lines_left_out(Entry& entry, const Component& component) {
 } // namespace
 
 Source source_of(const Component& component) {
-    std::string title(value_in(component, "SUMMARY"));
-    for (const auto& [escaped, plain] : {std::pair{"\\,", ","}, {"\\;", ";"}, {"\\n", " "}, {"\\N", " "}})
-        title = values::replaced(title, escaped, plain);
-    return {component.line, single_line(title), single_line(value_in(component, "UID"))};
+    return {component.line, single_line(unescaped(value_in(component, "SUMMARY"))),
+            single_line(value_in(component, "UID"))};
 }
 
 Entry read_entry(const Component& component, Times& times) {
@@ -209,7 +221,7 @@ Entry read_entry(const Component& component, Times& times) {
     if (!entry.skipped.empty())
         return entry;
     Activity& activity = entry.found.activity;
-    activity.regarding = single_line(text_of(entry, ICAL_SUMMARY_PROPERTY));
+    activity.regarding = line_of(entry, ICAL_SUMMARY_PROPERTY, "title");
     activity.details = details_of(entry);
     activity.type = type_of(component, activity.regarding);
     activity.priority = priority_of(entry);

@@ -10,6 +10,7 @@ namespace importing {
 struct FoundActivity {
     store::Activity activity{}; // without contacts and user
     std::vector<Person> people{};
+    std::string calendar{}; // the name of the one that it stands in
 };
 
 Source source_of(const Component& component);

@@ -2,13 +2,16 @@
 
 #include "core/values/failure.h"
 #include "core/values/text.h"
+#include "desk/import/activity_text.h"
 #include "desk/import/calendar_reader.h"
 #include "desk/import/card_reader.h"
 #include "desk/import/people.h"
+#include "desk/import/shown_hours.h"
 
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
+#include <functional>
 #include <iterator>
 
 namespace importing {
@@ -53,39 +56,93 @@ struct Found {
     std::vector<FoundCard> cards;
 };
 
+bool is_of_calendar(const Component& component) {
+    return component.name == "VEVENT" || component.name == "VTODO" || component.name == "VJOURNAL" ||
+           component.name == "VTIMEZONE";
+}
+
+// Entries that stand outside of any calendar make one of their own, which knows the zones of the others.
+void gather_entries(std::vector<Component>& components) {
+    const auto entries = std::ranges::stable_partition(components, std::not_fn(is_of_calendar));
+    if (entries.empty())
+        return;
+    Component calendar{.name = "VCALENDAR", .line = entries.front().line};
+    for (const Component& component : components)
+        if (component.name == "VCALENDAR")
+            std::ranges::copy_if(component.parts, std::back_inserter(calendar.parts),
+                                 [](const Component& part) { return part.name == "VTIMEZONE"; });
+    std::ranges::move(entries, std::back_inserter(calendar.parts));
+    components.erase(entries.begin(), entries.end());
+    components.push_back(std::move(calendar));
+}
+
+std::string name_of_calendar(const Component& calendar, const std::string& file) {
+    for (const char* line : {"X-WR-CALNAME", "NAME"})
+        if (std::string name = single_line(unescaped(value_in(calendar, line))); !name.empty())
+            return name;
+    std::string name = single_line(std::filesystem::path(file).stem().string());
+    return name.empty() ? "Calendar" : name;
+}
+
+void read_calendar_into(Found& found, const Component& calendar, const Here& here, Report& report) {
+    const std::string name = name_of_calendar(calendar, report.file);
+    for (FoundActivity& activity : read_calendar(calendar, here, report)) {
+        activity.calendar = name;
+        found.activities.push_back(std::move(activity));
+    }
+}
+
+void tell_stray_lines(const std::vector<int>& lines, Report& report) {
+    if (lines.empty())
+        return;
+    const std::string more =
+        lines.size() == 1 ? "" : ", like " + std::to_string(lines.size() - 1) + " more after it";
+    report.skipped.push_back({{.line = lines.front()}, "It stands in no entry" + more + "."});
+}
+
 Found read(std::string_view bytes, const Options& options, Report& report) {
     // The library would end the process at an entry that it can't read.
     icalerror_set_errors_are_fatal(0);
-    const std::vector<Component> components = components_of(bytes);
-    if (components.empty())
+    Content content = content_of(bytes);
+    gather_entries(content.components);
+    const auto is_known = [](const Component& c) { return c.name == "VCALENDAR" || c.name == "VCARD"; };
+    if (std::ranges::none_of(content.components, is_known))
         fail("it has no calendar and no address card");
     Found found;
     const Here here{.today = options.now, .local_time = options.local_time};
-    for (const Component& component : components)
+    for (const Component& component : content.components)
         if (component.name == "VCALENDAR")
-            std::ranges::move(read_calendar(component, here, report), std::back_inserter(found.activities));
+            read_calendar_into(found, component, here, report);
         else if (component.name == "VCARD")
             found.cards.push_back(read_card(component));
         else
-            fail("it has something that is no calendar and no address card in line " +
-                 std::to_string(component.line));
+            report.skipped.push_back(
+                {source_of(component), "It is a " + single_line(component.name) + ", not an appointment."});
+    tell_stray_lines(content.stray_lines, report);
+    report.mended_lines = content.mended_lines;
     return found;
 }
 
 void write(store::Store& store, Found& found, const store::User& user, store::DateTime now, Report& report) {
     People people(store, user.name);
     for (const FoundCard& card : found.cards)
-        if (card.is_empty())
+        if (card.is_empty()) {
             report.skipped.push_back({card.source, "It has neither a name nor a company."});
-        else if (people.add(card.contact, card.notes, now))
+        } else if (people.add(card.contact, card.notes, now)) {
             report.notes += card.notes.size();
-        else
+            for (const std::string& change : card.changes)
+                report.changed.push_back({card.source, change});
+        } else {
             report.skipped.push_back({card.source, "The database has this contact already."});
+        }
     for (FoundActivity& activity : found.activities) {
         activity.activity.user = user.id;
         activity.activity.contacts = people.contacts_of(activity.people);
+        if (activity.activity.contacts.empty())
+            activity.activity.contacts.push_back(people.contact_named(activity.calendar));
         store.add(activity.activity);
         ++report.activities;
+        report.outside_hours += !is_in_shown_hours(*activity.activity.start);
         report.series += activity.activity.recurrence.kind != store::RecurrenceKind::none;
     }
     report.contacts = people.added();

@@ -13,6 +13,9 @@
 // midnight and lasts its days of 1440 minutes each. An event without an end lasts no time, and a whole day when it
 // has no time of day either. A to-do without a start stands at its due time.
 //
+// An activity's contacts are the entry's attendees and its organiser. One without any has the contact that is
+// named as its calendar is, as an activity without a contact would be an empty cell.
+//
 // A rule of recurrence becomes a series when the calendar shows that series on exactly the rule's dates; any other
 // becomes single activities: at most `most_of_a_rule` of them, and of a rule without an end those up to
 // `years_of_a_rule` years from today.

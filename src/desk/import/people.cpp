@@ -70,6 +70,11 @@ std::vector<std::string> People::contacts_of(const std::vector<Person>& persons)
     return contacts;
 }
 
+std::string People::contact_named(const std::string& name) {
+    const auto known = by_name_.find(values::lower(name));
+    return known != by_name_.end() ? known->second : add(store::Contact{.fields = {{field::name, name}}});
+}
+
 bool People::add(const store::Contact& contact, const std::vector<std::string>& notes, store::DateTime now) {
     if (by_card_.contains(card_key(contact)))
         return false;

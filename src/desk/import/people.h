@@ -22,6 +22,8 @@ public:
     // The contacts of these persons, each once: the one with the same mail address or else with the same name,
     // else a new one.
     std::vector<std::string> contacts_of(const std::vector<Person>& persons);
+    // The contact of that name, whoever else has it: made when there is none.
+    std::string contact_named(const std::string& name);
     // False when the database has a contact of this name already, with the same mail address, or without one in
     // the same company.
     bool add(const store::Contact& contact, const std::vector<std::string>& notes, store::DateTime now);

@@ -27,6 +27,8 @@ struct Report {
     std::size_t series = 0;
     std::size_t contacts = 0;
     std::size_t notes = 0;
+    std::size_t outside_hours = 0; // activities for which the calendar has no time slot
+    std::size_t mended_lines = 0;  // lines with bytes that were no UTF-8
     std::vector<Remark> changed{}; // taken, but not quite as they stood
     std::vector<Remark> skipped{};
 

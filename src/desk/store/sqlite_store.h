@@ -2,6 +2,7 @@
 
 #include "desk/store/activity_reading.h"
 #include "desk/store/activity_records.h"
+#include "desk/store/imported_records.h"
 #include "desk/store/people_records.h"
 #include "desk/store/sqlite_connection.h"
 #include "desk/store/store.h"
@@ -49,6 +50,8 @@ public:
 
     ActivityReading& reading() override { return *reading_; }
     ToolbarCommands& toolbar_commands() override { return *toolbar_commands_; }
+    ImportedRecords& imported_records() override { return *imported_records_; }
+    std::string identity() override;
 
 private:
     std::unique_ptr<SqliteConnection> connection_;
@@ -58,9 +61,11 @@ private:
     ActivityRecords activities_{*connection_, transactions_, clock_};
     std::unique_ptr<ActivityReading> reading_;
     std::unique_ptr<ToolbarCommands> toolbar_commands_;
+    std::unique_ptr<ImportedRecords> imported_records_;
 };
 
 std::unique_ptr<ActivityReading> make_activity_reading(SqliteConnection& connection);
 std::unique_ptr<ToolbarCommands> make_toolbar_commands(SqliteConnection& connection, Store& store);
+std::unique_ptr<ImportedRecords> make_imported_records(SqliteConnection& connection, Store& store);
 
 } // namespace store

@@ -2,6 +2,7 @@
 
 #include "core/values/text.h"
 #include "desk/import/activity_text.h"
+#include "desk/import/uid.h"
 #include "desk/store/contact_fields.h"
 
 #include <algorithm>
@@ -107,6 +108,7 @@ public:
             read_rest();
         found_.source.title = text(field::name).empty() ? text(field::company) : text(field::name);
         found_.source.uid = single_line(value_in(card, "UID"));
+        found_.uid = uid_of(card);
     }
     FoundCard take() { return std::move(found_); }
 

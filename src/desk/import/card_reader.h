@@ -11,6 +11,7 @@ namespace importing {
 
 struct FoundCard {
     Source source{};
+    std::string uid{}; // by which it is known again; empty when the card has none
     store::Contact contact{};
     std::vector<std::string> notes{};
     std::vector<std::string> changes{}; // what is taken otherwise than it stands, in sentences

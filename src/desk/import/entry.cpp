@@ -3,6 +3,7 @@
 #include "core/values/text.h"
 #include "desk/import/activity_text.h"
 #include "desk/import/colours.h"
+#include "desk/import/uid.h"
 
 #include <algorithm>
 
@@ -209,10 +210,12 @@ Source source_of(const Component& component) {
 
 Entry read_entry(const Component& component, Times& times) {
     Entry entry{.source = source_of(component), .component = parsed(component)};
+    entry.found.source = entry.source;
+    entry.found.uid = uid_of(component);
     const bool is_to_do = component.name == "VTODO";
     if (!entry.component)
         entry.skipped = "It can't be read.";
-    else if (status_of(entry) == ICAL_STATUS_CANCELLED)
+    else if ((entry.is_cancelled = status_of(entry) == ICAL_STATUS_CANCELLED))
         entry.skipped = "It is cancelled.";
     else if (!reads_start(entry, is_to_do, times))
         entry.skipped = value_in(component, "DTSTART").empty() && value_in(component, "DUE").empty()

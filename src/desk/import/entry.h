@@ -10,7 +10,10 @@ namespace importing {
 struct FoundActivity {
     store::Activity activity{}; // without contacts and user
     std::vector<Person> people{};
-    std::string calendar{}; // the name of the one that it stands in
+    Source source{};
+    std::string uid{};        // by which it is known again; empty when the entry has none
+    std::string occurrence{}; // which activity of the entry it is; empty for the entry's own
+    std::string calendar{};   // the name of the one that it stands in
 };
 
 Source source_of(const Component& component);
@@ -23,6 +26,7 @@ struct Entry {
     icaltimetype start{};               // in its own zone
     std::vector<std::string> changes{}; // what is taken otherwise than it stands, in sentences
     std::string skipped{};              // why it can't be taken; empty when it can
+    bool is_cancelled = false;          // which is then why
 };
 
 Entry read_entry(const Component& component, Times& times);

@@ -5,14 +5,15 @@
 #include "desk/import/activity_text.h"
 #include "desk/import/calendar_reader.h"
 #include "desk/import/card_reader.h"
+#include "desk/import/card_taking.h"
 #include "desk/import/people.h"
-#include "desk/import/shown_hours.h"
 
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <functional>
 #include <iterator>
+#include <set>
 
 namespace importing {
 namespace {
@@ -53,6 +54,7 @@ store::User user_for(store::Store& store, const std::string& name) {
 
 struct Found {
     std::vector<FoundActivity> activities;
+    std::set<std::string> whole_entries;
     std::vector<FoundCard> cards;
 };
 
@@ -86,7 +88,9 @@ std::string name_of_calendar(const Component& calendar, const std::string& file)
 
 void read_calendar_into(Found& found, const Component& calendar, const Here& here, Report& report) {
     const std::string name = name_of_calendar(calendar, report.file);
-    for (FoundActivity& activity : read_calendar(calendar, here, report)) {
+    FoundCalendar read = read_calendar(calendar, here, report);
+    found.whole_entries.merge(read.whole_entries);
+    for (FoundActivity& activity : read.activities) {
         activity.calendar = name;
         found.activities.push_back(std::move(activity));
     }
@@ -123,28 +127,17 @@ Found read(std::string_view bytes, const Options& options, Report& report) {
     return found;
 }
 
-void write(store::Store& store, Found& found, const store::User& user, store::DateTime now, Report& report) {
+void write(store::Store& store, const Found& found, const store::User& user, const Options& options,
+           Report& report) {
     People people(store, user.name);
+    CardTaking cards(store, people, options.now, report);
     for (const FoundCard& card : found.cards)
-        if (card.is_empty()) {
-            report.skipped.push_back({card.source, "It has neither a name nor a company."});
-        } else if (people.add(card.contact, card.notes, now)) {
-            report.notes += card.notes.size();
-            for (const std::string& change : card.changes)
-                report.changed.push_back({card.source, change});
-        } else {
-            report.skipped.push_back({card.source, "The database has this contact already."});
-        }
-    for (FoundActivity& activity : found.activities) {
-        activity.activity.user = user.id;
-        activity.activity.contacts = people.contacts_of(activity.people);
-        if (activity.activity.contacts.empty())
-            activity.activity.contacts.push_back(people.contact_named(activity.calendar));
-        store.add(activity.activity);
-        ++report.activities;
-        report.outside_hours += !is_in_shown_hours(*activity.activity.start);
-        report.series += activity.activity.recurrence.kind != store::RecurrenceKind::none;
-    }
+        cards.take(card);
+    ActivityTaking activities(store, people, options.deleted, report);
+    for (const FoundActivity& activity : found.activities)
+        activities.take(activity, user.id);
+    for (const std::string& entry : found.whole_entries)
+        activities.remove_gone(entry, user.id);
     report.contacts = people.added();
 }
 
@@ -159,7 +152,7 @@ Report import_bytes(store::Store& store, std::string_view bytes, const std::stri
     } catch (const values::Failure& failure) {
         fail("Nothing was taken from \"" + name + "\": " + failure.description() + ".");
     }
-    store.together([&] { write(store, found, user, options.now, report); });
+    store.together([&] { write(store, found, user, options, report); });
     for (std::vector<Remark>* remarks : {&report.changed, &report.skipped})
         std::ranges::stable_sort(*remarks, {}, [](const Remark& remark) { return remark.source.line; });
     return report;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "desk/import/activity_taking.h"
 #include "desk/import/local_zone.h"
 #include "desk/import/report.h"
 #include "desk/store/store.h"
@@ -16,6 +17,10 @@
 // An activity's contacts are the entry's attendees and its organiser. One without any has the contact that is
 // named as its calendar is, as an activity without a contact would be an empty cell.
 //
+// An entry that was imported before, for the same user, is known again by its UID and the date of the occurrence:
+// what the file has changed since is changed, and what it has no longer is removed, as far as nobody changed it
+// here; what was deleted here stays deleted unless it is asked for.
+//
 // A rule of recurrence becomes a series when the calendar shows that series on exactly the rule's dates; any other
 // becomes single activities: at most `most_of_a_rule` of them, and of a rule without an end those up to
 // `years_of_a_rule` years from today.
@@ -29,6 +34,7 @@ struct Options {
     std::string user{}; // the name of whom activities are scheduled for; empty for the database's first user
     store::DateTime now = store::wall_clock();
     LocalTime local_time = system_local_time;
+    Deleted deleted = Deleted::stay_deleted;
 };
 
 // All or nothing: a failure (values::Failure, with a sentence for the user) leaves the database as it was. It

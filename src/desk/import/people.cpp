@@ -2,6 +2,7 @@
 
 #include "core/values/text.h"
 #include "desk/store/contact_fields.h"
+#include "desk/store/imported_records.h"
 
 #include <algorithm>
 
@@ -70,18 +71,18 @@ std::vector<std::string> People::contacts_of(const std::vector<Person>& persons)
     return contacts;
 }
 
-std::string People::contact_named(const std::string& name) {
+std::string People::contact_of_calendar(const std::string& name) {
+    const store::ImportedRecord imported{.kind = store::RecordKind::contact, .uid = "calendar:" + name};
+    const auto before = store_.imported_records().of(imported.kind, "", imported.uid);
+    if (!before.empty() && store_.contact(before.front().record))
+        return before.front().record;
     const auto known = by_name_.find(values::lower(name));
-    return known != by_name_.end() ? known->second : add(store::Contact{.fields = {{field::name, name}}});
+    store::ImportedRecord now = imported;
+    now.record = known != by_name_.end() ? known->second : add(store::Contact{.fields = {{field::name, name}}});
+    store_.imported_records().remember(now);
+    return now.record;
 }
 
-bool People::add(const store::Contact& contact, const std::vector<std::string>& notes, store::DateTime now) {
-    if (by_card_.contains(card_key(contact)))
-        return false;
-    const std::string id = add(contact);
-    for (const std::string& note : notes)
-        store_.add(store::Note{.contact = id, .written = now, .text = note});
-    return true;
-}
+bool People::has(const store::Contact& contact) const { return by_card_.contains(card_key(contact)); }
 
 } // namespace importing

@@ -22,17 +22,18 @@ public:
     // The contacts of these persons, each once: the one with the same mail address or else with the same name,
     // else a new one.
     std::vector<std::string> contacts_of(const std::vector<Person>& persons);
-    // The contact of that name, whoever else has it: made when there is none.
-    std::string contact_named(const std::string& name);
-    // False when the database has a contact of this name already, with the same mail address, or without one in
-    // the same company.
-    bool add(const store::Contact& contact, const std::vector<std::string>& notes, store::DateTime now);
+    // That of a calendar whose entries name nobody: the one that an earlier import gave the calendar of this name,
+    // else the one named so, else a new one.
+    std::string contact_of_calendar(const std::string& name);
+    // Whether the database has a contact of this name already, with the same mail address, or without one in the
+    // same company.
+    bool has(const store::Contact& contact) const;
+    std::string add(const store::Contact& contact);
     std::size_t added() const { return added_; }
 
 private:
     void know(const std::string& id, const store::Contact& contact);
     std::string contact_of(const Person& person);
-    std::string add(const store::Contact& contact);
 
     store::Store& store_;
     const std::string user_;

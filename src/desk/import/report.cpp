@@ -11,6 +11,27 @@ std::string counted(std::size_t count, const std::string& one, const std::string
     return std::to_string(count) + " " + (count == 1 ? one : many);
 }
 
+std::string records(std::size_t activities, std::size_t contacts) {
+    std::string text = activities > 0 ? counted(activities, "activity", "activities") : "";
+    if (contacts > 0)
+        text += (text.empty() ? "" : " and ") + counted(contacts, "contact", "contacts");
+    return text;
+}
+
+std::string taken_before(const Report& report) {
+    std::string text;
+    const auto add = [&](const std::string& what, const char* became) {
+        if (!what.empty())
+            text += (text.empty() ? "Taken before: " : ", ") + what + " " + became;
+    };
+    add(records(report.updated, report.contacts_updated), "updated");
+    add(records(report.unchanged, report.contacts_unchanged), "unchanged");
+    add(records(report.left_as_changed, report.contacts_left_as_changed), "left as changed by the user");
+    add(records(report.left_deleted, 0), "left deleted");
+    add(records(report.removed, 0), "removed, as the file has no more of them");
+    return text.empty() ? text : text + ".\n";
+}
+
 std::string shown_hours() {
     const auto hour = [](int minutes) { return std::to_string(minutes / 60) + ":00"; };
     return " (" + hour(first_slot) + " to " + hour(first_slot + slot_count * slot_minutes) +
@@ -48,6 +69,7 @@ std::string Report::text(std::size_t most_remarks) const {
         text += " for " + user;
     text +=
         ", " + counted(contacts, "new contact", "new contacts") + ", " + counted(notes, "note", "notes") + ".\n";
+    text += taken_before(*this);
     if (outside_hours > 0)
         text += counted(outside_hours, "activity lies", "activities lie") +
                 " outside the hours that the calendar shows" + shown_hours() + ".\n";

@@ -1,0 +1,17 @@
+#include "desk/import/uid.h"
+
+#include "core/values/text.h"
+#include "desk/import/digest.h"
+
+namespace importing {
+
+std::string uid_of(const Component& component) {
+    constexpr std::size_t longest = 255; // bytes
+    const std::string_view uid = values::trimmed(value_in(component, "UID"));
+    if (uid.empty())
+        return {};
+    const std::string kind = component.name == "VTODO" ? "VTODO:" : ""; // an event may bear the same
+    return kind + (uid.size() <= longest ? std::string(uid) : "#" + Digest().add(uid).text());
+}
+
+} // namespace importing

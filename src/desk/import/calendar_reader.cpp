@@ -152,6 +152,10 @@ private:
     }
 
     void read_main(Entry& entry, Excluded& excluded) {
+        if (entry.is_settled) {
+            tell_changes(entry);
+            return take(entry.found);
+        }
         icalcomponent* component = entry.component.get();
         for (icalproperty* property = icalcomponent_get_first_property(component, ICAL_EXDATE_PROPERTY); property;
              property = icalcomponent_get_next_property(component, ICAL_EXDATE_PROPERTY))

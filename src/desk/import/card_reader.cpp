@@ -2,6 +2,7 @@
 
 #include "core/values/text.h"
 #include "desk/import/activity_text.h"
+#include "desk/import/own_lines.h"
 #include "desk/import/uid.h"
 #include "desk/store/contact_fields.h"
 
@@ -99,6 +100,17 @@ std::string joined(const std::vector<std::string>& parts) {
     return text;
 }
 
+bool is_field(int number) {
+    return std::ranges::any_of(store::contact_fields(),
+                               [&](const store::ContactField& known) { return known.number == number; });
+}
+
+// Fields that no other program can have changed.
+bool has_no_place(int number) {
+    return number == field::status || number == field::salutation || number == field::referred_by ||
+           number == field::extension || number == field::record_creator || number == field::record_manager;
+}
+
 class Card {
 public:
     explicit Card(const Component& card) : properties_(properties_of(card)) {
@@ -106,6 +118,8 @@ public:
         read_names();
         if (!found_.is_empty())
             read_rest();
+        if (own::parts_in(card, own::check))
+            restore_own(card);
         found_.source.title = text(field::name).empty() ? text(field::company) : text(field::name);
         found_.source.uid = single_line(value_in(card, "UID"));
         found_.uid = uid_of(card);
@@ -195,10 +209,33 @@ private:
         each("NOTE", [&](const Property& p) {
             bool is_cut = false;
             if (const std::string note = several_lines(unescaped(p.value), &is_cut); !note.empty())
-                found_.notes.push_back(note);
+                found_.notes.push_back({.text = note});
             cut_ += is_cut;
         });
         tell_changes();
+    }
+
+    // What a card has no place for, and all that it says where no other program has changed it.
+    void restore_own(const Component& card) {
+        found_.is_own = true;
+        const bool is_untouched = own::is_untouched(card);
+        for (const own::Parts& told : own::all_parts_in(card, own::field)) {
+            const int number = static_cast<int>(told.number(0).value_or(0));
+            if (!is_untouched && !has_no_place(number))
+                continue;
+            found_.contact.fields.erase(number);
+            if (is_field(number) && !told.text(1).empty())
+                found_.contact.fields[number] = told.text(1);
+        }
+        for (const own::Parts& group : own::all_parts_in(card, own::group))
+            found_.groups.push_back({group.text(0), group.text(1), group.number(2).value_or(0)});
+        if (!is_untouched)
+            return;
+        found_.changes.clear();
+        found_.notes.clear();
+        for (const own::Parts& note : own::all_parts_in(card, own::note))
+            if (const auto seconds = note.number(0))
+                found_.notes.push_back({note.text(1), store::DateTime::from_seconds(*seconds)});
     }
 
     void read_phone(const Property& property) {

@@ -12,8 +12,8 @@ using store::ImportedRecord;
 std::string told_by(const FoundCard& card) {
     Digest digest;
     digest.add(digest_of(card.contact));
-    for (const std::string& note : card.notes)
-        digest.add(note);
+    for (const FoundNote& note : card.notes)
+        digest.add(note.text);
     return digest.text();
 }
 
@@ -22,32 +22,50 @@ std::string told_by(const FoundCard& card) {
 void CardTaking::take(const FoundCard& card) {
     if (card.is_empty())
         return skip(card, "It has neither a name nor a company.");
-    const ImportedRecord imported{
-        .kind = store::RecordKind::contact, .uid = card.uid, .record = {}, .told = told_by(card), .kept = {}};
-    const auto before = card.uid.empty() ? std::vector<ImportedRecord>()
-                                         : store_.imported_records().of(imported.kind, "", imported.uid);
-    auto current = before.empty() ? std::nullopt : store_.contact(before.front().record);
-    if (current)
-        take_again(card, imported, std::move(*current), before.front());
-    else if (people_.has(card.contact))
-        skip(card, "The database has this contact already.");
-    else
-        add(card, imported);
+    const std::string contact = contact_of(card);
+    if (card.is_own)
+        people_.claim(contact);
+    for (const Membership& membership : card.groups)
+        groups_.join(membership, contact);
 }
 
-void CardTaking::add(const FoundCard& card, ImportedRecord imported) {
-    imported.record = people_.add(card.contact);
-    add_notes(card, imported.record);
+std::string CardTaking::contact_of(const FoundCard& card) {
+    const ImportedRecord imported{
+        .kind = store::RecordKind::contact, .uid = card.uid, .record = {}, .told = told_by(card), .kept = {}};
+    if (const auto id = card.uid.empty() ? std::nullopt : people_.contact_named(card.uid)) {
+        const auto before = store_.imported_records().of(imported.kind, "", imported.uid);
+        take_again(card, imported, *store_.contact(*id),
+                   before.empty() ? std::nullopt : std::optional(before.front()));
+        return *id;
+    }
+    if (const auto id = known(card)) {
+        skip(card, "The database has this contact already.");
+        return *id;
+    }
+    return add(card, imported);
+}
+
+// Two cards of a desk are two contacts, however alike.
+std::optional<std::string> CardTaking::known(const FoundCard& card) const {
+    return card.is_own ? people_.known_and_free(card.contact) : people_.known(card.contact);
+}
+
+std::string CardTaking::add(const FoundCard& card, ImportedRecord imported) {
+    const std::string id = people_.add(card.contact);
+    imported.record = id;
+    add_notes(card, id);
     if (!imported.uid.empty())
         remember(std::move(imported));
     for (const std::string& change : card.changes)
         report_.changed.push_back({card.source, change});
+    return id;
 }
 
 void CardTaking::take_again(const FoundCard& card, ImportedRecord imported, store::Contact current,
-                            const ImportedRecord& before) {
-    const bool is_untouched = digest_of(current) == before.kept;
-    if (imported.told == before.told) {
+                            const std::optional<ImportedRecord>& before) {
+    const std::string now = digest_of(current);
+    const bool is_untouched = now == (before ? before->kept : digest_of(card.contact));
+    if (!before || imported.told == before->told) {
         ++(is_untouched ? report_.contacts_unchanged : report_.contacts_left_as_changed);
     } else if (is_untouched) {
         current.fields = card.contact.fields;
@@ -65,10 +83,13 @@ void CardTaking::take_again(const FoundCard& card, ImportedRecord imported, stor
 // Those that the contact doesn't have yet.
 void CardTaking::add_notes(const FoundCard& card, const std::string& contact) {
     std::vector<store::Note> there = store_.notes(contact);
-    for (const std::string& text : card.notes) {
-        if (std::ranges::find(there, text, &store::Note::text) != there.end())
+    for (const FoundNote& found : card.notes) {
+        const auto is_found = [&](const store::Note& note) {
+            return note.text == found.text && (!found.written || note.written == found.written);
+        };
+        if (std::ranges::any_of(there, is_found))
             continue;
-        there.push_back({.contact = contact, .written = now_, .text = text});
+        there.push_back({.contact = contact, .written = found.written.value_or(now_), .text = found.text});
         store_.add(there.back());
         ++report_.notes;
     }

@@ -3,6 +3,7 @@
 #include "core/values/text.h"
 #include "desk/import/activity_text.h"
 #include "desk/import/colours.h"
+#include "desk/import/own_entry.h"
 #include "desk/import/uid.h"
 
 #include <algorithm>
@@ -201,6 +202,19 @@ void tell_lines_left_out(Entry& entry, const Component& component) {
         entry.changes.push_back("Its RRULE can't be read and was left out.");
 }
 
+void read_texts_and_state(Entry& entry, const Component& component) {
+    Activity& activity = entry.found.activity;
+    activity.regarding = line_of(entry, ICAL_SUMMARY_PROPERTY, "title");
+    activity.details = details_of(entry);
+    activity.type = type_of(component, activity.regarding);
+    activity.priority = priority_of(entry);
+    activity.cleared = status_of(entry) == ICAL_STATUS_COMPLETED || property_of(entry, ICAL_COMPLETED_PROPERTY);
+    if (icalproperty* secrecy = property_of(entry, ICAL_CLASS_PROPERTY)) {
+        const icalproperty_class kind = icalproperty_get_class(secrecy);
+        activity.is_private = kind == ICAL_CLASS_PRIVATE || kind == ICAL_CLASS_CONFIDENTIAL;
+    }
+}
+
 } // namespace
 
 Source source_of(const Component& component) {
@@ -212,33 +226,31 @@ Entry read_entry(const Component& component, Times& times) {
     Entry entry{.source = source_of(component), .component = parsed(component)};
     entry.found.source = entry.source;
     entry.found.uid = uid_of(component);
-    const bool is_to_do = component.name == "VTODO";
-    if (!entry.component)
+    if (!entry.component) {
         entry.skipped = "It can't be read.";
-    else if ((entry.is_cancelled = status_of(entry) == ICAL_STATUS_CANCELLED))
+        return entry;
+    }
+    const bool is_own = is_own_entry(component);
+    const bool has_start = reads_start(entry, component.name == "VTODO", times);
+    const bool tells_start = !value_in(component, "DTSTART").empty() || !value_in(component, "DUE").empty();
+    if ((entry.is_cancelled = status_of(entry) == ICAL_STATUS_CANCELLED))
         entry.skipped = "It is cancelled.";
-    else if (!reads_start(entry, is_to_do, times))
-        entry.skipped = value_in(component, "DTSTART").empty() && value_in(component, "DUE").empty()
-                            ? "It has no start."
-                            : "Its start can't be read.";
+    else if (!has_start && tells_start)
+        entry.skipped = "Its start can't be read.";
+    else if (!has_start && !is_own)
+        entry.skipped = "It has no start.";
     if (!entry.skipped.empty())
         return entry;
-    Activity& activity = entry.found.activity;
-    activity.regarding = line_of(entry, ICAL_SUMMARY_PROPERTY, "title");
-    activity.details = details_of(entry);
-    activity.type = type_of(component, activity.regarding);
-    activity.priority = priority_of(entry);
-    const auto status = status_of(entry);
-    activity.cleared = status == ICAL_STATUS_COMPLETED || property_of(entry, ICAL_COMPLETED_PROPERTY);
-    if (icalproperty* secrecy = property_of(entry, ICAL_CLASS_PROPERTY)) {
-        const icalproperty_class kind = icalproperty_get_class(secrecy);
-        activity.is_private = kind == ICAL_CLASS_PRIVATE || kind == ICAL_CLASS_CONFIDENTIAL;
+    read_texts_and_state(entry, component);
+    if (has_start) {
+        read_duration(entry, component, times);
+        read_alarm(entry, times);
     }
-    read_duration(entry, component, times);
-    read_alarm(entry, times);
     read_colour(entry);
     read_people(entry);
     tell_lines_left_out(entry, component);
+    if (is_own)
+        restore_own(entry, component);
     return entry;
 }
 

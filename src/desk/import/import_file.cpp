@@ -6,7 +6,10 @@
 #include "desk/import/calendar_reader.h"
 #include "desk/import/card_reader.h"
 #include "desk/import/card_taking.h"
+#include "desk/import/groups.h"
+#include "desk/import/own_lines.h"
 #include "desk/import/people.h"
+#include "desk/import/users.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -37,25 +40,12 @@ std::string bytes_of(const std::string& path) {
     return bytes;
 }
 
-store::User user_for(store::Store& store, const std::string& name) {
-    const std::vector<store::User> users = store.users();
-    if (users.empty())
-        fail("The database has no user for whom activities could be scheduled.");
-    if (name.empty())
-        return users.front();
-    std::string names;
-    for (const store::User& user : users) {
-        if (values::equal_ignoring_case(user.name, name))
-            return user;
-        names += (names.empty() ? "" : ", ") + user.name;
-    }
-    fail("There is no user \"" + name + "\". The users are: " + names + ".");
-}
-
 struct Found {
     std::vector<FoundActivity> activities;
     std::set<std::string> whole_entries;
     std::vector<FoundCard> cards;
+    std::vector<store::User> users; // of a desk's own file, as are the groups
+    std::vector<FoundGroup> groups;
 };
 
 bool is_of_calendar(const Component& component) {
@@ -88,6 +78,10 @@ std::string name_of_calendar(const Component& calendar, const std::string& file)
 
 void read_calendar_into(Found& found, const Component& calendar, const Here& here, Report& report) {
     const std::string name = name_of_calendar(calendar, report.file);
+    for (const own::Parts& user : own::all_parts_in(calendar, own::user))
+        found.users.push_back({.name = user.text(0), .security = user.text(1), .access = user.text(2)});
+    for (const own::Parts& group : own::all_parts_in(calendar, own::group))
+        found.groups.push_back({.uid = group.text(0), .name = group.text(1)});
     FoundCalendar read = read_calendar(calendar, here, report);
     found.whole_entries.merge(read.whole_entries);
     for (FoundActivity& activity : read.activities) {
@@ -127,35 +121,49 @@ Found read(std::string_view bytes, const Options& options, Report& report) {
     return found;
 }
 
-void write(store::Store& store, const Found& found, const store::User& user, const Options& options,
-           Report& report) {
-    People people(store, user.name);
-    CardTaking cards(store, people, options.now, report);
+void write(store::Store& store, const Found& found, Users& users, const Options& options, Report& report) {
+    for (const store::User& user : found.users)
+        users.tell(user);
+    People people(store, users.name());
+    Groups groups(store);
+    for (const FoundGroup& group : found.groups)
+        groups.id_of(group.uid, group.name);
+    CardTaking cards(store, people, groups, options.now, report);
     for (const FoundCard& card : found.cards)
         cards.take(card);
-    ActivityTaking activities(store, people, options.deleted, report);
+    groups.fill();
+    ActivityTaking activities(store, people, groups, options.deleted, report);
     for (const FoundActivity& activity : found.activities)
-        activities.take(activity, user.id);
+        activities.take(activity, users.id_for(activity.user));
     for (const std::string& entry : found.whole_entries)
-        activities.remove_gone(entry, user.id);
+        activities.remove_gone(entry, users.usual_id());
     report.contacts = people.added();
+    report.user = users.summary();
 }
 
 } // namespace
 
 Report import_bytes(store::Store& store, std::string_view bytes, const std::string& name, const Options& options) {
-    const store::User user = user_for(store, options.user);
-    Report report{.file = name, .user = user.name};
+    Users users(store, options.user);
+    Report report{.file = name, .user = {}};
     Found found;
     try {
         found = read(bytes, options, report);
     } catch (const values::Failure& failure) {
         fail("Nothing was taken from \"" + name + "\": " + failure.description() + ".");
     }
-    store.together([&] { write(store, found, user, options, report); });
+    store.together([&] { write(store, found, users, options, report); });
     for (std::vector<Remark>* remarks : {&report.changed, &report.skipped})
         std::ranges::stable_sort(*remarks, {}, [](const Remark& remark) { return remark.source.line; });
     return report;
+}
+
+bool names_users(const std::string& path) {
+    try {
+        return values::contains(bytes_of(path), "\n" + std::string(own::user) + ":");
+    } catch (const values::Failure&) { // the import itself tells it
+        return false;
+    }
 }
 
 Report import_file(store::Store& store, const std::string& path, const Options& options) {

@@ -31,7 +31,9 @@ inline constexpr std::size_t most_of_a_rule = 1000;
 inline constexpr int years_of_a_rule = 2;
 
 struct Options {
-    std::string user{}; // the name of whom activities are scheduled for; empty for the database's first user
+    // The name of whom activities are scheduled for. Empty for those whom a desk's own file names and else for the
+    // database's first.
+    std::string user{};
     store::DateTime now = store::wall_clock();
     LocalTime local_time = system_local_time;
     Deleted deleted = Deleted::stay_deleted;
@@ -44,5 +46,8 @@ Report import_file(store::Store& store, const std::string& path, const Options& 
 
 // The same for what such a file holds; the name is for messages alone.
 Report import_bytes(store::Store& store, std::string_view bytes, const std::string& name, const Options& options);
+
+// Whether a desk wrote the file and names in it whose activities they are. False also for what can't be read.
+bool names_users(const std::string& path);
 
 } // namespace importing

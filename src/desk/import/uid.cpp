@@ -2,6 +2,7 @@
 
 #include "core/values/text.h"
 #include "desk/import/digest.h"
+#include "desk/import/own_lines.h"
 
 namespace importing {
 
@@ -10,7 +11,9 @@ std::string uid_of(const Component& component) {
     const std::string_view uid = values::trimmed(value_in(component, "UID"));
     if (uid.empty())
         return {};
-    const std::string kind = component.name == "VTODO" ? "VTODO:" : ""; // an event may bear the same
+    const std::string kind = component.name == "VTODO" && !own::parts_in(component, own::type)
+                                 ? "VTODO:" // an event may bear the same, but for a desk's own
+                                 : "";
     return kind + (uid.size() <= longest ? std::string(uid) : "#" + Digest().add(uid).text());
 }
 

@@ -16,7 +16,7 @@ namespace {
 constexpr int tick_milliseconds = 2;
 constexpr int mail_takes_it = 60; // of 100 times
 
-std::string import_nothing(store::Store&, const std::string&, const std::string&) { return "Nothing to import."; }
+windows::Taken import_nothing(store::Store&, const windows::Taking&) { return {.report = "Nothing to import."}; }
 
 } // namespace
 

@@ -2,6 +2,7 @@
 #include "adapters/qt/qt_locale.h"
 #include "apps/contact_desk/options.h"
 #include "core/values/failure.h"
+#include "desk/export/export_file.h"
 #include "desk/import/import_file.h"
 #include "desk/service/service.h"
 #include "desk/store/store.h"
@@ -12,9 +13,21 @@
 #include <QApplication>
 #include <QMessageBox>
 
+#include <ctime>
 #include <iostream>
 
 namespace {
+
+importing::Report take(store::Store& store, const std::string& file, const std::string& user, bool with_deleted) {
+    importing::Options options{.user = user};
+    if (with_deleted)
+        options.deleted = importing::Deleted::come_back;
+    return importing::import_file(store, file, options);
+}
+
+exporting::Report write(store::Store& store, const std::string& file, const std::string& user) {
+    return exporting::export_file(store, file, {.user = user, .stamp = std::time(nullptr)});
+}
 
 int run(const apps::ShowHelp&, int, char**) {
     std::cout << apps::usage();
@@ -34,16 +47,26 @@ int run(const apps::NewSample& task, int, char**) {
 
 int run(const apps::ImportFile& task, int, char**) {
     const auto store = store::Store::open(task.database);
-    std::cout << importing::import_file(*store, task.file, {.user = task.user}).text();
+    std::cout << take(*store, task.file, task.user, task.with_deleted).text();
+    return 0;
+}
+
+int run(const apps::ExportFile& task, int, char**) {
+    const auto store = store::Store::open(task.database);
+    std::cout << write(*store, task.file, task.user).text();
     return 0;
 }
 
 constexpr std::size_t most_remarks_in_a_box = 12;
 
 windows::Exchange exchange() {
-    return {.take = [](store::Store& store, const std::string& file, const std::string& user) {
-        return importing::import_file(store, file, {.user = user}).text(most_remarks_in_a_box);
-    }};
+    return {.take = [](store::Store& store, const windows::Taking& taking) -> windows::Taken {
+                const auto report = take(store, taking.file, taking.user, taking.with_deleted);
+                return {.report = report.text(most_remarks_in_a_box), .left_deleted = report.left_deleted};
+            },
+            .names_users = importing::names_users,
+            .write = [](store::Store& store, const std::string& file,
+                        const std::string& user) { return write(store, file, user).text(); }};
 }
 
 int run(const apps::ShowWindow& task, int argc, char** argv) {

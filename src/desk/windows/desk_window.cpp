@@ -112,6 +112,7 @@ void DeskWindow::connect_file_menu() {
     asking(ui_->file_new_sample, &DatabaseCommands::create_sample);
     asking(ui_->file_add_user, &DatabaseCommands::add_user);
     connect(ui_->file_import, &QAction::triggered, this, [this] { exchange_commands_.import_file(); });
+    connect(ui_->file_export, &QAction::triggered, this, [this] { exchange_commands_.export_file(); });
     connect(ui_->file_exit, &QAction::triggered, this, &QWidget::close);
     connect(ui_->open_button, &QPushButton::clicked, ui_->file_open, &QAction::trigger);
     connect(ui_->new_button, &QPushButton::clicked, ui_->file_new, &QAction::trigger);
@@ -254,6 +255,7 @@ void DeskWindow::show_state() {
          {ui_->file_add_user, ui_->contact_new, ui_->schedule_call, ui_->schedule_meeting, ui_->schedule_to_do})
         action->setEnabled(is_writable);
     ui_->file_import->setEnabled(is_writable && exchange_commands_.can_import());
+    ui_->file_export->setEnabled(is_open && exchange_commands_.can_export());
     view_actions_.setEnabled(is_open);
     const QWidget* view = ui_->views->currentWidget();
     const bool is_list_shown = view == task_list_ || view == contact_page_;

@@ -267,7 +267,6 @@ TEST_F(DeskWindowTest, SeesWhatAnotherProcessWroteWithinASecondOrTwo) {
 TEST_F(DeskWindowTest, ImportsOnlyWhereThereIsAnImport) {
     window->open(path);
     EXPECT_FALSE(action("file_import")->isEnabled());
-    DeskWindow other(
-        database, {.take = [](store::Store&, const std::string&, const std::string&) { return std::string(); }});
+    DeskWindow other(database, {.take = [](store::Store&, const Taking&) { return Taken(); }});
     EXPECT_TRUE(other.findChild<QAction*>("file_import")->isEnabled());
 }

@@ -3,6 +3,7 @@
 #include "adapters/qt/qt_locale.h"
 #include "apps/contact_desk/options.h"
 #include "core/values/failure.h"
+#include "desk/export/export_file.h"
 #include "desk/import/import_file.h"
 #include "desk/service/service.h"
 #include "desk/store/store.h"
@@ -13,11 +14,23 @@
 #include <QApplication>
 #include <QMessageBox>
 
+#include <ctime>
 #include <functional>
 #include <iostream>
 #include <memory>
 
 namespace {
+
+importing::Report take(store::Store& store, const std::string& file, const std::string& user, bool with_deleted) {
+    importing::Options options{.user = user};
+    if (with_deleted)
+        options.deleted = importing::Deleted::come_back;
+    return importing::import_file(store, file, options);
+}
+
+exporting::Report write(store::Store& store, const std::string& file, const std::string& user) {
+    return exporting::export_file(store, file, {.user = user, .stamp = std::time(nullptr)});
+}
 
 int run(const apps::ShowHelp&, int, char**) {
     std::cout << apps::usage();
@@ -37,14 +50,26 @@ int run(const apps::NewSample& task, int, char**) {
 
 int run(const apps::ImportFile& task, int, char**) {
     const auto store = store::Store::open(task.database);
-    std::cout << importing::import_file(*store, task.file, {.user = task.user}).text();
+    std::cout << take(*store, task.file, task.user, task.with_deleted).text();
     return 0;
 }
 
-// The report as a message box has room for it.
-std::string import_for_window(store::Store& store, const std::string& file) {
-    constexpr std::size_t most_remarks = 12;
-    return importing::import_file(store, file).text(most_remarks);
+int run(const apps::ExportFile& task, int, char**) {
+    const auto store = store::Store::open(task.database);
+    std::cout << write(*store, task.file, task.user).text();
+    return 0;
+}
+
+constexpr std::size_t most_remarks_in_a_box = 12;
+
+windows::Exchange exchange() {
+    return {.take = [](store::Store& store, const windows::Taking& taking) -> windows::Taken {
+                const auto report = take(store, taking.file, taking.user, taking.with_deleted);
+                return {.report = report.text(most_remarks_in_a_box), .left_deleted = report.left_deleted};
+            },
+            .names_users = importing::names_users,
+            .write = [](store::Store& store, const std::string& file,
+                        const std::string& user) { return write(store, file, user).text(); }};
 }
 
 int run(const apps::ShowWindow& task, int argc, char** argv) {
@@ -54,7 +79,7 @@ int run(const apps::ShowWindow& task, int argc, char** argv) {
     qt::dress(application);
     const values::Locale locale = qt::system_locale();
     windows::OpenDatabase database(locale);
-    windows::DeskWindow window(database, import_for_window);
+    windows::DeskWindow window(database, exchange());
     windows::OpenToolbarCommands toolbar_commands(database);
     service::Service service(window.desk(), toolbar_commands, locale);
     window.show();

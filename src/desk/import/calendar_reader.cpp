@@ -41,6 +41,9 @@ std::string date_text(DateTime date) {
     return std::to_string(date.year()) + "-" + two(date.month()) + "-" + two(date.day());
 }
 
+// Names one of several activities of an entry. It stays the same as long as the date does.
+std::string name_of_occurrence(DateTime start) { return std::to_string(start.seconds()); }
+
 class Reader {
 public:
     Reader(const Component& calendar, const Here& here, Report& report)
@@ -50,7 +53,7 @@ public:
         for (const Group& group : groups_)
             read(group);
     }
-    std::vector<FoundActivity> found() { return std::move(found_); }
+    FoundCalendar found() { return std::move(found_); }
 
 private:
     void skip(const Component& component, const std::string& why) {
@@ -84,10 +87,11 @@ private:
         keep_newer(replaced.empty() ? group.main : group.overrides[replaced], part);
     }
 
-    void take(const FoundActivity& activity) { found_.push_back(activity); }
+    void take(const FoundActivity& activity) { found_.activities.push_back(activity); }
 
     void take_at(const FoundActivity& activity, DateTime start) {
         FoundActivity single = activity;
+        single.occurrence = name_of_occurrence(start);
         single.activity.start = start;
         single.activity.end = start.plus_minutes(single.activity.duration);
         take(single);
@@ -118,10 +122,13 @@ private:
             read_override(*component, main, excluded);
         if (!main)
             return;
+        is_cut_ = false;
         if (!main->skipped.empty())
             report_.skipped.push_back({main->source, main->skipped});
         else
             read_main(*main, excluded);
+        if (!main->found.uid.empty() && !is_cut_ && (main->skipped.empty() || main->is_cancelled))
+            found_.whole_entries.insert(main->found.uid);
     }
 
     void read_override(const Component& component, const std::optional<Entry>& main, Excluded& excluded) {
@@ -138,10 +145,17 @@ private:
         if (replaced && icalproperty_get_first_parameter(replaced, ICAL_RANGE_PARAMETER))
             entry.changes.push_back("It changes all later occurrences too; only this one was changed.");
         tell_changes(entry);
+        const auto times = replaced ? times_.all(replaced) : std::vector<icaltimetype>();
+        entry.found.occurrence = times.empty() ? std::string(value_in(component, "RECURRENCE-ID"))
+                                               : name_of_occurrence(times_.local(times.front()));
         take(entry.found);
     }
 
     void read_main(Entry& entry, Excluded& excluded) {
+        if (entry.is_settled) {
+            tell_changes(entry);
+            return take(entry.found);
+        }
         icalcomponent* component = entry.component.get();
         for (icalproperty* property = icalcomponent_get_first_property(component, ICAL_EXDATE_PROPERTY); property;
              property = icalcomponent_get_next_property(component, ICAL_EXDATE_PROPERTY))
@@ -205,13 +219,14 @@ private:
         }
         const std::size_t all = starts.size();
         keep_nearest(starts);
+        is_cut_ = starts.size() < all || followed.is_too_long;
         for (const DateTime start : starts)
             take_at(entry.found, start);
         if (is_one)
             return;
         std::string change = "The calendar shows no series on its dates, so it became single activities (" +
                              std::to_string(starts.size()) + ")";
-        if (starts.size() < all || followed.is_too_long)
+        if (is_cut_)
             change += ", no more, of its many dates";
         if (goes_on)
             change += ", up to " + date_text(std::max(last, starts.empty() ? last : starts.back()));
@@ -233,14 +248,15 @@ private:
     Times times_;
     const DateTime today_;
     Report& report_;
-    std::vector<FoundActivity> found_;
+    FoundCalendar found_;
+    bool is_cut_ = false; // the entry that is being read has more dates than are taken
     std::vector<Group> groups_;
     std::map<std::string, std::size_t> by_uid_;
 };
 
 } // namespace
 
-std::vector<FoundActivity> read_calendar(const Component& calendar, const Here& here, Report& report) {
+FoundCalendar read_calendar(const Component& calendar, const Here& here, Report& report) {
     return Reader(calendar, here, report).found();
 }
 

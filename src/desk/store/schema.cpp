@@ -71,8 +71,10 @@ void require_file(const std::string& path) {
 } // namespace
 
 const std::vector<Migration>& migrations() {
-    static const std::vector<Migration> all = {
-        {1, sql::create_tables()}, {2, sql::change_to_version_2()}, {4, sql::change_to_version_4()}};
+    static const std::vector<Migration> all = {{1, sql::create_tables()},
+                                               {2, sql::change_to_version_2()},
+                                               {3, sql::change_to_version_3()},
+                                               {4, sql::change_to_version_4()}};
     return all;
 }
 

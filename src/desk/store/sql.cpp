@@ -224,6 +224,22 @@ CREATE INDEX activities_recurring ON activities
 CREATE INDEX activities_edited ON activities (edited_at);
 )";
 
+constexpr std::string_view changes_of_version_3 = R"(
+-- What came from files, so that it is found again when the file comes again. A record may have been deleted since.
+CREATE TABLE imported_records (
+    kind INTEGER NOT NULL,
+    scheduled_for TEXT NOT NULL,
+    uid TEXT NOT NULL,
+    occurrence TEXT NOT NULL,
+    record TEXT NOT NULL,
+    told TEXT NOT NULL,
+    kept TEXT NOT NULL,
+    PRIMARY KEY (kind, scheduled_for, uid, occurrence)
+);
+-- A number of this database's own, by which what it exports is told from what others export.
+INSERT INTO counters (name, value) VALUES ('identity', random());
+)";
+
 constexpr std::string_view changes_of_version_4 = R"(
 -- Instances that stand for an occurrence while it is edited, by the process that edits it.
 CREATE TABLE temporary_instances (
@@ -249,7 +265,7 @@ const std::vector<std::string_view>& tables() {
                                                         "activities",         "exceptions",
                                                         "removed_activities", "further_contacts",
                                                         "toolbar_commands",   "toolbar_places",
-                                                        "temporary_instances"};
+                                                        "imported_records",   "temporary_instances"};
     return names;
 }
 
@@ -257,6 +273,7 @@ std::string probe(std::string_view table) { return join({"SELECT 1 FROM ", table
 
 std::string_view create_tables() { return tables_of_version_1; }
 std::string_view change_to_version_2() { return changes_of_version_2; }
+std::string_view change_to_version_3() { return changes_of_version_3; }
 std::string_view change_to_version_4() { return changes_of_version_4; }
 
 std::string_view contacts() {

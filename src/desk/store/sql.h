@@ -28,6 +28,7 @@ const std::vector<std::string_view>& tables();
 std::string probe(std::string_view table);
 std::string_view create_tables(); // those of version 1
 std::string_view change_to_version_2();
+std::string_view change_to_version_3();
 std::string_view change_to_version_4();
 
 inline constexpr std::string_view begin = "BEGIN IMMEDIATE";
@@ -115,6 +116,15 @@ inline constexpr std::string_view foreign_ids =
     "SELECT 1 FROM activities WHERE id < 'A' UNION ALL SELECT 1 FROM activities WHERE id >= 'B' LIMIT 1";
 inline constexpr std::string_view details = "SELECT details FROM activities WHERE id = ?";
 inline constexpr std::string_view first_contact = "SELECT contact FROM activities WHERE id = ?";
+
+inline constexpr std::string_view imported_records = // kind, user, uid
+    "SELECT occurrence, record, told, kept FROM imported_records WHERE kind = ? AND scheduled_for = ? AND uid = ?"
+    " ORDER BY occurrence";
+inline constexpr std::string_view add_imported_record =
+    "INSERT INTO imported_records (kind, scheduled_for, uid, occurrence, record, told, kept)"
+    " VALUES (?, ?, ?, ?, ?, ?, ?)";
+inline constexpr std::string_view remove_imported_record =
+    "DELETE FROM imported_records WHERE kind = ? AND scheduled_for = ? AND uid = ? AND occurrence = ?";
 
 inline constexpr std::string_view commands =
     "SELECT name, program, folder, title, caption, icon, large_icon, flag FROM toolbar_commands ORDER BY name";

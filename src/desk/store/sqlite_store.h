@@ -2,6 +2,7 @@
 
 #include "desk/store/activity_reading.h"
 #include "desk/store/activity_records.h"
+#include "desk/store/imported_records.h"
 #include "desk/store/people_records.h"
 #include "desk/store/sqlite_connection.h"
 #include "desk/store/store.h"
@@ -56,6 +57,8 @@ public:
     ToolbarCommands& toolbar_commands() override { return *toolbar_commands_; }
     TemporaryInstances& temporary_instances() override { return *temporary_instances_; }
     bool save_copy(const std::string& path, const Progress& progress) override;
+    ImportedRecords& imported_records() override { return *imported_records_; }
+    std::string identity() override;
 
 private:
     std::unique_ptr<SqliteConnection> connection_;
@@ -66,10 +69,12 @@ private:
     std::unique_ptr<ActivityReading> reading_;
     std::unique_ptr<ToolbarCommands> toolbar_commands_;
     std::unique_ptr<TemporaryInstances> temporary_instances_;
+    std::unique_ptr<ImportedRecords> imported_records_;
 };
 
 std::unique_ptr<ActivityReading> make_activity_reading(SqliteConnection& connection);
 std::unique_ptr<ToolbarCommands> make_toolbar_commands(SqliteConnection& connection, Store& store);
 std::unique_ptr<TemporaryInstances> make_temporary_instances(SqliteConnection& connection, Store& store);
+std::unique_ptr<ImportedRecords> make_imported_records(SqliteConnection& connection, Store& store);
 
 } // namespace store

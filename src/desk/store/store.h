@@ -12,6 +12,7 @@
 namespace store {
 
 class ActivityReading;
+class ImportedRecords;
 class ToolbarCommands;
 class TemporaryInstances;
 
@@ -93,7 +94,12 @@ public:
     virtual ActivityReading& reading() = 0;          // for those who keep what they have read (activity_reading.h)
     virtual ToolbarCommands& toolbar_commands() = 0; // buttons of other programs (toolbar_commands.h)
     virtual TemporaryInstances&
-    temporary_instances() = 0; // of occurrences that are edited (temporary_instances.h)
+    temporary_instances() = 0;                       // of occurrences that are edited (temporary_instances.h)
+    virtual ImportedRecords& imported_records() = 0; // what came from files (imported_records.h)
+
+    // 16 hexadecimal digits, made by chance with the database: what it exports is told by them from what others
+    // do.
+    virtual std::string identity() = 0;
 
     // Several writes as one transaction: all of them or, when the block throws, none. Blocks may contain blocks.
     virtual void together(const std::function<void()>& block) = 0;

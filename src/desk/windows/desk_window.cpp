@@ -34,10 +34,10 @@ model::ActivityFilter today_and_later() {
 
 } // namespace
 
-DeskWindow::DeskWindow(OpenDatabase& database, Import import)
+DeskWindow::DeskWindow(OpenDatabase& database, Exchange exchange)
     : database_(database), ui_(std::make_unique<Ui::DeskWindow>()), lookup_(database),
-      activity_commands_(database, lookup_, *this),
-      database_commands_(database, lookup_, *this, std::move(import)), view_actions_(this),
+      activity_commands_(database, lookup_, *this), database_commands_(database, lookup_, *this),
+      exchange_commands_(database, *this, std::move(exchange)), view_actions_(this),
       count_label_(new QLabel(this)) {
     ui_->setupUi(this);
     setWindowIcon(picture("contact_desk"));
@@ -119,9 +119,10 @@ void DeskWindow::connect_file_menu() {
     asking(ui_->file_open, &DatabaseCommands::open_another);
     asking(ui_->file_close, &DatabaseCommands::close);
     connect(ui_->file_save_copy, &QAction::triggered, this, [this] { save_copy(database_, *this); });
-    asking(ui_->file_import, &DatabaseCommands::import_file);
     asking(ui_->file_new_sample, &DatabaseCommands::create_sample);
     asking(ui_->file_add_user, &DatabaseCommands::add_user);
+    connect(ui_->file_import, &QAction::triggered, this, [this] { exchange_commands_.import_file(); });
+    connect(ui_->file_export, &QAction::triggered, this, [this] { exchange_commands_.export_file(); });
     connect(ui_->file_exit, &QAction::triggered, this, &QWidget::close);
     connect(ui_->open_button, &QPushButton::clicked, ui_->file_open, &QAction::trigger);
     connect(ui_->new_button, &QPushButton::clicked, ui_->file_new, &QAction::trigger);
@@ -263,7 +264,8 @@ void DeskWindow::show_state() {
     for (QAction* action :
          {ui_->file_add_user, ui_->contact_new, ui_->schedule_call, ui_->schedule_meeting, ui_->schedule_to_do})
         action->setEnabled(is_writable);
-    ui_->file_import->setEnabled(is_writable && database_commands_.can_import());
+    ui_->file_import->setEnabled(is_writable && exchange_commands_.can_import());
+    ui_->file_export->setEnabled(is_open && exchange_commands_.can_export());
     view_actions_.setEnabled(is_open);
     const QWidget* view = ui_->views->currentWidget();
     const bool is_list_shown = view == task_list_ || view == contact_page_;

@@ -3,6 +3,7 @@
 #include "desk/windows/activity_commands.h"
 #include "desk/windows/command_table.h"
 #include "desk/windows/database_commands.h"
+#include "desk/windows/exchange_commands.h"
 #include "desk/windows/running_desk.h"
 
 #include <QActionGroup>
@@ -28,7 +29,7 @@ class DeskWindow : public QMainWindow {
     Q_OBJECT
 
 public:
-    DeskWindow(OpenDatabase& database, Import import);
+    DeskWindow(OpenDatabase& database, Exchange exchange);
     ~DeskWindow() override;
 
     // Opens a database. A failure shows its box, and what was open stays so.
@@ -68,6 +69,7 @@ private:
     Lookup lookup_;
     ActivityCommands activity_commands_;
     DatabaseCommands database_commands_;
+    ExchangeCommands exchange_commands_;
     CommandTable commands_;
     QActionGroup view_actions_;
     QTimer poll_;

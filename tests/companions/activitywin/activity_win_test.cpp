@@ -68,7 +68,7 @@ protected:
     std::unique_ptr<host::Files> files = qt::make_files();
     std::unique_ptr<host::UserStore> user_store = make_user_store();
     settings::PerUserStore values{*user_store};
-    DeskWindow window{database, Import()};
+    DeskWindow window{database, Exchange()};
     OpenToolbarCommands toolbar{database};
     service::Service service{window.desk(), toolbar, values::english_us()};
     QDBusConnection caller = bus.connection();

@@ -18,13 +18,7 @@ namespace {
 
 class DatabaseCommandsTest : public DeskTest {
 protected:
-    DatabaseCommandsTest()
-        : lookup(database), commands(database, lookup, window, [](store::Store& store, const std::string& file) {
-              if (file.ends_with(".bad"))
-                  throw values::Failure(values::FailureNumber::automation, "That file can't be read.");
-              contact(store, "Elm House", "Vera Upton");
-              return "One contact was taken.";
-          }) {
+    DatabaseCommandsTest() : lookup(database), commands(database, lookup, window) {
         QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
         window.show();
     }
@@ -93,27 +87,6 @@ TEST_F(DatabaseCommandsTest, MakesAndOpensASample) {
     with_dialogs({choose("sample.desk")}, [&] { commands.create_sample(); });
     EXPECT_EQ(database.path(), in_folder("sample.desk"));
     EXPECT_FALSE(database.directory().contacts().empty());
-}
-
-TEST_F(DatabaseCommandsTest, AnImportTellsWhatItTook) {
-    database.open(path);
-    std::ofstream(in_folder("people.vcf")) << "x";
-    with_dialogs({choose("people.vcf"), confirm(told)}, [&] { commands.import_file(); });
-    EXPECT_EQ(told, "One contact was taken.");
-    EXPECT_EQ(database.directory().contacts().size(), 5u);
-}
-
-TEST_F(DatabaseCommandsTest, AnImportThatFailsTellsWhy) {
-    database.open(path);
-    std::ofstream(in_folder("people.bad")) << "x";
-    with_dialogs({choose("people.bad"), confirm(told)}, [&] { commands.import_file(); });
-    EXPECT_EQ(told, "That file can't be read.");
-    EXPECT_EQ(database.directory().contacts().size(), 4u);
-}
-
-TEST_F(DatabaseCommandsTest, ThereIsNoImportWithoutOne) {
-    EXPECT_TRUE(commands.can_import());
-    EXPECT_FALSE(DatabaseCommands(database, lookup, window, {}).can_import());
 }
 
 TEST_F(DatabaseCommandsTest, AddsAUser) {

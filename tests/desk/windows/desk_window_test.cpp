@@ -23,7 +23,7 @@ namespace {
 
 class DeskWindowTest : public DeskTest {
 protected:
-    DeskWindowTest() : window(std::make_unique<DeskWindow>(database, Import())) {
+    DeskWindowTest() : window(std::make_unique<DeskWindow>(database, Exchange())) {
         window->show();
         EXPECT_TRUE(QTest::qWaitForWindowActive(window.get()));
         window->desk().on_database_closed = [this] { events.push_back("closed"); };
@@ -281,7 +281,7 @@ TEST_F(DeskWindowTest, SeesWhatAnotherProcessWroteWithinASecondOrTwo) {
 TEST_F(DeskWindowTest, ImportsOnlyWhereThereIsAnImport) {
     window->open(path);
     EXPECT_FALSE(action("file_import")->isEnabled());
-    DeskWindow other(database, [](store::Store&, const std::string&) { return std::string(); });
+    DeskWindow other(database, {.take = [](store::Store&, const Taking&) { return Taken(); }});
     EXPECT_TRUE(other.findChild<QAction*>("file_import")->isEnabled());
 }
 

@@ -4,7 +4,7 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <ranges>
+#include <span>
 #include <utility>
 
 namespace settings {
@@ -95,7 +95,7 @@ std::vector<std::string> IniDocument::keys(std::string_view section) const {
 
 std::vector<std::string> IniDocument::sections() const {
     std::vector<std::string> names;
-    for (const Section& section : sections_ | std::views::drop(1))
+    for (const Section& section : std::span(sections_).subspan(1))
         names.push_back(section.name);
     return names;
 }

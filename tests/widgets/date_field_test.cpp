@@ -83,6 +83,7 @@ TEST_F(DateFieldTest, TheKeysStepByDaysAcrossTheMonth) {
 }
 
 TEST_F(DateFieldTest, ADayIsPickedFromTheCalendar) {
+    EXPECT_FALSE(field.actions().front()->icon().pixmap(16).isNull());
     field.actions().front()->trigger();
     auto* calendar = field.findChild<QCalendarWidget*>();
     ASSERT_NE(calendar, nullptr);

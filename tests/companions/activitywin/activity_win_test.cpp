@@ -133,6 +133,19 @@ TEST_F(ActivityWinTest, BringsTheRecurringTabToTheFrontAndForgetsTheWord) {
     EXPECT_EQ(values.read("Activity", "RecurringEdit"), "");
 }
 
+TEST_F(ActivityWinTest, LeavesTheNextDialogAloneOnceItsOwnWasRefused) {
+    values.write("Activity", "RecurringEdit", "1");
+    start_companion();
+    QTest::qWait(1000);
+    values.remove("Activity", "RecurringEdit");
+    window.desk().contact_view().go_to(cedar);
+    window.desk().contact_view().select_activity(0, true);
+    command(act::CommandNumber::edit_activity);
+    auto* edit = dialog();
+    QTest::qWait(500);
+    EXPECT_EQ(child<QTabWidget>(*edit, "tabs")->currentIndex(), 0);
+}
+
 TEST_F(ActivityWinTest, LeavesADialogAloneThatTheUserOpenedInTheDesk) {
     child<QAction>(window, "schedule_call")->trigger();
     start_companion();

@@ -4,6 +4,7 @@
 #include "desk/export/own_writer.h"
 #include "desk/import/activity_text.h"
 #include "desk/import/card_reader.h"
+#include "desk/import/digest.h"
 #include "desk/import/own_lines.h"
 #include "desk/store/contact_fields.h"
 
@@ -100,6 +101,7 @@ std::string card_text(const store::Contact& contact, const std::vector<store::No
         lines += own_line(own::note, {std::to_string(note.written.seconds()), note.text});
     }
     card += category_lines(groups) + "END:VCARD\r\n";
+    lines += own_line(own::record, {importing::digest_of(contact)});
     return with_lines(card, field_lines(contact, card) + group_lines(groups) + lines);
 }
 

@@ -15,6 +15,7 @@
 #include <filesystem>
 #include <functional>
 #include <map>
+#include <system_error>
 
 namespace exporting {
 namespace {
@@ -31,17 +32,19 @@ std::string field_of(const store::Contact& contact, int number) {
     return place == contact.fields.end() ? std::string() : place->second;
 }
 
-// Everything of the database as of one moment.
-class Reading {
-public:
-    explicit Reading(store::Store& store) : store_(store) { store_.begin_reading(); }
-    ~Reading() { store_.end_reading(); }
-    Reading(const Reading&) = delete;
-    Reading& operator=(const Reading&) = delete;
-
-private:
-    store::Store& store_;
-};
+// What `read` gives, with everything of the database as of one moment.
+std::string as_of_now(store::Store& store, const std::function<std::string()>& read) {
+    store.begin_reading();
+    std::string text;
+    try {
+        text = read();
+    } catch (...) {
+        store.end_reading();
+        throw;
+    }
+    store.end_reading();
+    return text;
+}
 
 class CalendarExport {
 public:
@@ -58,7 +61,7 @@ public:
         std::string text = calendar_begin(first_lines());
         store::ActivityQuery query;
         if (!chosen_.empty())
-            query.user = chosen_;
+            query.users = {chosen_};
         for (const store::Activity& activity : store_.activities(query))
             text += entry(activity);
         return text + calendar_end();
@@ -67,9 +70,12 @@ public:
 private:
     void choose_user(const std::string& name) {
         const auto same = [&](const store::User& user) { return values::equal_ignoring_case(user.name, name); };
+        std::string names;
+        for (const store::User& user : users_)
+            names += (names.empty() ? "" : ", ") + user.name;
         std::erase_if(users_, std::not_fn(same));
         if (users_.empty())
-            fail("There is no user \"" + name + "\".");
+            fail("There is no user \"" + name + "\". The users are: " + names + ".");
         chosen_ = users_.front().id;
         report_.user = users_.front().name;
     }
@@ -188,11 +194,12 @@ Report export_file(store::Store& store, const std::string& path, const Options& 
         fail("The file's name has to end in .ics for activities or in .vcf for contacts.");
     Report report{.file = std::filesystem::path(path).filename().string()};
     report.is_calendar = ending == ".ics";
-    std::string text;
-    {
-        const Reading reading(store);
-        text = report.is_calendar ? CalendarExport(store, options, report).text() : cards(store, options, report);
-    }
+    std::error_code absent;
+    if (std::filesystem::equivalent(path, store.path(), absent))
+        fail("That file is the database itself.");
+    const std::string text = as_of_now(store, [&] {
+        return report.is_calendar ? CalendarExport(store, options, report).text() : cards(store, options, report);
+    });
     report.bytes = text.size();
     write_whole_file(path, text);
     return report;

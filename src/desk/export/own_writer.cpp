@@ -1,5 +1,6 @@
 #include "desk/export/own_writer.h"
 
+#include "desk/import/digest.h"
 #include "desk/import/entry.h"
 #include "desk/import/own_lines.h"
 
@@ -110,6 +111,9 @@ std::string with_own_lines(const std::string& entry, const store::Activity& acti
         lines += own_line(own::group, {names.group_uid, names.group});
     for (const NamedContact& contact : names.contacts)
         lines += own_line(own::contact, {contact.uid, contact.name, contact.mail, contact.company});
+    const importing::Content content = importing::content_of(entry);
+    lines += own_line(own::rule_check, {own::rule_check_of(content.components.front())}) +
+             own_line(own::record, {importing::digest_of(activity)});
     return with_lines(entry, lines);
 }
 

@@ -47,21 +47,25 @@ void ActivityTaking::take(const FoundActivity& found, const std::string& user) {
     const auto before = std::ranges::find(all, imported.occurrence, &ImportedRecord::occurrence);
     if (before != all.end())
         take_again(found, imported, *before);
-    else if (!leave_own(found, user))
+    else if (!take_back(found, imported))
         add(found, std::move(imported));
 }
 
-bool ActivityTaking::leave_own(const FoundActivity& found, const std::string& user) {
+bool ActivityTaking::take_back(const FoundActivity& found, const ImportedRecord& imported) {
     const auto id = own::id_of(found.source.uid, identity_);
     const auto current = id ? store_.activity(*id) : std::nullopt;
-    if (!current || current->user != user)
+    if (!current || current->user != imported.user)
         return false;
-    if (found.is_own && digest_of(record_of(found, user)) == digest_of(*current)) {
+    const std::string now = digest_of(*current);
+    if (found.is_own && digest_of(record_of(found, imported.user)) == now) {
         ++report_.unchanged;
-    } else {
+    } else if (found.exported == now && found.occurrence.empty()) { // so it was changed in the file
+        update(found, imported, *current);
+    } else if (left_own_.insert(*id).second) { // once, though it may have become several
         ++report_.left_as_changed;
         report_.skipped.push_back(
-            {found.source, "It is an activity of this very database, where it is another now; that was left."});
+            {found.source,
+             "It comes from this very database, where it was changed since; what is here was left."});
     }
     return true;
 }

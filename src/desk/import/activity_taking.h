@@ -33,8 +33,8 @@ private:
                     const store::ImportedRecord& before);
     store::Activity record_of(const FoundActivity& found, const std::string& user);
     void remove_gone(const std::string& uid, const std::string& user, const std::set<std::string>& there);
-    // Whether it is an activity of this very database, which then stays as it is.
-    bool leave_own(const FoundActivity& found, const std::string& user);
+    // An activity of this very database that is there; false for any other.
+    bool take_back(const FoundActivity& found, const store::ImportedRecord& imported);
     void remember(store::ImportedRecord imported);
     void count_hours(const store::Activity& activity);
 
@@ -44,6 +44,7 @@ private:
     const std::string identity_;
     const Deleted deleted_;
     Report& report_;
+    std::set<std::string> left_own_;
     std::map<std::pair<std::string, std::string>, std::set<std::string>> occurrences_; // by uid and user
 };
 

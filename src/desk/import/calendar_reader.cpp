@@ -114,6 +114,7 @@ private:
     }
 
     void read(const Group& group) {
+        is_cut_ = false;
         Excluded excluded;
         std::optional<Entry> main;
         if (group.main)
@@ -122,7 +123,6 @@ private:
             read_override(*component, main, excluded);
         if (!main)
             return;
-        is_cut_ = false;
         if (!main->skipped.empty())
             report_.skipped.push_back({main->source, main->skipped});
         else
@@ -139,6 +139,7 @@ private:
         if (replaced && main && main->skipped.empty())
             exclude(excluded, *main, replaced);
         if (!entry.skipped.empty()) {
+            is_cut_ = is_cut_ || !entry.is_cancelled;
             report_.skipped.push_back({entry.source, entry.skipped});
             return;
         }
@@ -166,6 +167,7 @@ private:
             entry.changes.push_back("It has several rules of recurrence; only the first was taken.");
         icalcomponent_get_first_property(component, ICAL_RRULE_PROPERTY);
         auto followed = rule ? follow(rule, entry.start, times_, today_) : std::nullopt;
+        is_cut_ = is_cut_ || (rule && !followed);
         if (rule && !followed)
             entry.changes.push_back("The calendar can't follow its rule of recurrence; only the first was taken.");
         if (followed) {
@@ -219,14 +221,15 @@ private:
         }
         const std::size_t all = starts.size();
         keep_nearest(starts);
-        is_cut_ = starts.size() < all || followed.is_too_long;
+        const bool has_more = starts.size() < all || followed.is_too_long;
+        is_cut_ = is_cut_ || has_more;
         for (const DateTime start : starts)
             take_at(entry.found, start);
         if (is_one)
             return;
         std::string change = "The calendar shows no series on its dates, so it became single activities (" +
                              std::to_string(starts.size()) + ")";
-        if (is_cut_)
+        if (has_more)
             change += ", no more, of its many dates";
         if (goes_on)
             change += ", up to " + date_text(std::max(last, starts.empty() ? last : starts.back()));
@@ -249,7 +252,7 @@ private:
     const DateTime today_;
     Report& report_;
     FoundCalendar found_;
-    bool is_cut_ = false; // the entry that is being read has more dates than are taken
+    bool is_cut_ = false; // the entry that is being read has more than is taken
     std::vector<Group> groups_;
     std::map<std::string, std::size_t> by_uid_;
 };

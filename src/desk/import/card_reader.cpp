@@ -218,6 +218,7 @@ private:
     // What a card has no place for, and all that it says where no other program has changed it.
     void restore_own(const Component& card) {
         found_.is_own = true;
+        found_.exported = value_in(card, own::record);
         const bool is_untouched = own::is_untouched(card);
         for (const own::Parts& told : own::all_parts_in(card, own::field)) {
             const int number = static_cast<int>(told.number(0).value_or(0));

@@ -30,6 +30,7 @@ struct FoundCard {
     std::vector<FoundNote> notes{};
     std::vector<Membership> groups{};
     bool is_own = false;                // a desk wrote it
+    std::string exported{};             // the digest of the contact that was written
     std::vector<std::string> changes{}; // what is taken otherwise than it stands, in sentences
     bool is_empty() const { return contact.fields.empty() && !is_own; } // neither a name nor a company
 };

@@ -64,8 +64,9 @@ std::string CardTaking::add(const FoundCard& card, ImportedRecord imported) {
 void CardTaking::take_again(const FoundCard& card, ImportedRecord imported, store::Contact current,
                             const std::optional<ImportedRecord>& before) {
     const std::string now = digest_of(current);
-    const bool is_untouched = now == (before ? before->kept : digest_of(card.contact));
-    if (!before || imported.told == before->told) {
+    const bool is_same = before ? imported.told == before->told : digest_of(card.contact) == now;
+    const bool is_untouched = before ? before->kept == now : is_same || card.exported == now;
+    if (is_same) {
         ++(is_untouched ? report_.contacts_unchanged : report_.contacts_left_as_changed);
     } else if (is_untouched) {
         current.fields = card.contact.fields;

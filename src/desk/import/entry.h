@@ -23,6 +23,7 @@ struct FoundActivity {
     bool is_own = false;               // a desk wrote it; then it has those people alone, and the next
     std::optional<std::string> user{}; // a name; empty for nobody's
     FoundGroup group{};
+    std::string exported{}; // the digest of the record that was written
 };
 
 Source source_of(const Component& component);

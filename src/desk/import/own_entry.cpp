@@ -83,6 +83,7 @@ void restore_what_has_no_place(FoundActivity& found, const Component& component)
     if (const auto cleared = own::parts_in(component, own::cleared); cleared && component.name == "VEVENT")
         activity.cleared = cleared->number(0) == 1;
     restore_text(activity.result, component, own::result);
+    found.exported = value_in(component, own::record);
     restore_colour(activity, component);
     if (const auto user = own::parts_in(component, own::user))
         found.user = user->text(0);
@@ -121,6 +122,9 @@ void restore_own(Entry& entry, const Component& component) {
     if (own::is_untouched(component)) {
         restore_all(entry.found, component);
         entry.changes.clear(); // what was read with a loss is whole now
+        entry.is_settled = true;
+    } else if (own::has_untouched_rule(component)) {
+        restore_series(entry.found.activity, component);
         entry.is_settled = true;
     }
     if (!entry.found.activity.start)

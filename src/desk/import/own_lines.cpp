@@ -24,6 +24,27 @@ bool is_told(const Line& line) {
            name != "REV";
 }
 
+// A rule's parts may come in any order.
+std::string in_one_order(const Line& line) {
+    if (name_of(line) != "RRULE")
+        return line.text;
+    std::vector<std::string> parts = values::split(value_of(line), ";");
+    std::ranges::sort(parts);
+    std::string text = "RRULE";
+    for (const std::string& part : parts)
+        text += ";" + part;
+    return text;
+}
+
+std::string digest_of(const std::string& name, std::vector<std::string> told) {
+    std::ranges::sort(told);
+    Digest digest;
+    digest.add(name);
+    for (const std::string& text : told)
+        digest.add(text);
+    return digest.text();
+}
+
 // What two characters behind a "%" stand for.
 std::optional<char> escaped_byte(std::string_view digits) {
     if (digits.size() < 2)
@@ -99,18 +120,26 @@ std::string check_of(const Component& component) {
     std::vector<std::string> told;
     for (const Line& line : component.lines)
         if (is_told(line))
-            told.push_back(line.text);
+            told.push_back(in_one_order(line));
     for (const Component& part : component.parts)
         told.push_back(part.name + "\n" + check_of(part));
-    std::ranges::sort(told);
-    Digest digest;
-    digest.add(component.name);
-    for (const std::string& text : told)
-        digest.add(text);
-    return digest.text();
+    return digest_of(component.name, std::move(told));
+}
+
+std::string rule_check_of(const Component& component) {
+    std::vector<std::string> told;
+    for (const Line& line : component.lines)
+        if (const std::string name = name_of(line);
+            name == "DTSTART" || name == "RRULE" || name == "EXDATE" || name == "RDATE")
+            told.push_back(in_one_order(line));
+    return digest_of(component.name, std::move(told));
 }
 
 bool is_untouched(const Component& component) { return value_in(component, check) == check_of(component); }
+
+bool has_untouched_rule(const Component& component) {
+    return value_in(component, rule_check) == rule_check_of(component);
+}
 
 std::string uid_of(const std::string& id, const std::string& identity) {
     return std::string(values::trimmed(id)) + "." + identity + std::string(host);

@@ -31,8 +31,12 @@ inline constexpr std::string_view user = "X-ORVANTA-USER"; // name|security|acce
 // Of a card.
 inline constexpr std::string_view field = "X-ORVANTA-FIELD"; // number|text
 inline constexpr std::string_view note = "X-ORVANTA-NOTE";   // written|text
-// Of an entry and of a card: whether other programs left it as it was written.
+// Of an entry and of a card: a digest of the record that was written, and whether other programs left it as it
+// was.
+inline constexpr std::string_view record = "X-ORVANTA-RECORD";
 inline constexpr std::string_view check = "X-ORVANTA-CHECK";
+// Of an entry: the same for its start, its rule of recurrence and its exceptions alone.
+inline constexpr std::string_view rule_check = "X-ORVANTA-RULE-CHECK";
 
 inline constexpr std::string_view types[] = {"CALL", "MEETING", "TO-DO"};
 inline constexpr std::string_view series_kinds[] = {"", "DAILY", "WEEKLY", "DAYS-OF-MONTH", "WEEKDAYS-OF-MONTH"};
@@ -61,8 +65,10 @@ std::vector<Parts> all_parts_in(const Component& component, std::string_view nam
 
 // A digest of the lines that other programs know, in whatever order, but for when it was written.
 std::string check_of(const Component& component);
-// Whether other programs left the component as the desk wrote it.
+std::string rule_check_of(const Component& component);
+// Whether other programs left the component, or its dates, as the desk wrote them.
 bool is_untouched(const Component& component);
+bool has_untouched_rule(const Component& component);
 
 // The name of a record (UID) in files, made of its id and its database's identity.
 std::string uid_of(const std::string& id, const std::string& identity);

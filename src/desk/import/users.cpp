@@ -2,8 +2,10 @@
 
 #include "core/values/failure.h"
 #include "core/values/text.h"
+#include "desk/import/activity_text.h"
 
 #include <algorithm>
+#include <initializer_list>
 
 namespace importing {
 namespace {
@@ -12,14 +14,19 @@ namespace {
     throw values::Failure(values::FailureNumber::automation, sentence);
 }
 
+bool is_one_of(const std::string& text, std::initializer_list<std::string_view> words) {
+    return std::ranges::find(words, text) != words.end();
+}
+
+// What a file tells isn't trusted further than the words that there are.
 store::User made_as(const std::vector<store::User>& told, const std::string& name) {
     const auto same = [&](const store::User& user) { return values::equal_ignoring_case(user.name, name); };
     const auto place = std::ranges::find_if(told, same);
     store::User user{.name = name, .security = "Standard", .access = "Enabled"};
-    if (place != told.end() && !place->security.empty() && !place->access.empty()) {
+    if (place != told.end() && is_one_of(place->security, {"Administrator", "Standard", "Browse"}))
         user.security = place->security;
+    if (place != told.end() && is_one_of(place->access, {"Enabled", "Disabled"}))
         user.access = place->access;
-    }
     return user;
 }
 
@@ -52,7 +59,7 @@ std::string Users::usual_id() const {
 }
 
 std::string Users::id_for(const std::optional<std::string>& told_name) {
-    const std::string wanted = chosen_.empty() && told_name ? *told_name : name();
+    const std::string wanted = chosen_.empty() && told_name ? single_line(*told_name) : name();
     if (wanted.empty() && told_name)
         return {};
     if (wanted.empty())

@@ -327,6 +327,27 @@ TEST_F(ExportFile, WhatComesBackIntoItsOwnDatabaseChangesNothing) {
     EXPECT_EQ(Whole(here.store()).activities(), activities);
 }
 
+TEST_F(ExportFile, WhatAnotherProgramChangedComesBackIntoItsOwnDatabase) {
+    store::fill_sample(here.store(), DateTime::of(2024, 3, 11));
+    export_both(here.store());
+    const store::Activity first = here.store().activities({}).front();
+    store::Activity second = here.store().activities({}).at(1);
+    for (const store::Activity& changed : {first, second}) {
+        const std::string uid = "UID:" + changed.id + "." + here.store().identity() + "@contact-desk\r\n";
+        support::write_file(calendar,
+                            values::replaced(support::content_of(calendar), uid, uid + "LOCATION:Room 4\r\n"));
+    }
+    second.regarding = "Mine";
+    here.store().update(second);
+    const auto report = take(here.store(), calendar);
+    EXPECT_EQ(report.updated, 1u);
+    EXPECT_EQ(report.left_as_changed, 1u) << report.text(5);
+    EXPECT_EQ(report.activities, 0u);
+    EXPECT_TRUE(values::contains(here.store().activity(first.id)->details, "Location: Room 4"));
+    EXPECT_EQ(here.store().activity(second.id)->regarding, "Mine");
+    EXPECT_EQ(take(here.store(), calendar).updated, 0u);
+}
+
 TEST_F(ExportFile, WhatWasDeletedHereComesBackFromItsExport) {
     store::fill_sample(here.store(), DateTime::of(2024, 3, 11));
     export_both(here.store());
@@ -391,7 +412,7 @@ TEST_F(ExportFile, AUserWhoIsChosenTakesItAll) {
     take(there.store(), calendar, "Zora");
     EXPECT_EQ(there.store().users().size(), 1u);
     store::ActivityQuery query;
-    query.user = there.store().users().front().id;
+    query.users = {there.store().users().front().id};
     EXPECT_EQ(there.store().activities(query).size(), here.store().activities({}).size());
 }
 
@@ -399,15 +420,16 @@ TEST_F(ExportFile, OneUsersActivitiesAlone) {
     store::fill_sample(here.store(), DateTime::of(2024, 3, 11));
     const store::User user = here.store().users().at(1);
     store::ActivityQuery query;
-    query.user = user.id;
+    query.users = {user.id};
     const auto report = exporting::export_file(here.store(), calendar, {.user = values::lower(user.name)});
     EXPECT_EQ(report.activities, here.store().activities(query).size());
     EXPECT_EQ(report.user, user.name);
     take(there.store(), calendar);
     ASSERT_EQ(there.store().users().size(), 1u);
     EXPECT_EQ(there.store().users().front().name, user.name);
-    EXPECT_EQ(failure_of([&] { exporting::export_file(here.store(), calendar, {.user = "Nobody"}); }),
-              "There is no user \"Nobody\".");
+    EXPECT_EQ(
+        failure_of([&] { exporting::export_file(here.store(), calendar, {.user = "Nobody"}); }).substr(0, 41),
+        "There is no user \"Nobody\". The users are:");
 }
 
 TEST_F(ExportFile, TellsWhatOtherProgramsWontSee) {
@@ -425,6 +447,14 @@ TEST_F(ExportFile, TellsWhatOtherProgramsWontSee) {
     EXPECT_EQ(exporting::export_file(store, cards, everybody).text(),
               "Written to all.vcf: 1 contact, 0 notes.\n"
               "1 group without contacts isn't in the file; a calendar file of everybody's activities has them.\n");
+}
+
+TEST_F(ExportFile, NeverTakesTheDatabasesOwnPlace) {
+    const std::string path = folder.file("team.ics");
+    const auto store = store::Store::create(path);
+    EXPECT_EQ(failure_of([&] { exporting::export_file(*store, path, everybody); }),
+              "That file is the database itself.");
+    EXPECT_TRUE(store::Store::open(path)->users().empty());
 }
 
 TEST_F(ExportFile, RefusesOtherEndingsAndUsersOfContacts) {

@@ -78,8 +78,7 @@ TEST_F(WholeFile, IsTheOldOneWhenTheDiskIsFull) {
         const FullDisk disk(100000);
         told = failure_of(path, std::string(1000000, 'x'));
     }
-    EXPECT_EQ(told,
-              "The file \"" + path + "\" can't be written: File too large. Nothing was changed.");
+    EXPECT_EQ(told, "The file \"" + path + "\" can't be written: File too large. Nothing was changed.");
     EXPECT_EQ(support::content_of(path), "old");
     EXPECT_EQ(files_in(folder.path()), 1u);
 }

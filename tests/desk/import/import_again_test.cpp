@@ -180,6 +180,20 @@ TEST_F(ImportAgain, WhatOnlyMovedOutOfReachIsNotRemoved) {
     EXPECT_EQ(report.removed, 0u);
 }
 
+TEST_F(ImportAgain, AnOccurrenceThatCantBeReadAnyMoreIsNotRemoved) {
+    const std::string series = event("a", "12T090000", "RRULE:FREQ=DAILY\r\n");
+    take(series + event("a", "14T150000", "RECURRENCE-ID:20240314T090000\r\n"));
+    EXPECT_EQ(take(series + event("a", "99T990000", "RECURRENCE-ID:20240314T090000\r\n")).removed, 0u);
+    EXPECT_EQ(activities().size(), 2u);
+}
+
+TEST_F(ImportAgain, DatesOfARuleThatCantBeFollowedAnyMoreAreNotRemoved) {
+    take(event("a", "11T090000", "RRULE:FREQ=HOURLY;INTERVAL=5;COUNT=3\r\n"));
+    const std::size_t before = activities().size();
+    EXPECT_EQ(take(event("a", "11T090000", "RRULE:FREQ=SECONDLY\r\n")).removed, 0u);
+    EXPECT_GE(activities().size(), before);
+}
+
 TEST_F(ImportAgain, EntriesWithoutANameAreKnownByWhatTheySay) {
     const std::string entries = event("", "12T090000") + event("", "12T090000") + event("", "13T090000");
     EXPECT_EQ(take(entries).activities, 3u);

@@ -47,6 +47,19 @@ TEST(OwnLines, TheCheckHoldsInAnyOrderAndFailsAtAnyChange) {
     EXPECT_FALSE(holds("UID:1\nSUMMARY:A\nBEGIN:VALARM\nEND:VALARM\n"));
 }
 
+TEST(OwnLines, TheRulesCheckIsThatOfItsDatesAlone) {
+    const std::string rule = "DTSTART:20240311T090000\nRRULE:FREQ=DAILY;INTERVAL=2\n";
+    const std::string check = own::rule_check_of(component("BEGIN:VEVENT\n" + rule + "END:VEVENT"));
+    const auto holds = [&](const std::string& lines) {
+        return own::has_untouched_rule(
+            component("BEGIN:VEVENT\n" + lines + "X-ORVANTA-RULE-CHECK:" + check + "\nEND:VEVENT"));
+    };
+    EXPECT_TRUE(holds("SUMMARY:A\n" + rule));
+    EXPECT_TRUE(holds("RRULE:INTERVAL=2;FREQ=DAILY\nDTSTART:20240311T090000\n"));
+    EXPECT_FALSE(holds("RRULE:FREQ=DAILY;INTERVAL=3\nDTSTART:20240311T090000\n"));
+    EXPECT_FALSE(holds(rule + "EXDATE:20240313T090000\n"));
+}
+
 TEST(OwnLines, ARecordsNameLeadsBackToItInItsOwnDatabaseAlone) {
     const std::string uid = own::uid_of("A0000000001 ", "00000000000000ff");
     EXPECT_EQ(uid, "A0000000001.00000000000000ff@contact-desk");

@@ -51,12 +51,16 @@ TEST_F(UsersTest, OneWhomTheDatabaseDoesntHaveIsMadeAsTheFileTells) {
     Users users(store, "");
     users.tell({.name = "Zora", .security = "Browse", .access = "Disabled"});
     users.id_for("Zora");
+    users.tell({.name = "Yves", .security = "God", .access = "<b>"});
+    users.id_for("Yves\nEND");
     users.id_for("Yves");
     users.id_for("zora");
-    ASSERT_EQ(store.users().size(), 3u);
-    EXPECT_EQ(store.users()[2].security, "Browse");
-    EXPECT_EQ(store.users()[2].access, "Disabled");
+    ASSERT_EQ(store.users().size(), 4u);
+    EXPECT_EQ(store.users()[3].security, "Browse");
+    EXPECT_EQ(store.users()[3].access, "Disabled");
+    EXPECT_EQ(store.users()[2].name, "Yves END");
     EXPECT_EQ(store.users()[1].security, "Standard");
+    EXPECT_EQ(store.users()[1].access, "Enabled");
 }
 
 TEST_F(UsersTest, WithoutAnybodyItFails) {

@@ -54,10 +54,9 @@ Message ActivitySender::message_of(const store::Activity& activity) const {
     }
     message.subject = QStringLiteral("%1: %2").arg(type_name(activity.type), shown(activity.regarding));
     message.attachment_name = type_name(activity.type).toLower() + ".ics";
-    message.attachment = QByteArray::fromStdString(
-        exporting::calendar_text(activity, participants,
-                                 {.identity = database_.store().identity(),
-                                  .stamp = QDateTime::currentSecsSinceEpoch()}));
+    message.attachment = QByteArray::fromStdString(exporting::calendar_text(
+        activity, participants,
+        {.identity = database_.store().identity(), .stamp = QDateTime::currentSecsSinceEpoch()}));
     return message;
 }
 

@@ -186,12 +186,14 @@ void WorkSession::add_calendar() {
                           activity.Data(act::activity_field::regarding, std::string("From the calendar"));
                           activity.Update();
                       }});
-    steps_.push_back({"an occurrence of its own", [this] {
+    steps_.push_back({"an occurrence of its own",
+                      [this] {
                           act::Activity& activity = *started().act.session.ActActivity;
                           activity.Goto(series);
                           const grid::clsMsgSchedCell& cell = started().grid.layout.Cells(2, 6);
                           started().interaction.instances.Change_Instance(cell, cell, 60);
-                      }});
+                      },
+                      false});
     steps_.push_back({"days off", [this] {
                           support::FakeHolidaysForm form;
                           forms::DaysOff dialog(here_, started().settings, form,

@@ -23,7 +23,8 @@ public:
 
     struct Step {
         std::string name;
-        std::function<void()> work; // throws or shows a box where it fails
+        std::function<void()> work;  // throws or shows a box where it fails
+        bool can_be_repeated = true; // a second time it changes nothing, or is refused
     };
     const std::vector<Step>& steps() const { return steps_; }
 

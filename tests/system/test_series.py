@@ -4,7 +4,7 @@ database."""
 import unittest
 
 from both_programs import CHANGE_OF_DATE, CHANGE_OF_USER, DAY, SERIES_MENU, WHICH, BothPrograms, us_date
-from desktop import Atspi, wait_for, wait_to_see
+from desktop import Atspi, Grid, wait_for, wait_to_see
 
 REFUSED = ("In Orvanta, changes made under the RECURRING TAB are not allowed unless you use the Edit recurring "
            "settings command. See the user's manual for more on Editing recurring activities.\nAll changes are ignored.")
@@ -224,6 +224,8 @@ class KilledCalendar(Series):
         self.answer(self.calendar, f'The calendar ended while the occurrence of "Prices of nails" on '
                     f'{us_date(self.date(3))} was edited. It was changed, or its series was deleted, so it stays as an '
                     'activity of its own.', "OK")
+        self.desktop.wait_for_window("^Orvanta$", self.calendar)
+        self.grid = Grid(self.calendar)
         self.expect_series(exceptions=[3])
         self.expect_instance(regarding="Prices of nails")
 

@@ -322,6 +322,7 @@ protected:
                          click(dynamic_cast<QMessageBox&>(box).button(answer));
                      }},
                      [&] { window->end([this] { ++stays; }); });
+        EXPECT_TRUE(QTest::qWaitFor([this] { return stays > 0 || !window->isVisible(); }, 5000));
     }
     std::string regarding() { return elsewhere()->activity(meeting)->regarding; }
 

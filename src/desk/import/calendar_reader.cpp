@@ -1,32 +1,23 @@
 #include "desk/import/calendar_reader.h"
 
 #include "desk/import/activity_text.h"
-#include "desk/import/import_file.h"
-#include "desk/import/occurrences.h"
+#include "desk/import/recurring.h"
 
 #include <algorithm>
 #include <charconv>
+#include <iterator>
+#include <map>
 #include <utility>
 
 namespace importing {
 namespace {
 
-using store::DateTime;
+constexpr std::size_t share_of_an_entry = 4; // it may take a fourth of the work that is left
 
 // All that the calendar has under one UID.
 struct Group {
     const Component* main = nullptr;
     std::map<std::string, const Component*> overrides{}; // by the occurrence that each stands for
-};
-
-// Dates of a series on which it doesn't take place.
-struct Excluded {
-    std::set<DateTime> starts{};
-    std::set<DateTime> days{};
-
-    bool has(const icaltimetype& time, DateTime local) const {
-        return starts.contains(local) || days.contains(DateTime::of(time.year, time.month, time.day));
-    }
 };
 
 int sequence_of(const Component& component) {
@@ -36,19 +27,17 @@ int sequence_of(const Component& component) {
     return sequence;
 }
 
-std::string date_text(DateTime date) {
-    const auto two = [](int number) { return (number < 10 ? "0" : "") + std::to_string(number); };
-    return std::to_string(date.year()) + "-" + two(date.month()) + "-" + two(date.day());
-}
-
 class Reader {
 public:
     Reader(const Component& calendar, const Here& here, Report& report)
-        : zones_(calendar), times_(zones_, here.local_time), today_(here.today.date()), report_(report) {
+        : zones_(calendar, here.zones, here.work), times_(zones_, here.local_time, here.work),
+          today_(here.today.date()), work_(here.work), report_(report) {
         for (const Component& part : calendar.parts)
             sort_in(part);
-        for (const Group& group : groups_)
-            read(group);
+        for (const Group& group : groups_) {
+            read_if_possible(group);
+            work_.step(entries_of(group).size());
+        }
     }
     std::vector<FoundActivity> found() { return std::move(found_); }
 
@@ -84,15 +73,6 @@ private:
         keep_newer(replaced.empty() ? group.main : group.overrides[replaced], part);
     }
 
-    void take(const FoundActivity& activity) { found_.push_back(activity); }
-
-    void take_at(const FoundActivity& activity, DateTime start) {
-        FoundActivity single = activity;
-        single.activity.start = start;
-        single.activity.end = start.plus_minutes(single.activity.duration);
-        take(single);
-    }
-
     void tell_changes(Entry& entry) {
         for (const std::string& name : zones_.take_unknown())
             entry.changes.push_back("Its time zone \"" + single_line(name) +
@@ -101,137 +81,104 @@ private:
             report_.changed.push_back({entry.source, change});
     }
 
-    void exclude(Excluded& excluded, const Entry& entry, icalproperty* property) {
-        for (const icaltimetype& time : times_.all(property))
-            if (time.is_date || entry.start.is_date)
-                excluded.days.insert(DateTime::of(time.year, time.month, time.day));
-            else
-                excluded.starts.insert(times_.local(time));
-    }
-
-    void read(const Group& group) {
-        Excluded excluded;
-        std::optional<Entry> main;
-        if (group.main)
-            main = read_entry(*group.main, times_);
+    static std::vector<const Component*> entries_of(const Group& group) {
+        std::vector<const Component*> entries;
         for (const auto& [replaced, component] : group.overrides)
-            read_override(*component, main, excluded);
-        if (!main)
-            return;
-        if (!main->skipped.empty())
-            report_.skipped.push_back({main->source, main->skipped});
-        else
-            read_main(*main, excluded);
+            entries.push_back(component);
+        if (group.main)
+            entries.push_back(group.main);
+        return entries;
     }
 
-    void read_override(const Component& component, const std::optional<Entry>& main, Excluded& excluded) {
-        Entry entry = read_entry(component, times_);
-        icalproperty* replaced =
-            entry.component ? icalcomponent_get_first_property(entry.component.get(), ICAL_RECURRENCEID_PROPERTY)
-                            : nullptr;
-        if (replaced && main && main->skipped.empty())
-            exclude(excluded, *main, replaced);
+    // Whole or not at all.
+    void read_if_possible(const Group& group) {
+        const std::size_t found = found_.size();
+        const std::size_t changed = report_.changed.size();
+        const std::size_t skipped = report_.skipped.size();
+        bool is_possible = false;
+        try {
+            is_possible = work_.within(work_.left() / share_of_an_entry, [&] { read(group); });
+        } catch (const Work::Exhausted&) { // nothing is left for the entries after it either
+        }
+        if (is_possible)
+            return;
+        found_.erase(found_.begin() + static_cast<std::ptrdiff_t>(found), found_.end());
+        report_.changed.resize(changed);
+        report_.skipped.resize(skipped);
+        zones_.take_unknown();
+        for (const Component* component : entries_of(group))
+            skip(*component, "It would take too long to read.");
+    }
+
+    Entry entry_of(const Component& component) {
+        work_.spend(units_to_parse(component));
+        return read_entry(component, times_);
+    }
+
+    // Where an entry changes occurrences of a series that the file doesn't have, one with a rule of its own stands
+    // for all of that rule's dates.
+    void read(const Group& group) {
+        std::map<const Component*, std::vector<ZonedTime>> replaced;
+        std::vector<const Component*> leaders;
+        for (const auto& [name, component] : group.overrides) {
+            Entry entry = entry_of(*component);
+            replaced[component] = times_of(entry, ICAL_RECURRENCEID_PROPERTY, times_);
+            if (group.main || !has_own_dates(*component)) {
+                take_override(entry, *component);
+            } else {
+                leaders.push_back(component);
+                zones_.take_unknown(); // told when it is read again
+            }
+        }
+        if (group.main)
+            leaders.push_back(group.main);
+        for (const Component* leader : leaders) {
+            Entry entry = entry_of(*leader);
+            if (!entry.skipped.empty()) {
+                report_.skipped.push_back({entry.source, entry.skipped});
+                continue;
+            }
+            std::vector<ZonedTime> others;
+            for (const auto& [component, times] : replaced)
+                if (component != leader)
+                    others.insert(others.end(), times.begin(), times.end());
+            work_.spend(replaced.size() * 10);
+            take_all(entry, *leader, others);
+        }
+    }
+
+    void take_all(Entry& entry, const Component& told, const std::vector<ZonedTime>& replaced) {
+        std::vector<FoundActivity> activities = activities_of(entry, told, replaced, {times_, today_, work_});
+        if (activities.empty() && replaced.empty())
+            report_.skipped.push_back({entry.source, "Its exceptions leave out all of its occurrences."});
+        std::ranges::move(activities, std::back_inserter(found_));
+        tell_changes(entry);
+    }
+
+    static bool has_own_dates(const Component& component) {
+        return !value_in(component, "RRULE").empty() || !value_in(component, "RDATE").empty();
+    }
+
+    void take_override(Entry& entry, const Component& component) {
         if (!entry.skipped.empty()) {
             report_.skipped.push_back({entry.source, entry.skipped});
             return;
         }
+        icalproperty* replaced =
+            icalcomponent_get_first_property(entry.component.get(), ICAL_RECURRENCEID_PROPERTY);
         if (replaced && icalproperty_get_first_parameter(replaced, ICAL_RANGE_PARAMETER))
             entry.changes.push_back("It changes all later occurrences too; only this one was changed.");
+        if (has_own_dates(component))
+            entry.changes.push_back("It changes one occurrence, so its own further dates were left out.");
+        work_.spend(units_to_write(entry.found));
+        found_.push_back(entry.found);
         tell_changes(entry);
-        take(entry.found);
-    }
-
-    void read_main(Entry& entry, Excluded& excluded) {
-        icalcomponent* component = entry.component.get();
-        for (icalproperty* property = icalcomponent_get_first_property(component, ICAL_EXDATE_PROPERTY); property;
-             property = icalcomponent_get_next_property(component, ICAL_EXDATE_PROPERTY))
-            exclude(excluded, entry, property);
-        std::set<DateTime> taken;
-        icalproperty* rule = icalcomponent_get_first_property(component, ICAL_RRULE_PROPERTY);
-        if (rule && icalcomponent_get_next_property(component, ICAL_RRULE_PROPERTY))
-            entry.changes.push_back("It has several rules of recurrence; only the first was taken.");
-        icalcomponent_get_first_property(component, ICAL_RRULE_PROPERTY);
-        auto followed = rule ? follow(rule, entry.start, times_, today_) : std::nullopt;
-        if (rule && !followed)
-            entry.changes.push_back("The calendar can't follow its rule of recurrence; only the first was taken.");
-        if (followed) {
-            take_rule(entry, *followed, excluded);
-            taken.insert(followed->dates.starts.begin(), followed->dates.starts.end());
-        } else if (!excluded.has(entry.start, *entry.found.activity.start)) {
-            take(entry.found);
-            taken.insert(*entry.found.activity.start);
-        }
-        take_further_dates(entry, excluded, taken);
-        tell_changes(entry);
-    }
-
-    void take_further_dates(Entry& entry, const Excluded& excluded, std::set<DateTime>& taken) {
-        icalcomponent* component = entry.component.get();
-        for (icalproperty* property = icalcomponent_get_first_property(component, ICAL_RDATE_PROPERTY); property;
-             property = icalcomponent_get_next_property(component, ICAL_RDATE_PROPERTY))
-            for (const icaltimetype& time : times_.all(property))
-                if (const DateTime start = times_.local(time);
-                    !excluded.has(time, start) && taken.insert(start).second)
-                    take_at(entry.found, start);
-    }
-
-    void take_rule(Entry& entry, const FollowedRule& followed, const Excluded& excluded) {
-        const RuleDates& dates = followed.dates;
-        const bool is_one = dates.ended && dates.starts.size() == 1;
-        const auto series = is_one || followed.is_too_long ? std::nullopt : series_on(dates);
-        if (!series)
-            return take_single(entry, followed, excluded, is_one);
-        FoundActivity recurring = entry.found;
-        recurring.activity.recurrence = *series;
-        std::vector<DateTime>& exceptions = recurring.activity.exceptions;
-        for (std::size_t i = 0; i < dates.starts.size(); ++i)
-            if (excluded.has(followed.times[i], dates.starts[i]))
-                exceptions.push_back(dates.starts[i].date());
-        for (const auto& beyond : {excluded.starts, excluded.days})
-            for (const DateTime date : beyond)
-                if (!dates.ended && date.date() > dates.known_to)
-                    exceptions.push_back(date.date());
-        take(recurring);
-    }
-
-    void take_single(Entry& entry, const FollowedRule& followed, const Excluded& excluded, bool is_one) {
-        std::vector<DateTime> starts;
-        const bool goes_on = !followed.dates.ended && !followed.is_too_long;
-        const DateTime last = today_.plus_months(12 * years_of_a_rule);
-        for (std::size_t i = 0; i < followed.times.size(); ++i) {
-            const DateTime start = followed.dates.starts[i];
-            if (!excluded.has(followed.times[i], start) && (i == 0 || !goes_on || start.date() <= last))
-                starts.push_back(start);
-        }
-        const std::size_t all = starts.size();
-        keep_nearest(starts);
-        for (const DateTime start : starts)
-            take_at(entry.found, start);
-        if (is_one)
-            return;
-        std::string change = "The calendar shows no series on its dates, so it became single activities (" +
-                             std::to_string(starts.size()) + ")";
-        if (starts.size() < all || followed.is_too_long)
-            change += ", no more, of its many dates";
-        if (goes_on)
-            change += ", up to " + date_text(std::max(last, starts.empty() ? last : starts.back()));
-        entry.changes.push_back(change + ".");
-    }
-
-    // Of too many dates those from today on, and before them as many as there is room for.
-    void keep_nearest(std::vector<DateTime>& starts) const {
-        if (starts.size() <= most_of_a_rule)
-            return;
-        const auto coming = std::lower_bound(starts.begin(), starts.end(), today_.date());
-        const std::ptrdiff_t first =
-            std::min(coming - starts.begin(), static_cast<std::ptrdiff_t>(starts.size() - most_of_a_rule));
-        starts.erase(starts.begin(), starts.begin() + first);
-        starts.resize(most_of_a_rule);
     }
 
     Zones zones_;
     Times times_;
-    const DateTime today_;
+    const values::DateTime today_;
+    Work& work_;
     Report& report_;
     std::vector<FoundActivity> found_;
     std::vector<Group> groups_;

@@ -48,19 +48,26 @@ store::User user_for(store::Store& store, const std::string& name) {
     fail("There is no user \"" + name + "\". The users are: " + names + ".");
 }
 
+constexpr double part_of_reading = 0.5; // of an import; the rest is writing
+
 struct Found {
     std::vector<FoundActivity> activities;
     std::vector<FoundCard> cards;
 };
 
-Found read(std::string_view bytes, const Options& options, Report& report) {
+Found read(std::string_view bytes, const Options& options, Work& work, Report& report) {
     // The library would end the process at an entry that it can't read.
     icalerror_set_errors_are_fatal(0);
     const std::vector<Component> components = components_of(bytes);
     if (components.empty())
         fail("it has no calendar and no address card");
+    std::size_t entries = 0;
+    for (const Component& component : components)
+        entries += component.parts.size();
+    work.expect(entries, part_of_reading);
     Found found;
-    const Here here{.today = options.now, .local_time = options.local_time};
+    MachineZones zones(options.other_zone_names, work);
+    const Here here{.today = options.now, .local_time = options.local_time, .zones = zones, .work = work};
     for (const Component& component : components)
         if (component.name == "VCALENDAR")
             std::ranges::move(read_calendar(component, here, report), std::back_inserter(found.activities));
@@ -72,16 +79,21 @@ Found read(std::string_view bytes, const Options& options, Report& report) {
     return found;
 }
 
-void write(store::Store& store, Found& found, const store::User& user, store::DateTime now, Report& report) {
+void write(store::Store& store, Found& found, const store::User& user, store::DateTime now, Work& work,
+           Report& report) {
     People people(store, user.name);
-    for (const FoundCard& card : found.cards)
+    work.expect(found.cards.size() + found.activities.size(), 1);
+    for (const FoundCard& card : found.cards) {
+        work.step();
         if (card.is_empty())
             report.skipped.push_back({card.source, "It has neither a name nor a company."});
         else if (people.add(card.contact, card.notes, now))
             report.notes += card.notes.size();
         else
             report.skipped.push_back({card.source, "The database has this contact already."});
+    }
     for (FoundActivity& activity : found.activities) {
+        work.step();
         activity.activity.user = user.id;
         activity.activity.contacts = people.contacts_of(activity.people);
         store.add(activity.activity);
@@ -96,13 +108,18 @@ void write(store::Store& store, Found& found, const store::User& user, store::Da
 Report import_bytes(store::Store& store, std::string_view bytes, const std::string& name, const Options& options) {
     const store::User user = user_for(store, options.user);
     Report report{.file = name, .user = user.name};
+    Work work(least_work + bytes.size() * work_for_a_byte, options.progress);
     Found found;
     try {
-        found = read(bytes, options, report);
-    } catch (const values::Failure& failure) {
-        fail("Nothing was taken from \"" + name + "\": " + failure.description() + ".");
+        try {
+            found = read(bytes, options, work, report);
+        } catch (const values::Failure& failure) {
+            fail("Nothing was taken from \"" + name + "\": " + failure.description() + ".");
+        }
+        store.together([&] { write(store, found, user, options.now, work, report); });
+    } catch (const Work::Cancelled&) {
+        fail("Nothing was taken from \"" + name + "\": the import was cancelled.");
     }
-    store.together([&] { write(store, found, user, options.now, report); });
     for (std::vector<Remark>* remarks : {&report.changed, &report.skipped})
         std::ranges::stable_sort(*remarks, {}, [](const Remark& remark) { return remark.source.line; });
     return report;

@@ -16,7 +16,9 @@ namespace {
 constexpr int tick_milliseconds = 2;
 constexpr int mail_takes_it = 60; // of 100 times
 
-std::string import_nothing(store::Store&, const std::string&) { return "Nothing to import."; }
+std::string import_nothing(store::Store&, const std::string&, const windows::Progress&) {
+    return "Nothing to import.";
+}
 
 } // namespace
 

@@ -1,5 +1,6 @@
 #include "adapters/qt/appearance.h"
 #include "adapters/qt/qt_locale.h"
+#include "adapters/qt/zone_names.h"
 #include "apps/contact_desk/options.h"
 #include "core/values/failure.h"
 #include "desk/import/import_file.h"
@@ -34,14 +35,16 @@ int run(const apps::NewSample& task, int, char**) {
 
 int run(const apps::ImportFile& task, int, char**) {
     const auto store = store::Store::open(task.database);
-    std::cout << importing::import_file(*store, task.file, {.user = task.user}).text();
+    const importing::Options options{.user = task.user, .other_zone_names = qt::zone_name_from_windows};
+    std::cout << importing::import_file(*store, task.file, options).text();
     return 0;
 }
 
 // The report as a message box has room for it.
-std::string import_for_window(store::Store& store, const std::string& file) {
+std::string import_for_window(store::Store& store, const std::string& file, const windows::Progress& progress) {
     constexpr std::size_t most_remarks = 12;
-    return importing::import_file(store, file).text(most_remarks);
+    const importing::Options options{.other_zone_names = qt::zone_name_from_windows, .progress = progress};
+    return importing::import_file(store, file, options).text(most_remarks);
 }
 
 int run(const apps::ShowWindow& task, int argc, char** argv) {

@@ -84,7 +84,14 @@ void DatabaseCommands::import_file() {
     if (file.isEmpty())
         return;
     attempt(&window_, [&] {
-        const std::string result = import_(database_.store(), absolute(file));
+        std::string result;
+        const std::string path = database_.path();
+        const bool is_done = run_long_task(&window_, tr("Importing"), [&](const Progress& progress) {
+            const auto store = store::Store::open(path); // a store is used by one thread
+            result = import_(*store, absolute(file), progress);
+        });
+        if (!is_done)
+            return;
         database_.refresh();
         tell(&window_, tr("Import"), shown(result));
     });

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "desk/windows/long_task.h"
 #include "desk/windows/lookup.h"
 
 #include <QWidget>
@@ -9,8 +10,9 @@
 
 namespace windows {
 
-// Takes the records of a file into the database and tells in a sentence or more what came of it.
-using Import = std::function<std::string(store::Store& store, const std::string& file)>;
+// Takes the records of a file into the database and tells in a sentence or more what came of it. It runs on a
+// thread of its own.
+using Import = std::function<std::string(store::Store& store, const std::string& file, const Progress& progress)>;
 
 // The commands of the File menu. Each ends a failure in its box; what was open then stays so.
 class DatabaseCommands {

@@ -267,6 +267,6 @@ TEST_F(DeskWindowTest, SeesWhatAnotherProcessWroteWithinASecondOrTwo) {
 TEST_F(DeskWindowTest, ImportsOnlyWhereThereIsAnImport) {
     window->open(path);
     EXPECT_FALSE(action("file_import")->isEnabled());
-    DeskWindow other(database, [](store::Store&, const std::string&) { return std::string(); });
+    DeskWindow other(database, [](store::Store&, const std::string&, const Progress&) { return std::string(); });
     EXPECT_TRUE(other.findChild<QAction*>("file_import")->isEnabled());
 }

@@ -1,5 +1,5 @@
 # orvanta_room(SOURCES files... HEADERS files... USES rooms...
-#     [FOREIGN patterns...] [PUBLIC_LIBRARIES targets...] [LIBRARIES targets...] [PRECOMPILE headers...] [MOC] [UIC])
+#     [FOREIGN patterns...] [PUBLIC_LIBRARIES targets...] [LIBRARIES targets...] [PRECOMPILED name] [MOC] [UIC])
 #
 # The folder that calls it is a room: a static library, named by its path under src with "_" for "/". Its files include
 # the standard library, each other, the rooms that USES names by their paths, and the foreign headers (in angle
@@ -7,7 +7,7 @@
 # build, and so does a room that is named and not included. A room can only use rooms made before it, so that there are
 # no circles. A room of the core has no foreign header and no library.
 function(orvanta_room)
-    cmake_parse_arguments(ROOM "MOC;UIC" "" "SOURCES;HEADERS;USES;FOREIGN;PUBLIC_LIBRARIES;LIBRARIES;PRECOMPILE" ${ARGN})
+    cmake_parse_arguments(ROOM "MOC;UIC" "PRECOMPILED" "SOURCES;HEADERS;USES;FOREIGN;PUBLIC_LIBRARIES;LIBRARIES" ${ARGN})
     cmake_path(RELATIVE_PATH CMAKE_CURRENT_SOURCE_DIR BASE_DIRECTORY ${PROJECT_SOURCE_DIR}/src OUTPUT_VARIABLE path)
     string(REPLACE "/" "_" name ${path})
     if(path MATCHES "^core/" AND (ROOM_FOREIGN OR ROOM_PUBLIC_LIBRARIES OR ROOM_LIBRARIES))
@@ -22,8 +22,8 @@ function(orvanta_room)
         LINKER_LANGUAGE CXX)
     target_link_libraries(${name} PUBLIC ${ROOM_PUBLIC_LIBRARIES} PRIVATE ${ROOM_LIBRARIES} orvanta_product_flags)
     orvanta_use_rooms(${name} PUBLIC ${ROOM_USES})
-    if(ROOM_PRECOMPILE)
-        target_precompile_headers(${name} PRIVATE ${ROOM_PRECOMPILE})
+    if(ROOM_PRECOMPILED)
+        orvanta_use_precompiled(${name} ${ROOM_PRECOMPILED})
     endif()
     string(REPLACE ";" "," uses "${ROOM_USES}")
     set_property(GLOBAL APPEND PROPERTY ORVANTA_ROOMS "${path}:${uses}")

@@ -297,6 +297,7 @@ class FakeTable : public Table {
 public:
     explicit FakeTable(const std::map<std::string, std::map<int, Value>>& records) : records_(records) {}
     bool Goto(const std::string& id) override { return (current_ = records_.find(id)) != records_.end(); }
+    using Table::Data;
     Value Data(int field) const override {
         if (current_ == records_.end() || !current_->second.contains(field))
             return {};
@@ -314,6 +315,11 @@ class FakeContact : public FakeTable<act::Contact> {
 public:
     explicit FakeContact(FakeActData& data) : FakeTable(data.contacts), data_(data), fields_(data) {}
     act::Fields& Fields() override { return data_.call("Contact.Fields"), fields_; }
+    // The calendar writes to no contact.
+    using FakeTable::Data;
+    void Data(int, const Value&) override { throw values::Failure(values::FailureNumber::automation); }
+    void Edit() override { throw values::Failure(values::FailureNumber::automation); }
+    std::string Update() override { throw values::Failure(values::FailureNumber::automation); }
 
 private:
     FakeActData& data_;

@@ -17,9 +17,16 @@ public:
     int top() const override { return place.top; }
     int width() const override { return place.width; }
     int height() const override { return place.height; }
-    void set_left(int twips) override { place.left = twips; }
-    void set_top(int twips) override { place.top = twips; }
+    void set_left(int twips) override {
+        place.left = twips;
+        calls.emplace_back("set_left");
+    }
+    void set_top(int twips) override {
+        place.top = twips;
+        calls.emplace_back("set_top");
+    }
     void set_size(int width, int height) override {
+        calls.emplace_back("set_size");
         place.width = width;
         place.height = height;
     }
@@ -63,6 +70,7 @@ public:
     void show_hourglass() override { calls.emplace_back("show_hourglass"); }
     void show_default_pointer() override { calls.emplace_back("show_default_pointer"); }
     void bring_to_front() override { calls.emplace_back("bring_to_front"); }
+    int event_loops() const override { return loops; }
 
     struct Place {
         int left = 0, top = 0, width = 18000, height = 11400;
@@ -75,6 +83,7 @@ public:
     std::string jump; // the entry that cboGoTo shows
     int cboGoTo_lines = 0;
     int unloads = 0;
+    int loops = 0;
     std::vector<std::string> calls;
     std::function<void()> Form_Unload;
     std::function<void(int)> chkView_Click, chkAMPM_Click;

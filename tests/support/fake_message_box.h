@@ -3,6 +3,7 @@
 #include "core/host/message_box.h"
 
 #include <deque>
+#include <functional>
 #include <vector>
 
 namespace support {
@@ -12,6 +13,8 @@ class FakeMessageBox : public host::MessageBox {
 public:
     host::Answer show(const host::Message& message) override {
         shown.push_back(message);
+        if (while_shown)
+            while_shown();
         if (answers.empty())
             return first_button(message.buttons);
         const host::Answer answer = answers.front();
@@ -21,6 +24,7 @@ public:
 
     std::vector<host::Message> shown;
     std::deque<host::Answer> answers;
+    std::function<void()> while_shown;
 
 private:
     static host::Answer first_button(host::Buttons buttons) {

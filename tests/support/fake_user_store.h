@@ -11,7 +11,8 @@
 
 namespace support {
 
-// The per-user store in memory. `refuses_writes` makes every write fail, as on a full disk.
+// The per-user store in memory. `refuses_writes` makes every write fail, as on a full disk; `times_kept` counts
+// the writes and blocks that the disk would have had to take.
 class FakeUserStore : public host::UserStore {
     using Values = std::vector<std::pair<std::string, std::string>>;
 
@@ -29,8 +30,9 @@ public:
         return value == found->second.end() ? std::nullopt : std::optional(value->second);
     }
     bool write(const std::string& branch, const std::string& name, const std::string& value) override {
-        if (refuses_writes)
+        if (refuses_writes && !in_block_)
             return false;
+        times_kept += in_block_ ? 0 : 1;
         Values& values = branches_[branch];
         const auto present = find(values, name);
         if (present == values.end())
@@ -49,14 +51,23 @@ public:
                    return item.first == branch || item.first.starts_with(branch + "\\");
                }) > 0;
     }
+    bool together(const std::function<void()>& block) override {
+        in_block_ = true;
+        block();
+        in_block_ = false;
+        times_kept += refuses_writes ? 0 : 1;
+        return !refuses_writes;
+    }
     std::vector<std::pair<std::string, std::string>> list(const std::string& branch) const override {
         const auto found = branches_.find(branch);
         return found == branches_.end() ? Values{} : found->second;
     }
 
     bool refuses_writes = false;
+    int times_kept = 0;
 
 private:
+    bool in_block_ = false;
     std::map<std::string, Values> branches_;
 };
 

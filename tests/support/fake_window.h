@@ -27,10 +27,12 @@ public:
         hourglass = false;
     }
     void bring_to_front() override { calls.emplace_back("bring_to_front"); }
+    int event_loops() const override { return loops; }
 
     std::vector<std::string> calls;
     bool locked = false;
     bool hourglass = false;
+    int loops = 0;
 };
 
 } // namespace support

@@ -90,6 +90,7 @@ public:
     void Add() override { record_.note("Add"), real_->Add(); }
     std::string Update() override { return record_.note("Update"), real_->Update(); }
     void Delete() override { record_.note("Delete"), real_->Delete(); }
+    void StandsFor(const std::string& series, values::DateTime day) override { real_->StandsFor(series, day); }
 
     bool isRecurring() const override { return real_->isRecurring(); }
     act::RecurrenceKind recurringType() const override { return real_->recurringType(); }
@@ -139,6 +140,9 @@ public:
     act::Group& Group() override { return real_->Group(); }
     std::shared_ptr<void> One_Look() override { return real_->One_Look(); }
     std::int64_t Moment() override { return real_->Moment(); }
+    void Instance_Is_Made(const std::string& instance) override { real_->Instance_Is_Made(instance); }
+    void Forget_Instance(const std::string& instance) override { real_->Forget_Instance(instance); }
+    std::vector<LeftInstance> Take_Back_Instances() override { return real_->Take_Back_Instances(); }
 
 private:
     std::unique_ptr<act::Database> real_;

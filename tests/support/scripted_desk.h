@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/act/application.h"
+#include "core/values/ids.h"
 #include "desk/store/store.h"
 #include "support/recording_act.h"
 
@@ -49,7 +50,7 @@ public:
     void CreateLookup(const std::string& ids) override {
         record_.note("CreateLookup");
         lookups.push_back(ids);
-        count_ = lookups_missed-- > 0 ? 0 : static_cast<int>(ids.size() / 12);
+        count_ = lookups_missed-- > 0 ? 0 : static_cast<int>(values::ids_in(ids).size());
     }
     int GetCount() override { return count_; }
     std::string Goto(const std::string& id) override {
@@ -76,7 +77,7 @@ private:
     std::vector<std::string> rows() {
         store::ActivityQuery query{.contact = contact};
         if (!filter.users.empty())
-            query.user = filter.users;
+            query.users = {filter.users};
         std::vector<std::string> ids;
         for (const store::Activity& activity : store_.activities(query))
             if ((filter.mask & act::filter_mask::of(activity.type)) &&

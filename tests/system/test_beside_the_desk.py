@@ -7,7 +7,7 @@ import stat
 import unittest
 
 from both_programs import EMPTY_MENU, PLAIN_MENU, ROW_MENU, SELECTION_MENU, TITLE_MENU, BothPrograms, PlainCall
-from desktop import (Atspi, has_state, is_busy, middle, part_of_its_window, text_in, texts_in_sight, wait_for,
+from desktop import (Atspi, has_state, is_busy, middle, part_of_its_window, press, text_in, texts_in_sight, wait_for,
                      wait_to_see)
 
 CHANGED = "The activity was changed by somebody else in the meantime. Your change wasn't stored."
@@ -166,6 +166,16 @@ class TwoAtATime(PlainCall):
         self.desktop.click(middle(part_of_its_window(box, Atspi.Role.PUSH_BUTTON, "OK")))
         self.assertEqual(self.calendar.wait(10), 0)
         self.assertEqual(self.activity(), before)
+
+    def test_a_desk_that_is_asked_to_end_asks_what_becomes_of_what_is_typed(self):
+        self.double_click(6, 10)
+        self.desktop.focus(self.wait_for_dialog("Edit Activity"))
+        self.desktop.type("Prices of nails")
+        self.desk.terminate()
+        press(self.desk, Atspi.Role.PUSH_BUTTON, "Save")
+        self.assertEqual(self.desk.wait(10), 0)
+        self.assertEqual(self.calendar.wait(10), 0)
+        self.assertEqual(self.activity()["regarding"], "Prices of nails")
 
     def wait_for_box(self, part):
         return wait_for(lambda: next((text for text in texts_in_sight(self.calendar, Atspi.Role.LABEL)

@@ -5,7 +5,7 @@ import os
 import signal
 import unittest
 
-from desktop import Atspi, Desktop, Grid, find, names, press, press_to_open_a_box, wait_for
+from desktop import Atspi, Desktop, Grid, find, names, press, press_to_open_a_box, texts_in_sight, wait_for
 from sample_week import cells_of_week, rows_of_week, users, week_of
 
 PLAIN_ONLY = "[Settings]\r\nCheckRecurring=0\r\n"
@@ -80,9 +80,13 @@ class CalendarBesideTheDesk(unittest.TestCase):
         self.assertEqual(self.calendar.wait(10), 0)
         self.assertIn("WeeklyView=1", self.user_store())
 
-    def test_a_desk_that_is_killed_takes_the_calendar_down_in_order(self):
+    def test_a_desk_that_is_killed_takes_the_calendar_down_in_order_after_a_sentence(self):
         self.start_both()
         self.desk.kill()
+        wait_for(lambda: any("The contact desk has ended without notice. The calendar ends as well" in text
+                             for text in texts_in_sight(self.calendar, Atspi.Role.LABEL)), "the sentence")
+        self.assertIsNone(self.calendar.poll())
+        press(self.calendar, Atspi.Role.PUSH_BUTTON, "OK")
         self.assertEqual(self.calendar.wait(10), 0)
         self.assertIn("WeeklyView=1", self.user_store())
 

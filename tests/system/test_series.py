@@ -11,13 +11,15 @@ REFUSED = ("In Orvanta, changes made under the RECURRING TAB are not allowed unl
 
 
 class Series(BothPrograms):
-    """A daily series at 10:00 of the first user, from the week's Sunday to its Saturday. Wednesday is day 3."""
+    """A daily series at 10:00 of the first user, from the week's Sunday to its Saturday. Wednesday is day 3. It has
+    details and a lead of its alarm that no field shows as they are."""
 
     series = "A00000000001"
 
     def fill(self):
         self.contact = self.database.add_daily_series(self.series, self.database.user(0), self.at(0, 10), days=7,
-                                                      regarding="Prices")
+                                                      regarding="Prices", details="10\u00a0km\r\nand back",
+                                                      has_details=1, alarm_lead=40320)
 
     def date(self, day):
         return self.first_day + DAY * day

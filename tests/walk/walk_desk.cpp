@@ -16,8 +16,8 @@ namespace {
 constexpr int tick_milliseconds = 2;
 constexpr int mail_takes_it = 60; // of 100 times
 
-std::string import_nothing(store::Store&, const std::string&, const windows::Progress&) {
-    return "Nothing to import.";
+windows::Taken import_nothing(store::Store&, const windows::Taking&, const windows::Progress&) {
+    return {.report = "Nothing to import."};
 }
 
 } // namespace
@@ -31,7 +31,7 @@ int main(int argc, char** argv) {
     support::FakeMailProgram mail;
     const auto bus = QDBusConnection::connectToBus(QString::fromLocal8Bit(argv[1]), "walk_desk");
     windows::OpenDatabase database(values::english_us());
-    windows::DeskWindow window(database, import_nothing);
+    windows::DeskWindow window(database, {.take = import_nothing});
     windows::OpenToolbarCommands toolbar_commands(database);
     service::Service service(window.desk(), toolbar_commands, values::english_us());
     window.show();

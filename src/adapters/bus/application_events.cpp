@@ -35,8 +35,8 @@ void Events::tell_end() {
 }
 
 void Events::miss_desk() {
-    if (!std::exchange(end_told_, false))
-        keep(Event::user_wants_to_close);
+    if (!std::exchange(end_told_, false)) // a command that waits tells the loss by its failure
+        keep(link_->waits() ? Event::user_wants_to_close : Event::desk_lost);
 }
 
 void Events::keep(Event event) {
@@ -53,6 +53,8 @@ void Events::deliver_next() {
     kept_.pop_front();
     if (!kept_.empty())
         deliver_later();
+    if (event == Event::desk_lost)
+        link_->tell_loss();
     // A copy, since the program may end this object in it.
     const auto call_back = event == Event::database_closed ? OnDatabaseClose : OnActUserWantsToClose;
     if (call_back)

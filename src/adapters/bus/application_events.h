@@ -21,7 +21,7 @@ public:
     void Disconnect() override;
 
 private:
-    enum class Event { database_closed, user_wants_to_close };
+    enum class Event { database_closed, user_wants_to_close, desk_lost };
 
     void tell_end();
     void miss_desk();

@@ -1,6 +1,7 @@
 #include "adapters/bus/application_link.h"
 
 #include "adapters/bus/application_input_shield.h"
+#include "adapters/bus/application_pulse.h"
 #include "contract/names.h"
 
 #include <QDBusConnectionInterface>
@@ -10,6 +11,8 @@
 #include <QTimer>
 
 #include <limits>
+#include <optional>
+#include <utility>
 
 namespace bus {
 namespace {
@@ -21,6 +24,7 @@ constexpr int answer_milliseconds = 2000;
 constexpr int departure_milliseconds = 3000; // between the desk's promise to end and its end
 constexpr int without_limit = std::numeric_limits<int>::max();
 
+constexpr auto silent = "The contact desk doesn't answer.";
 constexpr auto not_running = "The contact desk isn't running.";
 
 // A call without a limit that gets no reply has lost the one who was to give it.
@@ -40,7 +44,7 @@ values::Failure failure_of(const QDBusError& error) {
         case QDBusError::NoReply:
         case QDBusError::Timeout:
         case QDBusError::TimedOut:
-            return "The contact desk doesn't answer.";
+            return silent;
         case QDBusError::Disconnected:
         case QDBusError::NoServer:
             return "The contact desk can't be reached: there is no session bus.";
@@ -51,11 +55,11 @@ values::Failure failure_of(const QDBusError& error) {
     return {FailureNumber::automation, contract::from_wire(sentence())};
 }
 
-Link::Link(const QDBusConnection& bus)
+Link::Link(const QDBusConnection& bus, Notices* notices)
     : bus_(bus), application_(contract::bus_name, contract::application_path, bus),
       contact_view_(contract::bus_name, contract::contact_view_path, bus),
       aux_commands_(contract::bus_name, contract::aux_commands_path, bus),
-      departure_(contract::bus_name, bus, QDBusServiceWatcher::WatchForUnregistration) {
+      departure_(contract::bus_name, bus, QDBusServiceWatcher::WatchForUnregistration), notices_(notices) {
     application_.setTimeout(answer_milliseconds);
     contact_view_.setTimeout(answer_milliseconds);
     aux_commands_.setTimeout(answer_milliseconds);
@@ -86,7 +90,7 @@ void Link::wait_for(act::CommandNumber number) {
     ApplicationProxy patient(contract::bus_name, contract::application_path, bus_);
     patient.setTimeout(without_limit);
 
-    const InputShield shield;
+    std::optional<InputShield> shield(std::in_place);
     QEventLoop loop;
     QDBusPendingReply<> reply = patient.Command(static_cast<int>(number));
     QDBusPendingCallWatcher watcher(reply);
@@ -100,6 +104,22 @@ void Link::wait_for(act::CommandNumber number) {
         else
             loop.quit();
     });
+    bool is_given_up = false;
+    std::optional<Pulse> pulse;
+    if (notices_)
+        pulse.emplace(
+            patient,
+            [&] {
+                shield.reset();
+                notices_->show_silence([&] {
+                    is_given_up = true;
+                    loop.quit();
+                });
+            },
+            [&] {
+                notices_->hide_silence();
+                shield.emplace();
+            });
     bool is_abandoned = false;
     connect(this, &Link::abandoned, &loop, [&] {
         is_abandoned = true;
@@ -107,6 +127,8 @@ void Link::wait_for(act::CommandNumber number) {
     });
     loop.exec();
 
+    if (is_given_up)
+        throw Failure(FailureNumber::automation, silent);
     if (is_abandoned || (closing && !desk_runs()))
         return;
     if (!reply.isFinished() || is_lost(reply.error()))
@@ -115,7 +137,16 @@ void Link::wait_for(act::CommandNumber number) {
         throw failure_of(reply.error());
 }
 
-std::shared_ptr<Link> make_link(const QDBusConnection& bus) { return std::make_shared<Link>(bus); }
+void Link::tell_loss() const {
+    if (notices_)
+        notices_->tell_loss(bus_.isConnected()
+                                ? "The contact desk has ended without notice."
+                                : "The contact desk can't be reached any more: the session bus is gone.");
+}
+
+std::shared_ptr<Link> make_link(const QDBusConnection& bus, Notices* notices) {
+    return std::make_shared<Link>(bus, notices);
+}
 
 void abandon_command(Link& link) { link.abandon(); }
 

@@ -28,7 +28,7 @@ class Link : public QObject {
     Q_OBJECT
 
 public:
-    explicit Link(const QDBusConnection& bus);
+    Link(const QDBusConnection& bus, Notices* notices);
 
     bool desk_runs() const;
     ApplicationProxy& application() { return application_; }
@@ -39,6 +39,7 @@ public:
     void run(act::CommandNumber number);
     bool waits() const { return waits_; }
     void abandon() { emit abandoned(); } // the wait, see application_bridge.h
+    void tell_loss() const;
 
 signals:
     void desk_gone(); // it has left the bus, or the bus has ended
@@ -53,6 +54,7 @@ private:
     ContactViewProxy contact_view_;
     AuxCommandsProxy aux_commands_;
     QDBusServiceWatcher departure_;
+    Notices* notices_;
     bool waits_ = false;
 };
 

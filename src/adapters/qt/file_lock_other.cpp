@@ -8,7 +8,7 @@ namespace {
 
 class Lock : public host::FileLock {
 public:
-    explicit Lock(const QString& lock_file) : file_(lock_file) {
+    explicit Lock(const QString& path) : file_(path + ".lock") {
         file_.setStaleLockTime(0); // only the death of its process frees a lock
     }
     bool take(int milliseconds) { return file_.tryLock(milliseconds); }
@@ -19,8 +19,8 @@ private:
 
 } // namespace
 
-std::unique_ptr<host::FileLock> take_lock(const QString& lock_file, int milliseconds) {
-    auto lock = std::make_unique<Lock>(lock_file);
+std::unique_ptr<host::FileLock> take_lock(const QString& path, int milliseconds) {
+    auto lock = std::make_unique<Lock>(path);
     if (!lock->take(milliseconds))
         return nullptr;
     return lock;

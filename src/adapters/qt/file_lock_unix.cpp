@@ -17,64 +17,110 @@ namespace {
 
 constexpr int pause_milliseconds = 2;
 
-// The kernel frees the lock of a process that died; its file then stays until the next holder removes it. Costs no
-// forced write to the disk, as the toolkit's own lock file does, since the lock needn't outlive the machine.
-class Lock : public host::FileLock {
-public:
-    explicit Lock(const QString& lock_file) : name_(QFile::encodeName(lock_file)) {}
-    ~Lock() override {
-        if (held_)
-            ::unlink(name_.constData());
-        close();
-    }
-    Lock(const Lock&) = delete;
-    Lock& operator=(const Lock&) = delete;
+enum class Attempt { done, held_by_another, impossible };
 
-    enum class Attempt { done, held_by_another, impossible };
-    Attempt attempt() {
+class OpenFile {
+public:
+    OpenFile() = default;
+    ~OpenFile() { close(); }
+    OpenFile(const OpenFile&) = delete;
+    OpenFile& operator=(const OpenFile&) = delete;
+
+    bool open(const QByteArray& name, int flags) {
         close();
-        descriptor_ = ::open(name_.constData(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600);
-        if (descriptor_ < 0)
-            return Attempt::impossible;
-        if (::flock(descriptor_, LOCK_EX | LOCK_NB) != 0)
-            return errno == EWOULDBLOCK ? Attempt::held_by_another : Attempt::impossible;
-        held_ = is_still_there();
-        return held_ ? Attempt::done : Attempt::held_by_another;
+        descriptor_ = ::open(name.constData(), flags | O_CLOEXEC | O_NOFOLLOW, 0600);
+        return descriptor_ >= 0;
     }
+    int descriptor() const { return descriptor_; }
 
 private:
-    // Whoever held it before may have removed the file between our opening and our locking it.
-    bool is_still_there() const {
-        struct stat ours = {}, named = {};
-        return ::fstat(descriptor_, &ours) == 0 && ::stat(name_.constData(), &named) == 0 &&
-               ours.st_ino == named.st_ino && ours.st_dev == named.st_dev;
-    }
     void close() {
         if (descriptor_ >= 0)
             ::close(descriptor_);
         descriptor_ = -1;
     }
 
-    QByteArray name_;
     int descriptor_ = -1;
+};
+
+Attempt attempt_by(bool done) {
+    if (done)
+        return Attempt::done;
+    return errno == EWOULDBLOCK || errno == EACCES ? Attempt::held_by_another : Attempt::impossible;
+}
+
+// The kernel frees the lock of a process that died; its file then stays until the next holder removes it. Costs no
+// forced write to the disk, as the toolkit's own lock file does, since the lock needn't outlive the machine.
+class LockFile : public host::FileLock {
+public:
+    explicit LockFile(const QByteArray& name) : name_(name) {}
+    ~LockFile() override {
+        if (held_)
+            ::unlink(name_.constData());
+    }
+
+    Attempt attempt() {
+        if (!file_.open(name_, O_RDWR | O_CREAT))
+            return Attempt::impossible;
+        const Attempt result = attempt_by(::flock(file_.descriptor(), LOCK_EX | LOCK_NB) == 0);
+        held_ = result == Attempt::done && is_still_there();
+        return result == Attempt::done && !held_ ? Attempt::held_by_another : result;
+    }
+
+private:
+    // Whoever held it before may have removed the file between our opening and our locking it.
+    bool is_still_there() const {
+        struct stat ours = {}, named = {};
+        return ::fstat(file_.descriptor(), &ours) == 0 && ::stat(name_.constData(), &named) == 0 &&
+               ours.st_ino == named.st_ino && ours.st_dev == named.st_dev;
+    }
+
+    QByteArray name_;
+    OpenFile file_;
     bool held_ = false;
 };
 
+class LockedByte : public host::FileLock {
+public:
+    explicit LockedByte(const QByteArray& name) : name_(name) {}
+
+    Attempt attempt() {
+#ifdef F_OFD_SETLK
+        struct flock byte = {};
+        byte.l_type = F_WRLCK;
+        byte.l_whence = SEEK_SET;
+        byte.l_start = lock_byte;
+        byte.l_len = 1;
+        if (file_.open(name_, O_RDWR))
+            return attempt_by(::fcntl(file_.descriptor(), F_OFD_SETLK, &byte) == 0);
+#endif
+        return Attempt::impossible;
+    }
+
+private:
+    QByteArray name_;
+    OpenFile file_;
+};
+
+template <typename Lock>
+std::unique_ptr<host::FileLock> take(const QByteArray& name, QDeadlineTimer deadline) {
+    auto lock = std::make_unique<Lock>(name);
+    Attempt attempt = lock->attempt();
+    for (; attempt == Attempt::held_by_another && !deadline.hasExpired(); attempt = lock->attempt())
+        QThread::msleep(pause_milliseconds);
+    if (attempt != Attempt::done)
+        return nullptr;
+    return lock;
+}
+
 } // namespace
 
-std::unique_ptr<host::FileLock> take_lock(const QString& lock_file, int milliseconds) {
-    auto lock = std::make_unique<Lock>(lock_file);
-    for (QDeadlineTimer deadline(milliseconds);; QThread::msleep(pause_milliseconds)) {
-        switch (lock->attempt()) {
-        case Lock::Attempt::done:
-            return lock;
-        case Lock::Attempt::impossible:
-            return nullptr;
-        case Lock::Attempt::held_by_another:
-            if (deadline.hasExpired())
-                return nullptr;
-        }
-    }
+std::unique_ptr<host::FileLock> take_lock(const QString& path, int milliseconds) {
+    const QDeadlineTimer deadline(milliseconds);
+    const QByteArray name = QFile::encodeName(path);
+    if (auto lock = take<LockFile>(name + ".lock", deadline))
+        return lock;
+    return deadline.hasExpired() ? nullptr : take<LockedByte>(name, deadline);
 }
 
 } // namespace qt

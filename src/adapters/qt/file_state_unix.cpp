@@ -1,5 +1,7 @@
 #include "adapters/qt/file_state.h"
 
+#include "adapters/qt/file_lock.h"
+
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
@@ -37,6 +39,7 @@ bool locked_elsewhere(int descriptor) {
     struct flock range = {};
     range.l_type = F_RDLCK;
     range.l_whence = SEEK_SET;
+    range.l_len = lock_byte;
     if (::fcntl(descriptor, F_OFD_GETLK, &range) == 0 && range.l_type != F_UNLCK)
         return true;
 #endif

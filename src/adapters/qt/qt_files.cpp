@@ -2,10 +2,13 @@
 
 #include "adapters/qt/file_lock.h"
 #include "adapters/qt/file_state.h"
+#include "adapters/qt/file_sync.h"
 
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
+
+#include <algorithm>
 
 namespace qt {
 
@@ -22,6 +25,26 @@ QString target_of(const QString& path) {
 // Also for the superuser, who could write it all the same.
 bool is_read_only(const QFileInfo& file) {
     return (file.permissions() & (QFile::WriteOwner | QFile::WriteGroup | QFile::WriteOther)) == 0;
+}
+
+bool append(QFile& file, const char* bytes, qint64 count) {
+    return file.write(bytes, count) == count && file.flush() && sync_to_disk(file);
+}
+
+// Without a second file, where the folder takes none. What needs room on the disk comes first, so that a full disk
+// leaves the file as it was; only a power cut between the two writes can mix old and new.
+bool overwrite(const QString& path, const std::string& bytes) {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadWrite | QIODevice::ExistingOnly | QIODevice::Unbuffered))
+        return false;
+    const auto size = static_cast<qint64>(bytes.size());
+    const qint64 old_size = file.size();
+    const qint64 kept = std::min(size, old_size);
+    if (!file.seek(old_size) || !append(file, bytes.data() + kept, size - kept)) {
+        file.resize(old_size);
+        return false;
+    }
+    return file.seek(0) && append(file, bytes.data(), kept) && file.resize(size);
 }
 
 class QtFiles : public host::Files {
@@ -52,12 +75,14 @@ public:
         if (info.exists() && (is_read_only(info) || !file_state(target.toStdString())))
             return false;
         QSaveFile file(target);
-        return file.open(QIODevice::WriteOnly) &&
-               file.write(bytes.data(), static_cast<qint64>(bytes.size())) >= 0 && file.commit();
+        if (!file.open(QIODevice::WriteOnly))
+            return info.exists() && overwrite(target, bytes);
+        // What is still in the buffer when it commits, the class writes without looking whether that worked.
+        return file.write(bytes.data(), static_cast<qint64>(bytes.size())) >= 0 && file.flush() && file.commit();
     }
 
     std::unique_ptr<host::FileLock> lock(const std::string& path) override {
-        return take_lock(target_of(QString::fromStdString(path)) + ".lock", lock_milliseconds);
+        return take_lock(target_of(QString::fromStdString(path)), lock_milliseconds);
     }
 };
 

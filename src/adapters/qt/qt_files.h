@@ -6,7 +6,7 @@
 
 namespace qt {
 
-// Files of the machine. A lock is a file beside the locked one, with ".lock" appended to its name.
+// Files of the machine, locked as file_lock.h tells.
 std::unique_ptr<host::Files> make_files();
 
 } // namespace qt

@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QStandardPaths>
 #include <QTemporaryFile>
 
@@ -16,12 +17,20 @@ bool can_be_written(const QString& folder) {
     return probe.open();
 }
 
+// Whole or not at all.
+bool copy(const QString& from, const QString& to) {
+    if (QFile::copy(from, to) && QFileInfo(to).size() == QFileInfo(from).size())
+        return true;
+    QFile::remove(to);
+    return false;
+}
+
 void copy_missing(const QString& shipped, const QString& own) {
     QDir().mkpath(own);
     const QStringList wanted{"*.gif", "*.svg", "*.ico", "*.xlt", "*.pdf"};
     for (const QString& name : QDir(shipped).entryList(wanted, QDir::Files)) {
         const QString target = own + "/" + name;
-        if (QFile::exists(target) || !QFile::copy(shipped + "/" + name, target))
+        if (QFile::exists(target) || !copy(shipped + "/" + name, target))
             continue; // a picture that couldn't be copied is missed where it is used, with a message there
         QFile::setPermissions(target, QFile::permissions(target) | QFile::WriteOwner);
     }

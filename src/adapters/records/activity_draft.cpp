@@ -31,12 +31,23 @@ void ActivityDraft::take_over_exceptions(const store::Activity& before, const st
 std::string ActivityDraft::store_in(store::Store& store) {
     settle_times(record_, written_);
     if (record_.id.empty())
-        return store.add(record_);
+        return store_new(store);
     if (series_change_ == act::RecurringChange::only_this &&
         record_.recurrence.kind != store::RecurrenceKind::none)
         return store_first_date_alone(store);
     store.update(record_);
     return record_.id;
+}
+
+std::string ActivityDraft::store_new(store::Store& store) const {
+    if (!occurrence_)
+        return store.add(record_);
+    store::TemporaryInstance one = *occurrence_;
+    store.together([&] {
+        one.instance = store.add(record_);
+        store.temporary_instances().remember(one);
+    });
+    return one.instance;
 }
 
 // The series loses its first date, and what was changed becomes a plain activity.

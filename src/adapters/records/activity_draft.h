@@ -4,7 +4,9 @@
 #include "core/values/locale.h"
 #include "desk/store/activity_reading.h"
 #include "desk/store/store.h"
+#include "desk/store/temporary_instances.h"
 
+#include <optional>
 #include <set>
 #include <string>
 #include <utility>
@@ -26,6 +28,10 @@ public:
     void apply_to(act::RecurringChange change) { series_change_ = change; }
     void schedule_with(const std::vector<std::string>& contacts) { record_.contacts = contacts; }
 
+    void stands_for(const std::string& series, values::DateTime day) {
+        occurrence_ = {.series = series, .day = day};
+    }
+
     // The stored record was changed from `before` to `after` by this program itself, in its exceptions: this draft
     // doesn't take that for another's change, and has them too.
     void take_over_exceptions(const store::Activity& before, const store::Activity& after);
@@ -33,11 +39,13 @@ public:
     std::string store_in(store::Store& store);
 
 private:
+    std::string store_new(store::Store& store) const;
     std::string store_first_date_alone(store::Store& store) const;
 
     store::Activity record_;
     std::set<int> written_; // numbers of fields
     act::RecurringChange series_change_ = act::RecurringChange::whole_series;
+    std::optional<store::TemporaryInstance> occurrence_{}; // that a new record stands for
     mutable store::ActivityRow row_;
 };
 

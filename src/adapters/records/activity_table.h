@@ -51,6 +51,10 @@ public:
     void Add() override;
     std::string Update() override;
     void Delete() override;
+    void StandsFor(const std::string& series, act::DateTime day) override {
+        if (draft_)
+            draft_->stands_for(series, day);
+    }
 
     bool isRecurring() const override { return entry().recurring; }
     act::RecurrenceKind recurringType() const override;

@@ -4,6 +4,7 @@
 #include "adapters/records/shared_store.h"
 #include "adapters/records/tables.h"
 #include "core/values/failure.h"
+#include "desk/store/temporary_instances.h"
 
 #include <optional>
 
@@ -52,6 +53,17 @@ public:
 
     std::int64_t Moment() override { return open().session->moment(); }
 
+    void Instance_Is_Made(const std::string& instance) override { instances().settle(instance); }
+    void Forget_Instance(const std::string& instance) override { instances().forget(instance); }
+    std::vector<LeftInstance> Take_Back_Instances() override {
+        std::vector<LeftInstance> left;
+        for (const store::TemporaryInstance& one : instances().take_back_abandoned()) {
+            const auto activity = open().session->store().activity(one.instance);
+            left.push_back({.regarding = activity ? activity->regarding : std::string(), .day = one.day});
+        }
+        return left;
+    }
+
 private:
     struct Open {
         Open(const std::shared_ptr<SharedStore>& shared, std::vector<store::User> all_users)
@@ -62,6 +74,8 @@ private:
         GroupTable group;
         UserTable users;
     };
+
+    store::TemporaryInstances& instances() { return open().session->store().temporary_instances(); }
 
     Open& open() {
         if (!open_)

@@ -1,7 +1,9 @@
 #include "adapters/records/tables.h"
 
+#include "core/act/edit_conflict.h"
 #include "core/values/failure.h"
 #include "core/values/ids.h"
+#include "core/values/value.h"
 #include "desk/store/contact_fields.h"
 
 #include <algorithm>
@@ -44,6 +46,7 @@ std::string ContactFieldList::Type(int id) const { return std::string(existing_f
 bool ContactFieldList::HasPopupList(int id) const { return existing_field(id).has_popup_list; }
 
 bool ContactTable::Goto(const std::string& id) {
+    draft_.reset();
     session_->catch_up();
     id_ = id_of(id);
     if (!id_.empty() && !session_->contacts().exists(id_))
@@ -56,8 +59,41 @@ Value ContactTable::Data(int field) const {
         return {};
     if (field == id_field)
         return id_.text();
+    if (draft_ && field_of(field)) {
+        const auto typed = draft_->fields.find(field);
+        return typed == draft_->fields.end() ? std::string() : typed->second;
+    }
     const std::string* value = field_of(field) ? session_->contacts().field(id_, field) : nullptr;
     return value ? Value(*value) : Value();
+}
+
+void ContactTable::Data(int field, const Value& value) {
+    store::Contact& contact = draft();
+    if (field == id_field)
+        throw Failure(FailureNumber::automation, "The id of a contact can't be set.");
+    contact.fields[existing_field(field).number] = values::text_of(value, session_->locale());
+}
+
+void ContactTable::Edit() {
+    draft_.reset();
+    if (id_.empty())
+        throw Failure(FailureNumber::object_not_set);
+    draft_ = session_->store().contact(id_.text());
+    if (!draft_)
+        throw act::EditConflict(act::EditConflict::Cause::deleted, "The contact was deleted by somebody else.");
+}
+
+std::string ContactTable::Update() {
+    session_->store().update(draft());
+    session_->contacts().forget(id_);
+    draft_.reset();
+    return id_.text();
+}
+
+store::Contact& ContactTable::draft() {
+    if (!draft_)
+        throw Failure(FailureNumber::automation, "No contact is being edited.");
+    return *draft_;
 }
 
 bool GroupTable::Goto(const std::string& id) {

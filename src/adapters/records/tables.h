@@ -4,6 +4,7 @@
 #include "core/act/database.h"
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -26,11 +27,17 @@ public:
     act::Fields& Fields() override { return fields_; }
     bool Goto(const std::string& id) override;
     act::Value Data(int field) const override;
+    void Data(int field, const act::Value& value) override;
+    void Edit() override;
+    std::string Update() override;
 
 private:
+    store::Contact& draft();
+
     std::shared_ptr<SharedStore> session_;
     ContactFieldList fields_;
-    store::Id id_; // empty where there is no record
+    store::Id id_;                        // empty where there is no record
+    std::optional<store::Contact> draft_; // between Edit and Update
 };
 
 class GroupTable final : public act::Group {

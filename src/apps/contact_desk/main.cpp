@@ -1,8 +1,10 @@
 #include "adapters/qt/appearance.h"
+#include "adapters/qt/end_requests.h"
 #include "adapters/qt/qt_locale.h"
 #include "adapters/qt/zone_names.h"
 #include "apps/contact_desk/options.h"
 #include "core/values/failure.h"
+#include "desk/export/export_file.h"
 #include "desk/import/import_file.h"
 #include "desk/service/service.h"
 #include "desk/store/store.h"
@@ -13,9 +15,25 @@
 #include <QApplication>
 #include <QMessageBox>
 
+#include <ctime>
+#include <functional>
 #include <iostream>
+#include <memory>
 
 namespace {
+
+importing::Report take(store::Store& store, const windows::Taking& taking,
+                       const windows::Progress& progress = {}) {
+    importing::Options options{
+        .user = taking.user, .other_zone_names = qt::zone_name_from_windows, .progress = progress};
+    if (taking.with_deleted)
+        options.deleted = importing::Deleted::come_back;
+    return importing::import_file(store, taking.file, options);
+}
+
+exporting::Report write(store::Store& store, const std::string& file, const std::string& user) {
+    return exporting::export_file(store, file, {.user = user, .stamp = std::time(nullptr)});
+}
 
 int run(const apps::ShowHelp&, int, char**) {
     std::cout << apps::usage();
@@ -35,16 +53,28 @@ int run(const apps::NewSample& task, int, char**) {
 
 int run(const apps::ImportFile& task, int, char**) {
     const auto store = store::Store::open(task.database);
-    const importing::Options options{.user = task.user, .other_zone_names = qt::zone_name_from_windows};
-    std::cout << importing::import_file(*store, task.file, options).text();
+    const windows::Taking taking{.file = task.file, .user = task.user, .with_deleted = task.with_deleted};
+    std::cout << take(*store, taking).text();
     return 0;
 }
 
-// The report as a message box has room for it.
-std::string import_for_window(store::Store& store, const std::string& file, const windows::Progress& progress) {
-    constexpr std::size_t most_remarks = 12;
-    const importing::Options options{.other_zone_names = qt::zone_name_from_windows, .progress = progress};
-    return importing::import_file(store, file, options).text(most_remarks);
+int run(const apps::ExportFile& task, int, char**) {
+    const auto store = store::Store::open(task.database);
+    std::cout << write(*store, task.file, task.user).text();
+    return 0;
+}
+
+constexpr std::size_t most_remarks_in_a_box = 12;
+
+windows::Exchange exchange() {
+    return {.take = [](store::Store& store, const windows::Taking& taking,
+                       const windows::Progress& progress) -> windows::Taken {
+                const auto report = take(store, taking, progress);
+                return {.report = report.text(most_remarks_in_a_box), .left_deleted = report.left_deleted};
+            },
+            .names_users = importing::names_users,
+            .write = [](store::Store& store, const std::string& file,
+                        const std::string& user) { return write(store, file, user).text(); }};
 }
 
 int run(const apps::ShowWindow& task, int argc, char** argv) {
@@ -54,7 +84,7 @@ int run(const apps::ShowWindow& task, int argc, char** argv) {
     qt::dress(application);
     const values::Locale locale = qt::system_locale();
     windows::OpenDatabase database(locale);
-    windows::DeskWindow window(database, import_for_window);
+    windows::DeskWindow window(database, exchange());
     windows::OpenToolbarCommands toolbar_commands(database);
     service::Service service(window.desk(), toolbar_commands, locale);
     window.show();
@@ -71,6 +101,12 @@ int run(const apps::ShowWindow& task, int argc, char** argv) {
         std::cerr << "contact-desk: there is no session bus, so other programs can't reach the contact desk.\n";
         break;
     }
+    std::unique_ptr<qt::EndRequests> end_requests;
+    const std::function<void()> hear_requests = [&] {
+        end_requests = qt::make_end_requests(
+            [&] { window.end([&] { QMetaObject::invokeMethod(&window, hear_requests, Qt::QueuedConnection); }); });
+    };
+    hear_requests();
     return QApplication::exec();
 }
 

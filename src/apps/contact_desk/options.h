@@ -26,9 +26,16 @@ struct ImportFile {
     std::string file;
     std::string user; // a name; empty when none was given
     std::string database;
+    bool with_deleted = false; // what was taken before and deleted since comes back
     bool operator==(const ImportFile&) const = default;
 };
-using Task = std::variant<ShowHelp, ShowVersion, ShowWindow, NewSample, ImportFile>;
+struct ExportFile {
+    std::string file;
+    std::string user; // a name; empty for everybody
+    std::string database;
+    bool operator==(const ExportFile&) const = default;
+};
+using Task = std::variant<ShowHelp, ShowVersion, ShowWindow, NewSample, ImportFile, ExportFile>;
 
 // What is wrong with a command line, in a sentence.
 struct UsageError : std::runtime_error {

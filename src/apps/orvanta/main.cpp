@@ -7,6 +7,7 @@
 #include "adapters/qt/qt_message_box.h"
 #include "adapters/qt/qt_shell.h"
 #include "adapters/qt/qt_user_store.h"
+#include "apps/orvanta/desk_notices.h"
 #include "apps/orvanta/desk_server.h"
 #include "apps/orvanta/process.h"
 #include "core/host/deployment.h"
@@ -37,7 +38,8 @@ int main(int argc, char** argv) {
     const auto user_store = qt::make_user_store(*files);
     const auto folders = qt::make_folders();
     apps::Process process;
-    const auto link = bus::make_link(QDBusConnection::sessionBus());
+    apps::DeskNotices notices(*box, info);
+    const auto link = bus::make_link(QDBusConnection::sessionBus(), &notices);
     apps::DeskServer server(link, locale);
     const auto ActEvent1 = bus::make_event_control(link);
 

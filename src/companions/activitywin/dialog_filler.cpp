@@ -2,6 +2,7 @@
 
 #include "contract/names.h"
 #include "core/settings/catalogue.h"
+#include "core/values/failure.h"
 
 #include <QDBusPendingCallWatcher>
 
@@ -11,25 +12,36 @@ namespace companions {
 
 namespace keys = settings::keys;
 
+namespace {
+
+constexpr int withdrawal_milliseconds = 200;
+
+} // namespace
+
 DialogFiller::DialogFiller(const QDBusConnection& bus, settings::PerUserStore& values,
                            std::chrono::milliseconds patience)
     : values_(values), dialog_(contract::bus_name, contract::activity_dialog_path, bus),
       departure_(contract::bus_name, bus, QDBusServiceWatcher::WatchForUnregistration) {
     patience_.setSingleShot(true);
     patience_.setInterval(patience);
-    connect(&patience_, &QTimer::timeout, this, [this] { end("No dialog for an activity has opened."); });
+    withdrawal_.setInterval(withdrawal_milliseconds);
+    connect(&patience_, &QTimer::timeout, this, [this] {
+        take_word();
+        end("No dialog for an activity has opened.");
+    });
+    connect(&withdrawal_, &QTimer::timeout, this, &DialogFiller::end_if_withdrawn);
     connect(&departure_, &QDBusServiceWatcher::serviceUnregistered, this,
             [this] { end("The contact desk has ended."); });
     connect(&dialog_, &ActivityDialogProxy::Opened, this, &DialogFiller::attend);
 }
 
 void DialogFiller::start() {
-    is_for_recurring_ = settings::read(values_, keys::activity_recurring_edit) == "1";
-    if (is_for_recurring_)
-        settings::remove(values_, keys::activity_recurring_edit);
+    is_for_recurring_ = is_announced();
     if (!dialog_.connection().isConnected())
         return end("There is no session bus.");
     patience_.start();
+    if (is_for_recurring_)
+        withdrawal_.start();
     auto* watcher = new QDBusPendingCallWatcher(dialog_.OpenDialog(), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {
         const QDBusPendingReply<QString> kind = *watcher;
@@ -41,12 +53,28 @@ void DialogFiller::start() {
     });
 }
 
+bool DialogFiller::is_announced() const { return settings::read(values_, keys::activity_recurring_edit) == "1"; }
+
+bool DialogFiller::end_if_withdrawn() {
+    const bool is_withdrawn = is_for_recurring_ && !is_attended_ && !is_announced();
+    if (is_withdrawn)
+        end("The dialog for the recurring settings wasn't opened.");
+    return is_withdrawn;
+}
+
+// It serves once. It can be gone already, or a store that can't be written keeps it.
+void DialogFiller::take_word() {
+    if (is_for_recurring_)
+        values::ignoring_failure([this] { settings::remove(values_, keys::activity_recurring_edit); });
+}
+
 // A dialog for a stored activity that wasn't asked for is another one's, and the right one may yet come.
 void DialogFiller::attend(const QString& kind) {
     const bool is_new = kind == contract::new_activity;
     const bool is_meant = is_new || (kind == contract::stored_activity && is_for_recurring_);
-    if (!is_meant || std::exchange(is_attended_, true))
+    if (!is_meant || end_if_withdrawn() || std::exchange(is_attended_, true))
         return;
+    take_word();
     attend_reply(is_new ? fill() : dialog_.ShowTab("Recurring"));
 }
 
@@ -72,6 +100,7 @@ void DialogFiller::end(const QString& problem) {
     if (std::exchange(is_done_, true))
         return;
     patience_.stop();
+    withdrawal_.stop();
     Q_EMIT done(problem);
 }
 

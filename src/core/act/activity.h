@@ -106,6 +106,9 @@ public:
     // and stores nothing when another process changed or deleted the record since Edit.
     virtual std::string Update() = 0;
     virtual void Delete() = 0;
+    // The record that Add began stands for the occurrence of a series on a day as long as that is edited. From its
+    // Update on the database remembers that (database.h).
+    virtual void StandsFor([[maybe_unused]] const std::string& series, [[maybe_unused]] DateTime day) {}
 
     virtual bool isRecurring() const = 0;
     virtual RecurrenceKind recurringType() const = 0;

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace act {
 
@@ -20,12 +21,19 @@ public:
     virtual bool HasPopupList(int id) const = 0;
 };
 
+// Edit fails with 91 where there is no current record.
 class Contact {
 public:
     virtual ~Contact() = default;
     virtual class Fields& Fields() = 0;
     virtual bool Goto(const std::string& id) = 0; // false, and no current record, when it doesn't exist
     virtual Value Data(int field) const = 0;      // nothing without a record, or for a field that there is not
+    // Only between Edit and Update, else with 440, as for the id, which stays; a field that there is not fails
+    // with 381. A value that is no text is stored in its text form.
+    virtual void Data(int field, const Value& value) = 0;
+    virtual void Edit() = 0; // a change that Update hasn't stored is given up by this and by Goto
+    // As act::Activity::Update.
+    virtual std::string Update() = 0;
 };
 
 class Group {
@@ -66,6 +74,18 @@ public:
     // Of the last look, for Activity::IdsGoneSince: greater after each change, and never the same for two
     // states of the database. Meaningful while it stays open.
     virtual std::int64_t Moment() { return 0; }
+
+    // An activity that stands for an occurrence while it is edited is remembered durably. Its program says when it
+    // is made, so that what changes it afterwards counts as the user's work, and when it is kept or gone. Those of
+    // programs that died before that are taken back: where the user changed nothing, the activity goes and the
+    // series has its occurrence again; the others stay, and are given.
+    struct LeftInstance {
+        std::string regarding;
+        values::DateTime day;
+    };
+    virtual void Instance_Is_Made([[maybe_unused]] const std::string& instance) {}
+    virtual void Forget_Instance([[maybe_unused]] const std::string& instance) {}
+    virtual std::vector<LeftInstance> Take_Back_Instances() { return {}; }
 };
 
 } // namespace act

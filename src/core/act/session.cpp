@@ -38,7 +38,8 @@ void Session::Release() {
     ActUsers.release();
     ActActivity.release();
     ActContact.release();
-    ActDatabase->Close();
+    if (ActDatabase)
+        ActDatabase->Close();
 }
 
 } // namespace act

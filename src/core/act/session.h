@@ -27,7 +27,7 @@ public:
     // the object that failed and the later ones stay unset.
     void Create_Database();
     // The end: lets the application go, with what belongs to it, and closes the database, which takes its tables
-    // along. Has no failure handler; without a database it fails with 91.
+    // along; as far as they are there. Has no failure handler.
     void Release();
 
 private:

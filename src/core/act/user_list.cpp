@@ -3,6 +3,7 @@
 #include "core/settings/catalogue.h"
 #include "core/values/ids.h"
 #include "core/values/numbers.h"
+#include "core/values/text.h"
 
 namespace act {
 
@@ -14,12 +15,13 @@ void UserList::Initialize_Users(ShownUsers shown) {
         UsersFilter = shown == ShownUsers::all ? " " : settings::read(ini_, settings::keys::filter_users) + " ";
         if (UsersFilter != " ") {
             step = 30;
-            NumUsers =
-                values::to_int16(static_cast<double>(UsersFilter.size()) / static_cast<double>(values::id_length));
+            NumUsers = values::to_int16(static_cast<double>(values::length(UsersFilter)) /
+                                        static_cast<double>(values::id_length));
+            std::string_view rest = UsersFilter;
             for (int user = 0; user < NumUsers; ++user) {
                 step = 40;
-                std::string id =
-                    UsersFilter.substr(static_cast<std::size_t>(user) * values::id_length, values::id_length);
+                std::string id = values::first_characters(rest, values::id_length);
+                rest.remove_prefix(id.size());
                 step = 50;
                 const auto [name, position] = lists_.GetUserDetails(id);
                 if (!name.empty() && values::is_numeric(position))

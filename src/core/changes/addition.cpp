@@ -4,6 +4,8 @@ namespace changes {
 
 std::string Addition::store(act::Activity& activity) const {
     activity.Add();
+    if (stands_for)
+        activity.StandsFor(stands_for->series, stands_for->day);
     write_fields(activity, fields);
     return activity.Update();
 }

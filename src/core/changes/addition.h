@@ -1,8 +1,10 @@
 #pragma once
 
 #include "core/changes/fields.h"
+#include "core/changes/occurrence.h"
 #include "core/changes/scheduled_with.h"
 
+#include <optional>
 #include <string>
 
 namespace changes {
@@ -11,6 +13,7 @@ namespace changes {
 struct Addition {
     Fields fields;
     ScheduledWith contacts;
+    std::optional<Occurrence> stands_for{}; // while that is edited
 
     // Stores the record, still without its contacts, and gives its id. Fails as act::Activity::Update does, with
     // nothing stored. On the record itself, schedule_with then gives it the contacts.

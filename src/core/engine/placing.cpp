@@ -94,7 +94,7 @@ std::string Placing::colour_of(const std::string& own_colour, const std::string&
         const auto [place, is_new] = user_colours_.try_emplace(name);
         if (is_new)
             place->second = read(settings_.ini, settings::keys::user_color(name));
-        return std::to_string(values::to_int32(place->second));
+        return place->second; // as it stands: the drawing ignores what is no number
     }
     }
     return "0";

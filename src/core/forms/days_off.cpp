@@ -128,8 +128,7 @@ void DaysOff::store(int weekday) {
             settings::read(settings_.ini, keys::std_col_width, std::to_string(layout_.StdColWidth()));
         settings::write(settings_.user_store, keys::col_width(layout_.nth_day_col(weekday)), width);
     }
-    if (!settings::write(settings_.ini, keys::day_off(weekday), is_off ? "1" : "0"))
-        throw Failure(FailureNumber::path_file_access);
+    settings::write(settings_.ini, keys::day_off(weekday), is_off ? "1" : "0");
 }
 
 } // namespace forms

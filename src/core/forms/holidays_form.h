@@ -19,7 +19,8 @@ public:
     virtual bool chkday(int weekday) const = 0; // 1 Sunday to 7 Saturday
     virtual void set_chkday(int weekday, bool checked) = 0;
 
-    virtual values::DateTime dtpHol() const = 0; // a date without a time of day
+    // A date without a time of day. Fails with a sentence for the user when what was typed is none.
+    virtual values::DateTime dtpHol() const = 0;
     virtual void set_dtpHol(values::DateTime date) = 0;
     // lvwHol, by place from 0.
     virtual void fill_lvwHol(std::span<const grid::Holiday> holidays) = 0; // the first one is selected

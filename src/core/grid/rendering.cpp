@@ -67,7 +67,7 @@ void Rendering::Span_Activities(std::string_view span_list) {
         if (!grid.Text().empty())
             continue;
         grid.Text(SpanText);
-        grid.ForeColor(values::to_int32(parts.at(2)));
+        values::ignoring_failure([&] { grid.ForeColor(values::to_int32(parts.at(2))); }); // it may be no number
         grid.CellAlignment(table::Alignment::left_centre);
     }
 }

@@ -30,7 +30,8 @@ public:
     // Draws every changed slot of the days shown. With an id, that activity's continuations are cleared first and
     // its cell becomes the current one; without one, or when nothing shows it, the selected cell does.
     void Display_Changes(const std::string& id);
-    // Writes the continuation text into the listed cells that are empty. Has no failure handler.
+    // Writes the continuation text into the listed cells that are empty; a colour that is no number leaves the
+    // grid's as it is. Has no failure handler.
     void Span_Activities(std::string_view span_list);
     // Unlinks the continuation cells of an activity and empties those without a text of their own. Has no
     // failure handler.

@@ -189,6 +189,7 @@ void clsMsgSchedSlot::draw_record(Drawing& drawing, SlotRecord& record, bool ove
     const bool recurring = record.Recurring == "1";
     const bool has_details = record.HasDetails == "1";
     const bool cleared = record.Cleared == "1";
+    const int type = values::to_int16(record.Type);
 
     writer.record_place(record.ActivityID, row, col);
     grid.CellAlignment(table::Alignment::left_top);
@@ -205,16 +206,15 @@ void clsMsgSchedSlot::draw_record(Drawing& drawing, SlotRecord& record, bool ove
                         .recurring = recurring,
                         .cleared = cleared,
                         .fore_color = fore_color,
+                        .icon_index = type + (recurring ? 3 : 0), // pictures shown or not
                         .sort_text = record.Detail,
                         .has_details = has_details};
     if (!record.Text.empty()) {
         if (writer.ShowIcons) {
-            const int type = values::to_int16(record.Type);
             if (!overflow)
                 grid.CellPicture(writer.GetPicture(type, recurring, has_details));
             grid.CellPictureAlignment(table::Alignment::left_top);
             record.Text = std::string(CellWriter::picture_room).append(values::trimmed(record.Text));
-            details.icon_index = type + (recurring ? 3 : 0);
         }
         grid.CellFontStrikeThrough(cleared);
         grid.Text(overflow ? std::string(CellWriter::picture_room) + record.Text : record.Text);
@@ -226,9 +226,11 @@ void clsMsgSchedSlot::draw_record(Drawing& drawing, SlotRecord& record, bool ove
 void clsMsgSchedSlot::continue_below(Drawing& drawing, const SlotRecord& record) const {
     const int row = drawing.grid.Row();
     const int col = drawing.grid.Col();
+    // Any other text is ignored at drawing, and could hold the list's own marks.
+    const std::string colour = values::is_numeric(record.ForeColor) ? record.ForeColor : std::string();
     for (int further = 1; further <= record.GoesBeyond; ++further) {
         const int row_below = lines_.row_below(row, further);
-        drawing.SpanList += std::to_string(row_below) + "," + std::to_string(col) + "," + record.ForeColor + "|";
+        drawing.SpanList += std::to_string(row_below) + "," + std::to_string(col) + "," + colour + "|";
         clsMsgSchedCell& below = drawing.cells(row_below, col);
         below.DependsOnActivity(record.ActivityID);
         below.DependsOnActivityX(row);

@@ -41,9 +41,11 @@ public:
     virtual std::optional<FileStamp> stamp(const std::string& path) const = 0;
     // Absent as above, and for a file that can't be read or has more than `most` bytes.
     virtual std::optional<FileContent> read(const std::string& path, std::size_t most) const = 0;
-    // Makes these bytes the file's content: a process killed on the way, or a power cut, leaves the old file or
-    // the new one. A link is followed, and the file keeps its permissions. False, with nothing changed, when the
-    // folder is missing or can't be written, or the file is a folder, read-only or locked by another program.
+    // Makes these bytes the file's content: a full disk, a process killed on the way, or a power cut leaves the
+    // old file or the new one. A link is followed, and the file keeps its permissions. In a folder that can't be
+    // written the file itself is; there alone a power cut may leave it half old, half new. False, with nothing
+    // changed, when the disk is full, the folder is missing, or the file is a folder, read-only, locked by another
+    // program, or would have to be made in a folder that can't be written.
     virtual bool replace(const std::string& path, const std::string& bytes) = 0;
     // Keeps the other processes of this program that lock the same path out; they wait a few seconds. Null when
     // the lock can't be had. The lock isn't the file's own: the file may be replaced under it, or be missing. The

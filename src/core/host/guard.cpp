@@ -30,7 +30,15 @@ void Guard::report_current(std::string_view place, int step) const {
     text += application_.title + ": " + std::to_string(application_.major) + "." +
             std::to_string(application_.minor) + "." + std::to_string(application_.revision) + "\r\r";
     text += "Please contact " + application_.support_address + " with this error message.";
+    show_once(text);
+}
+
+void Guard::show_once(const std::string& text) const {
+    if (on_screen_.contains(text) || !commands_.back().told.insert(text).second)
+        return;
+    on_screen_.insert(text);
     box_.show({.text = text, .title = application_.title + " error"});
+    on_screen_.erase(text);
 }
 
 } // namespace host

@@ -29,7 +29,7 @@ struct Machine {
 // their procedures. It and all that it names outlive the parts.
 struct Platform : Machine {
     Window& window;
-    Guard guarded{box, application};
+    Guard guarded{box, application, window};
 };
 
 } // namespace host

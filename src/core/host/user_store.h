@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <utility>
@@ -17,6 +18,10 @@ public:
     // False when the value, or the branch, isn't there.
     virtual bool remove(const std::string& branch, const std::string& name) = 0;
     virtual bool remove_branch(const std::string& branch) = 0;
+    // Runs the block with the other processes kept out, and keeps what it changes here all at once when it ends;
+    // also when it ends by an exception, which goes on. False when nothing can be kept, then mostly without the
+    // block having run.
+    virtual bool together(const std::function<void()>& block) = 0;
     // Names and values in the order they were first written.
     virtual std::vector<std::pair<std::string, std::string>> list(const std::string& branch) const = 0;
 };

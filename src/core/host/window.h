@@ -13,6 +13,8 @@ public:
     virtual void show_hourglass() = 0;
     virtual void show_default_pointer() = 0;
     virtual void bring_to_front() = 0;
+    // How many event loops run, one inside the other: one more while a dialog, a box or a menu is waited for.
+    virtual int event_loops() const = 0;
 };
 
 } // namespace host

@@ -34,11 +34,14 @@ void Clearing::clear_plain(const clsMsgSchedCell& cell) {
 bool Clearing::clear_occurrence(const clsMsgSchedCell& cell) {
     const std::string series = cell.ActivityID();
     activity().Goto(series);
-    const std::string instance = instances_.Change_Instance(cell, cell, values::to_int32(cell.Duration()));
+    const std::string instance =
+        instances_.Change_Instance(cell, cell, values::to_int32(cell.Duration()), Lifetime::temporary);
     launcher_.Select_and_Launch_Command(instance, CommandNumber::clear_activity, {.allDates = true});
     activity().Goto(instance);
     const std::string present = values::text_of(activity().Data(act::activity_field::id), here_.locale);
-    return present == instance || settle_deletion(series, cell.DateDay());
+    const bool refresh_needed = present == instance || settle_deletion(series, cell.DateDay());
+    instances_.Keep(instance);
+    return refresh_needed;
 }
 
 bool Clearing::settle_deletion(const std::string& series, values::DateTime day) {

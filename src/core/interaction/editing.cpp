@@ -54,8 +54,11 @@ void Editing::mnuPopRecurring_Click() {
         step = 10;
         launcher_.announce_recurring_edit();
         step = 20;
-        launcher_.Select_and_Launch_Command(grid_.selection.selected().ActivityID(), CommandNumber::edit_activity,
-                                            {.allDates = true, .startCompanion = true});
+        const clsMsgSchedCell& cell = grid_.selection.selected();
+        launcher_.Select_and_Launch_Command(
+            cell.ActivityID(), CommandNumber::edit_activity,
+            {.allDates = true, .showCleared = cell.Cleared(), .startCompanion = true});
+        launcher_.withdraw_recurring_edit();
         step = 30;
         engine_.refresh.Refresh_Data();
     });

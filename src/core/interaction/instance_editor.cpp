@@ -10,7 +10,7 @@ bool InstanceEditor::Edit_Instance(std::string& id, act::CommandNumber command) 
     const grid::clsMsgSchedCell cell = selection_.selected();
     const bool is_instance = !instances_.is_first_occurrence(id, cell);
     if (is_instance)
-        id = instances_.Change_Instance(cell, cell, values::to_int32(cell.Duration()));
+        id = instances_.Change_Instance(cell, cell, values::to_int32(cell.Duration()), Lifetime::temporary);
     launcher_.Select_and_Launch_Command(id, command, {.allDates = true});
     return is_instance ? settle(id, cell) : true;
 }
@@ -30,6 +30,7 @@ bool InstanceEditor::settle(const std::string& instance, const grid::clsMsgSched
     case InstanceChange::changed:
         switch (frmActivityChange_.show()) {
         case ActivityChange::Response::this_instance:
+            instances_.Keep(instance);
             return true;
         case ActivityChange::Response::all_instances:
             instances_.Apply_To_Series(instance, cell.ActivityID());

@@ -11,7 +11,7 @@ namespace field = act::activity_field;
 using values::DateTime;
 
 std::string Instances::Change_Instance(const grid::clsMsgSchedCell& source, const grid::clsMsgSchedCell& target,
-                                       std::int32_t duration) {
+                                       std::int32_t duration, Lifetime lifetime) {
     return here_.guarded("in frmMain: Function Change_Instance - Line # ", [&](host::Step& step) {
         step = 10;
         const DateTime start = start_of(target, here_.locale);
@@ -31,6 +31,8 @@ std::string Instances::Change_Instance(const grid::clsMsgSchedCell& source, cons
         step = 60;
         instance.fields[field::scheduled_for] = user_of(target);
         step = 70;
+        if (lifetime == Lifetime::temporary)
+            instance.stands_for = occurrence_in(source);
         std::string id = instance.store(activity());
         step = 80;
         activity().Goto(id);
@@ -42,6 +44,8 @@ std::string Instances::Change_Instance(const grid::clsMsgSchedCell& source, cons
         snapshot_ = {.fields = {}, .contacts = instance.contacts};
         for (const auto& [number, value] : instance.fields)
             snapshot_.fields[number] = values::text_of(value, here_.locale);
+        if (lifetime == Lifetime::temporary)
+            act_.session.ActDatabase->Instance_Is_Made(id);
         return id;
     });
 }
@@ -91,6 +95,7 @@ void Instances::Apply_To_Series(const std::string& instance, const std::string& 
 void Instances::Delete_Instance(const std::string& id, const grid::clsMsgSchedCell& cell) {
     changes::Addition::undo(activity(), id);
     occurrence_in(cell).undo(activity());
+    Keep(id);
 }
 
 // A row that belongs to nobody leaves the occurrence with the series' user.

@@ -20,6 +20,10 @@ struct InstanceSnapshot {
 // What the comparison of an instance with its snapshot tells.
 enum class InstanceChange { none = 0, changed = 1, recurrence_touched = 2 };
 
+// How long an instance is to stand: for good, or while it is edited. Should the program die meanwhile, the next
+// one takes it back.
+enum class Lifetime { lasting, temporary };
+
 // Occurrences of a series as records of their own: made, compared with what they were, copied to the series and
 // given up. But for Change_Instance nothing here has a failure handler.
 class Instances {
@@ -30,7 +34,9 @@ public:
     // minutes and for the target's user; the source's day becomes an exception of the series. Gives the new id,
     // an empty text after a failure, which undoes nothing.
     std::string Change_Instance(const grid::clsMsgSchedCell& source, const grid::clsMsgSchedCell& target,
-                                std::int32_t duration);
+                                std::int32_t duration, Lifetime lifetime = Lifetime::lasting);
+    // A temporary instance stays for good, or is gone by other ways than Delete_Instance.
+    void Keep(const std::string& id) { act_.session.ActDatabase->Forget_Instance(id); }
     // Whether the cell shows the first occurrence of the series, which is the series itself.
     bool is_first_occurrence(const std::string& series, const grid::clsMsgSchedCell& cell);
 

@@ -70,6 +70,11 @@ void Launcher::Setup_ActivityWin(const grid::clsMsgSchedCell& cell) {
 
 void Launcher::announce_recurring_edit() { write(settings_.user_store, keys::activity_recurring_edit, "1"); }
 
+void Launcher::withdraw_recurring_edit() {
+    ignoring_failure(
+        [&] { remove(settings_.user_store, keys::activity_recurring_edit); }); // taken by the companion
+}
+
 void Launcher::Select_and_Launch_Command(const std::string& id, act::CommandNumber command, const Launch& launch) {
     here_.guarded("in frmMain: Sub Select_and_Launch_Command - Line # ", [&](host::Step& step) {
         step = 10;
@@ -97,8 +102,8 @@ void Launcher::run_in_list(act::CommandNumber command, int mask, const Launch& l
         act::ActivityList& list = view.Activities();
         const act::ListFilter users_own = list.GetFilter();
         const auto run = [&] {
-            list.SetFilter({mask, launch.allDates ? act::filter_dates::all : dates_shown(),
-                            text(field::scheduled_for)});
+            list.SetFilter(
+                {mask, launch.allDates ? act::filter_dates::all : dates_shown(), text(field::scheduled_for)});
             run_selected(list, command, launch);
         };
         and_put_back(run, [&] { list.SetFilter(users_own); });

@@ -19,8 +19,10 @@ public:
     void Setup_ActivityWin(const grid::clsMsgSchedCell& cell, const std::string& type);
     // The same with the type that the settings give new activities.
     void Setup_ActivityWin(const grid::clsMsgSchedCell& cell);
-    // Leaves the word that the next dialog is opened for the settings of a series.
+    // Leaves the word that the next dialog is opened for the settings of a series, and takes it away again once
+    // that dialog has closed or was refused: it isn't meant for any other.
     void announce_recurring_edit();
+    void withdraw_recurring_edit();
 
     // How an activity is looked for in the list of its contact's activities, and what else happens.
     struct Launch {

@@ -81,7 +81,7 @@ void Lookups::add_others(std::string& list) {
 void Lookups::make_lookup(const std::string& list) {
     act::ContactView& view = *session().ActContactView;
     view.CreateLookup(list);
-    if (static_cast<std::size_t>(view.GetCount()) * values::id_length == list.size())
+    if (static_cast<std::size_t>(view.GetCount()) * values::id_length == values::length(list))
         return;
     session().ActApp->Command(act::CommandNumber::show_contact_view); // the view wasn't ready
     view.CreateLookup(list);

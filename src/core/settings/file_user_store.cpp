@@ -4,6 +4,8 @@
 
 #include <algorithm>
 #include <charconv>
+#include <exception>
+#include <utility>
 
 namespace settings {
 
@@ -57,24 +59,24 @@ std::string plain(std::string_view text) {
 } // namespace
 
 std::optional<std::string> FileUserStore::read(const std::string& branch, const std::string& name) const {
-    const auto value = file_.read().value(escaped_branch(branch), escaped_name(name));
+    const auto value = document().value(escaped_branch(branch), escaped_name(name));
     return value ? std::optional(plain(*value)) : std::nullopt;
 }
 
 bool FileUserStore::write(const std::string& branch, const std::string& name, const std::string& value) {
-    return file_.change([&](IniDocument& document) {
+    return change([&](IniDocument& document) {
         return document.set(escaped_branch(branch), escaped_name(name), escaped(value, ""));
     });
 }
 
 bool FileUserStore::remove(const std::string& branch, const std::string& name) {
-    return file_.change(
+    return change(
         [&](IniDocument& document) { return document.remove_key(escaped_branch(branch), escaped_name(name)); });
 }
 
 bool FileUserStore::remove_branch(const std::string& branch) {
     const std::string wanted = values::lower(escaped_branch(branch));
-    return file_.change([&](IniDocument& document) {
+    return change([&](IniDocument& document) {
         bool removed = false;
         for (const std::string& section : document.sections()) {
             const std::string name = values::lower(section);
@@ -85,8 +87,25 @@ bool FileUserStore::remove_branch(const std::string& branch) {
     });
 }
 
+bool FileUserStore::together(const std::function<void()>& block) {
+    std::exception_ptr failed;
+    const bool is_kept = change([&](IniDocument& document) {
+        IniDocument* const outer = std::exchange(open_, &document);
+        try {
+            block();
+        } catch (...) {
+            failed = std::current_exception();
+        }
+        open_ = outer;
+        return true;
+    });
+    if (failed)
+        std::rethrow_exception(failed);
+    return is_kept;
+}
+
 std::vector<std::pair<std::string, std::string>> FileUserStore::list(const std::string& branch) const {
-    const IniDocument& document = file_.read();
+    const IniDocument& document = this->document();
     const std::string section = escaped_branch(branch);
     std::vector<std::pair<std::string, std::string>> values;
     for (const std::string& name : document.keys(section))

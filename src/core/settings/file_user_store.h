@@ -21,10 +21,17 @@ public:
     bool remove(const std::string& branch, const std::string& name) override;
     // With the branches below it.
     bool remove_branch(const std::string& branch) override;
+    bool together(const std::function<void()>& block) override;
     std::vector<std::pair<std::string, std::string>> list(const std::string& branch) const override;
 
 private:
+    const IniDocument& document() const { return open_ ? *open_ : file_.read(); }
+    bool change(const std::function<bool(IniDocument&)>& edit) {
+        return open_ ? edit(*open_) : file_.change(edit);
+    }
+
     mutable IniFile file_;
+    IniDocument* open_ = nullptr; // what a block changes, while it runs
 };
 
 } // namespace settings

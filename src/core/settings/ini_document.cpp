@@ -3,6 +3,9 @@
 #include "core/values/text.h"
 
 #include <algorithm>
+#include <cstddef>
+#include <span>
+#include <utility>
 
 namespace settings {
 
@@ -35,30 +38,64 @@ bool is_key_name(std::string_view name) {
     return !name.empty() && fits_a_line(name) && !values::contains(name, "=") && name[0] != ';' && name[0] != '[';
 }
 
+// What counts of a line.
+std::string_view content_of(std::string_view line) {
+    return bare(line.substr(0, line.find_first_of(std::string_view{"\r\n\0", 3})));
+}
+
+std::optional<std::string> section_in(std::string_view line) {
+    const std::string_view content = content_of(line);
+    const std::size_t bracket = content.find(']');
+    if (!content.starts_with('[') || bracket == content.npos)
+        return std::nullopt;
+    return std::string(bare(content.substr(1, bracket - 1)));
+}
+
 } // namespace
 
-IniDocument::IniDocument(std::string_view bytes) : file_(decoded(bytes)) { parse(); }
+IniDocument::IniDocument(std::string_view bytes) : form_(decoded(bytes)), sections_(1) {
+    const std::string whole = std::exchange(form_.text, {});
+    const std::string_view text = whole;
+    for (std::size_t begin = 0; begin < text.size();) {
+        std::size_t end = std::min(text.find_first_of(line_ends, begin), text.size());
+        end += text.substr(end, 2) == "\r\n" ? 2U : end < text.size() ? 1U : 0U;
+        take_line(text.substr(begin, end - begin));
+        begin = end;
+    }
+    for (Section& section : sections_)
+        section.find_keys();
+    find_sections();
+}
+
+std::string IniDocument::bytes() const {
+    FileText file = form_;
+    for (const Section& section : sections_)
+        for (const Line& line : section.lines)
+            file.text += line.text;
+    return encoded(file);
+}
 
 std::optional<std::string> IniDocument::value(std::string_view section, std::string_view key) const {
     const Section* found = find(section);
-    const Key* present = found ? find(*found, key) : nullptr;
+    const Line* present = found ? find(*found, key) : nullptr;
     if (!present)
         return std::nullopt;
-    const Range range = present->value;
-    return std::string(without_quotes(std::string_view(file_.text).substr(range.begin, range.end - range.begin)));
+    return std::string(
+        without_quotes(std::string_view(present->text).substr(present->value, present->value_length)));
 }
 
 std::vector<std::string> IniDocument::keys(std::string_view section) const {
     std::vector<std::string> names;
     if (const Section* found = find(section))
-        for (const Key& key : found->keys)
-            names.push_back(key.name);
+        for (const Line& line : found->lines)
+            if (!line.name.empty())
+                names.push_back(line.name);
     return names;
 }
 
 std::vector<std::string> IniDocument::sections() const {
     std::vector<std::string> names;
-    for (const Section& section : sections_)
+    for (const Section& section : std::span(sections_).subspan(1))
         names.push_back(section.name);
     return names;
 }
@@ -68,108 +105,123 @@ bool IniDocument::set(std::string_view section, std::string_view key, std::strin
     const std::string_view key_name = bare(key);
     if (!is_section_name(section_name) || !is_key_name(key_name) || !fits_a_line(value))
         return false;
-    const std::string line = std::string(key_name).append("=").append(value);
-    const Section* found = find(section_name);
+    Section* found = find(section_name);
     if (!found) {
-        insert_lines(file_.text.size(), {std::string("[").append(section_name).append("]"), line});
-    } else if (const Key* present = find(*found, key_name)) {
-        const Range range = present->value;
-        if (std::string_view(file_.text).substr(range.begin, range.end - range.begin) != bare(value))
-            replace(range, value);
-    } else {
-        insert_lines(found->keys.empty() ? found->header.end : found->keys.back().line.end, {line});
+        end_line(sections_.back(), sections_.back().lines.size());
+        take_line(std::string("[").append(section_name).append("]").append(line_end()));
+        find_sections();
+        found = &sections_.back();
     }
+    if (const Line* present = find(*found, key_name)) {
+        if (std::string_view(present->text).substr(present->value, present->value_length) != bare(value)) {
+            Line& line = found->lines[static_cast<std::size_t>(present - found->lines.data())];
+            line = line_of(line.text.replace(line.value, line.value_length, value));
+        }
+        return true;
+    }
+    const std::size_t place = found->last_key + 1;
+    end_line(*found, place);
+    Line line = line_of(std::string(key_name).append("=").append(value).append(line_end()));
+    found->lines.insert(found->lines.begin() + static_cast<std::ptrdiff_t>(place), std::move(line));
+    found->by_name.emplace(values::lower(key_name), place); // no key stands behind it
+    found->last_key = place;
     return true;
 }
 
 bool IniDocument::remove_section(std::string_view section) {
     const Section* found = find(section);
-    if (found)
-        replace({found->header.begin, found->end}, "");
-    return found != nullptr;
+    if (!found)
+        return false;
+    sections_.erase(sections_.begin() + (found - sections_.data()));
+    find_sections();
+    return true;
 }
 
 bool IniDocument::remove_key(std::string_view section, std::string_view key) {
-    const Section* found = find(section);
-    const Key* present = found ? find(*found, key) : nullptr;
-    if (present)
-        replace(present->line, "");
-    return present != nullptr;
+    Section* found = find(section);
+    const Line* present = found ? find(*found, key) : nullptr;
+    if (!present)
+        return false;
+    found->lines.erase(found->lines.begin() + (present - found->lines.data()));
+    found->find_keys();
+    return true;
 }
 
-void IniDocument::parse() {
-    sections_.clear();
+void IniDocument::Section::find_keys() {
+    by_name.clear();
+    last_key = 0;
+    for (std::size_t line = 0; line < lines.size(); ++line) {
+        if (lines[line].name.empty())
+            continue;
+        by_name.try_emplace(values::lower(lines[line].name), line);
+        last_key = line;
+    }
+}
+
+void IniDocument::find_sections() {
     by_name_.clear();
-    const std::string_view text = file_.text;
-    for (std::size_t begin = 0; begin < text.size();) {
-        std::size_t end = std::min(text.find_first_of(line_ends, begin), text.size());
-        end += text.substr(end, 2) == "\r\n" ? 2U : end < text.size() ? 1U : 0U;
-        parse_line({begin, end});
-        begin = end;
-    }
-    if (!sections_.empty())
-        sections_.back().end = text.size();
+    for (std::size_t section = 1; section < sections_.size(); ++section)
+        by_name_.try_emplace(values::lower(sections_[section].name), section);
 }
 
-void IniDocument::parse_line(Range line) {
-    const std::string_view whole = std::string_view(file_.text).substr(line.begin, line.end - line.begin);
-    const std::string_view content = bare(whole.substr(0, whole.find_first_of(std::string_view{"\r\n\0", 3})));
-    if (content.empty() || content[0] == ';')
-        return;
-    if (content[0] == '[') {
-        const std::size_t bracket = content.find(']');
-        if (bracket == content.npos)
-            return;
-        if (!sections_.empty())
-            sections_.back().end = line.begin;
-        const std::string name(bare(content.substr(1, bracket - 1)));
-        by_name_.try_emplace(values::lower(name), sections_.size());
-        sections_.push_back({.name = name, .header = line});
-        return;
-    }
+IniDocument::Line IniDocument::line_of(std::string text) {
+    Line line{.text = std::move(text)};
+    const std::string_view content = content_of(line.text);
     const std::size_t equals = content.find('=');
     const std::string_view name = bare(content.substr(0, equals));
-    if (equals == content.npos || name.empty() || sections_.empty())
-        return;
+    if (equals == content.npos || name.empty() || name[0] == ';' || name[0] == '[')
+        return line;
     const std::string_view value = bare(content.substr(equals + 1));
-    const char* const value_begin = value.empty() ? content.data() + content.size() : value.data();
-    const auto begin = static_cast<std::size_t>(value_begin - file_.text.data());
-    Section& section = sections_.back();
-    section.by_name.try_emplace(values::lower(name), section.keys.size());
-    section.keys.push_back({.name = std::string(name), .line = line, .value = {begin, begin + value.size()}});
+    const char* const begin = value.empty() ? content.data() + content.size() : value.data();
+    line.name = name;
+    line.value = static_cast<std::size_t>(begin - line.text.data());
+    line.value_length = value.size();
+    return line;
 }
 
-void IniDocument::replace(Range range, std::string_view text) {
-    file_.text.replace(range.begin, range.end - range.begin, text);
-    parse();
+void IniDocument::take_line(std::string_view text) {
+    if (const auto name = section_in(text)) {
+        sections_.push_back({.name = *name});
+        sections_.back().lines.push_back({.text = std::string(text)});
+    } else {
+        sections_.back().lines.push_back(line_of(std::string(text)));
+    }
 }
 
-void IniDocument::insert_lines(std::size_t at, const std::vector<std::string>& lines) {
-    const std::string end(line_end());
-    const bool breaks = at > 0 && !values::contains(line_ends, std::string_view(file_.text).substr(at - 1, 1));
-    std::string text = breaks ? end : "";
-    for (const std::string& line : lines)
-        text += line + end;
-    replace({at, at}, text);
+// The line before the place gets a line end, should it be the last of a file that has none there.
+void IniDocument::end_line(Section& section, std::size_t place) const {
+    if (place == 0)
+        return;
+    std::string& text = section.lines[place - 1].text;
+    if (!values::contains(line_ends, std::string_view(text).substr(text.size() - 1)))
+        text += line_end();
 }
 
 // The file's own, that of its first line.
-std::string_view IniDocument::line_end() const {
-    const std::string_view text = file_.text;
-    const std::size_t first = text.find_first_of(line_ends);
-    if (first == text.npos)
-        return "\n";
-    return text.substr(first, text.substr(first, 2) == "\r\n" ? 2 : 1);
+std::string IniDocument::line_end() const {
+    for (const Section& section : sections_) {
+        if (section.lines.empty())
+            continue;
+        const std::string& line = section.lines.front().text;
+        const std::size_t end = line.find_first_of(line_ends);
+        return end == line.npos ? "\n" : line.substr(end);
+    }
+    return "\n";
 }
 
-const IniDocument::Section* IniDocument::find(std::string_view section) const {
-    const auto found = by_name_.find(values::lower(bare(section)));
-    return found == by_name_.end() ? nullptr : &sections_[found->second];
+template <typename Document>
+auto* IniDocument::find_in(Document& document, std::string_view section) {
+    const auto found = document.by_name_.find(values::lower(bare(section)));
+    return found == document.by_name_.end() ? nullptr : &document.sections_[found->second];
 }
 
-const IniDocument::Key* IniDocument::find(const Section& section, std::string_view key) {
+IniDocument::Section* IniDocument::find(std::string_view section) { return find_in(*this, section); }
+
+const IniDocument::Section* IniDocument::find(std::string_view section) const { return find_in(*this, section); }
+
+const IniDocument::Line* IniDocument::find(const Section& section, std::string_view key) {
     const auto found = section.by_name.find(values::lower(bare(key)));
-    return found == section.by_name.end() ? nullptr : &section.keys[found->second];
+    return found == section.by_name.end() ? nullptr : &section.lines[found->second];
 }
 
 } // namespace settings

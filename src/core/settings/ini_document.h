@@ -18,7 +18,7 @@ namespace settings {
 class IniDocument {
 public:
     explicit IniDocument(std::string_view bytes = {});
-    std::string bytes() const { return encoded(file_); }
+    std::string bytes() const;
 
     // Without one pair of quotes round it. Absent when there is no such key.
     std::optional<std::string> value(std::string_view section, std::string_view key) const;
@@ -35,33 +35,34 @@ public:
     bool remove_key(std::string_view section, std::string_view key);
 
 private:
-    struct Range {
-        std::size_t begin = 0;
-        std::size_t end = 0;
-    };
-    struct Key {
-        std::string name;
-        Range line;  // with its line end
-        Range value; // with its quotes
+    struct Line {
+        std::string text;      // with its line end
+        std::string name{};    // of its key; empty for a line that holds none
+        std::size_t value = 0; // where the value begins, and how long it is, with its quotes
+        std::size_t value_length = 0;
     };
     struct Section {
-        std::string name;
-        Range header; // with its line end
-        std::size_t end = 0;
-        std::vector<Key> keys{};
-        std::unordered_map<std::string, std::size_t> by_name{};
+        std::string name{};
+        std::vector<Line> lines{};                              // its header, then all up to the next
+        std::unordered_map<std::string, std::size_t> by_name{}; // the line of each key
+        std::size_t last_key = 0;                               // its line, or the header's
+
+        void find_keys();
     };
 
-    void parse();
-    void parse_line(Range line);
-    void replace(Range range, std::string_view text);
-    void insert_lines(std::size_t at, const std::vector<std::string>& lines);
-    std::string_view line_end() const;
+    static Line line_of(std::string text);
+    void take_line(std::string_view text);
+    void find_sections();
+    void end_line(Section& section, std::size_t place) const;
+    std::string line_end() const;
+    template <typename Document> // const or not
+    static auto* find_in(Document& document, std::string_view section);
+    Section* find(std::string_view section);
     const Section* find(std::string_view section) const;
-    static const Key* find(const Section& section, std::string_view key);
+    static const Line* find(const Section& section, std::string_view key);
 
-    FileText file_;
-    std::vector<Section> sections_;
+    FileText form_;                 // without its text, which stands in the sections
+    std::vector<Section> sections_; // the first is what stands before all sections
     std::unordered_map<std::string, std::size_t> by_name_;
 };
 

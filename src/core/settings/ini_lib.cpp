@@ -55,7 +55,12 @@ bool IniLib::WriteKeyValue(std::string_view section, std::string_view key, std::
         step = 10;
         IniFile& ini = file_at(file);
         step = 20;
-        return ini.change([&](IniDocument& document) { return document.set(section, key, value); });
+        bool can_stand_there = true;
+        const bool is_written =
+            ini.change([&](IniDocument& document) { return can_stand_there = document.set(section, key, value); });
+        if (!is_written && can_stand_there)
+            tell_unwritable(file);
+        return is_written;
     });
 }
 
@@ -108,6 +113,11 @@ IniFile& IniLib::file_at(std::string& file) const {
     if (file.empty())
         file = SettingsFile;
     return open_files_.try_emplace(file, files_, file).first->second;
+}
+
+void IniLib::tell_unwritable(const std::string& file) {
+    if (unwritable_ && told_.insert(file).second)
+        unwritable_(file);
 }
 
 } // namespace settings

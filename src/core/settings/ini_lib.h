@@ -4,7 +4,9 @@
 #include "core/host/guard.h"
 #include "core/settings/ini_file.h"
 
+#include <functional>
 #include <map>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -15,7 +17,11 @@ namespace settings {
 // settings file and is overwritten with its path. All values are texts; lengths count characters.
 class IniLib {
 public:
-    IniLib(host::Files& files, const host::Guard& guarded) : files_(files), guarded_(guarded) {}
+    // Told a file's path when a write finds that the file can't be written, once for each file.
+    using Unwritable = std::function<void(const std::string& file)>;
+
+    IniLib(host::Files& files, const host::Guard& guarded, Unwritable unwritable = {})
+        : files_(files), guarded_(guarded), unwritable_(std::move(unwritable)) {}
 
     std::string SettingsFile; // full path; it need not exist
 
@@ -45,9 +51,12 @@ public:
 
 private:
     IniFile& file_at(std::string& file) const;
+    void tell_unwritable(const std::string& file);
 
     host::Files& files_;
     const host::Guard& guarded_;
+    Unwritable unwritable_;
+    std::set<std::string> told_; // files
     mutable std::map<std::string, IniFile> open_files_;
 };
 

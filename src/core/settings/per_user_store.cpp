@@ -28,4 +28,6 @@ void PerUserStore::remove(const std::string& section, const std::string& key) {
 
 void PerUserStore::remove_section(const std::string& section) { require(values_.DeleteSetting(section, "")); }
 
+void PerUserStore::together(const std::function<void()>& block) { require(store_.together(block)); }
+
 } // namespace settings

@@ -18,14 +18,17 @@ constexpr int last_old_row = 150;
 void Closing::Form_Unload() {
     bool ends_later = false;
     here_.guarded("in frmMain: Sub Form_Unload - Line # ", [&](host::Step& step) {
-        step = 10;
-        remove_old_row_heights();
-        step = 20;
-        store_row_heights();
-        step = 30;
-        store_geometry(window_, settings_.user_store);
-        step = 40;
-        settings::write(settings_.user_store, keys::weekly_view, layout_.NumDays() == 7 ? "1" : "0");
+        settings_.user_store.together([&] {
+            step = 10;
+            remove_old_row_heights();
+            step = 20;
+            store_row_heights();
+            step = 30;
+            store_geometry(window_, settings_.user_store);
+            step = 40;
+            settings::write(settings_.user_store, keys::weekly_view, layout_.NumDays() == 7 ? "1" : "0");
+            step = 20; // where a store that can't be written fails first
+        });
         step = 50;
         const std::string database = departure_.RestartAct ? departure_.close_act() : std::string();
         step = 60;

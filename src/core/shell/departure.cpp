@@ -20,12 +20,6 @@ std::string Departure::close_act() {
     return database;
 }
 
-// A start that stopped early has nothing to let go.
-void Departure::release_act() {
-    if (session_.ActDatabase)
-        session_.Release();
-}
-
 void Departure::restart_act(const std::string& database) {
     here_.shell.open(database);
     EndTicks = 0;

@@ -22,8 +22,8 @@ public:
     void stop_listening() { ActEvent1_.Disconnect(); }
     // Closes ACT! and gives the path of the database that was open, empty when it can't be told.
     std::string close_act();
-    // Lets ACT!'s objects go, if there are any. Has no failure handler.
-    void release_act();
+    // Lets ACT!'s objects go, as far as there are any. Has no failure handler.
+    void release_act() { session_.Release(); }
     // Hands the database to the desktop; the process ends two seconds later.
     void restart_act(const std::string& database);
     void end() { program_.end(); }

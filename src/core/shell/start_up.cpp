@@ -1,5 +1,6 @@
 #include "core/shell/start_up.h"
 
+#include "core/act/left_instances.h"
 #include "core/settings/catalogue.h"
 #include "core/shell/geometry.h"
 #include "core/shell/jump_targets.h"
@@ -16,6 +17,18 @@ namespace {
 constexpr int first_contact_field = 25; // the setting counts on from it
 
 bool is_true(const std::string& text) { return values::to_double(text) != 0; }
+
+// Turns the flag off at its end, on every way out.
+class EndOfLoading {
+public:
+    explicit EndOfLoading(bool& bLoading) : bLoading_(bLoading) {}
+    ~EndOfLoading() { bLoading_ = false; }
+    EndOfLoading(const EndOfLoading&) = delete;
+    EndOfLoading& operator=(const EndOfLoading&) = delete;
+
+private:
+    bool& bLoading_;
+};
 
 } // namespace
 
@@ -63,6 +76,7 @@ void StartUp::Form_Load() {
         step = 170;
         engine_.act.users.map_users();
         step = 180;
+        act::take_back_instances(here_, engine_.act.session);
         engine_.refresh.Refresh_Data();
         step = 190;
         engine_.refresh_timer.start();
@@ -85,14 +99,16 @@ void StartUp::Form_Activate() {
         if (!engine_.grid.bLoading)
             return;
         step = 20;
-        const int state = values::to_int16(settings::read(settings_.user_store, keys::window_state));
-        step = 30;
-        if (state < static_cast<int>(WindowState::normal) || state > static_cast<int>(WindowState::maximised))
-            throw values::Failure(values::FailureNumber::invalid_property_value);
-        window_.set_window_state(static_cast<WindowState>(state));
-        step = 40;
-        engine_.grid.bLoading = false;
+        const EndOfLoading end(engine_.grid.bLoading);
+        take_stored_state();
     });
+}
+
+void StartUp::take_stored_state() {
+    const int state = values::to_int16(settings::read(settings_.user_store, keys::window_state));
+    if (state < static_cast<int>(WindowState::normal) || state > static_cast<int>(WindowState::maximised))
+        throw values::Failure(values::FailureNumber::invalid_property_value);
+    window_.set_window_state(static_cast<WindowState>(state));
 }
 
 // A stored path at which no file stands stays in force: the file comes into being there at the first write, not in

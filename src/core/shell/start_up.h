@@ -20,10 +20,12 @@ public:
     std::int32_t CollColWidth = 0; // twips
 
     void Form_Load();
-    // The window has become the active one. The first time it takes its stored state.
+    // The window has become the active one. The first time it takes its stored state; loading is over then, also
+    // when that state is none, since the end of the box that tells it makes the window active again.
     void Form_Activate();
 
 private:
+    void take_stored_state();
     void locate_settings_file();
     void read_view();
     void read_sizes();

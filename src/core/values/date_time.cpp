@@ -26,9 +26,10 @@ days day_number(DateTime value) { return floor<days>(seconds(value.seconds())); 
 year_month_day calendar_date(DateTime value) { return empty_date + day_number(value); }
 
 DateTime checked(std::int64_t seconds) {
-    if (seconds < first_second || seconds >= end_second)
+    const DateTime result = DateTime::from_seconds(seconds);
+    if (!result.is_date())
         throw Failure(FailureNumber::invalid_procedure_call);
-    return DateTime::from_seconds(seconds);
+    return result;
 }
 
 std::int64_t second_of_day(DateTime value) { return value.time().seconds(); }
@@ -44,6 +45,8 @@ year_month_day first_of_month(int year, std::int64_t month) {
 }
 
 } // namespace
+
+bool DateTime::is_date() const { return seconds_ >= first_second && seconds_ < end_second; }
 
 DateTime DateTime::of(int year, int month, int day, int hour, int minute, int second) {
     return checked(seconds_of(first_of_month(year, month)) + (day - std::int64_t{1}) * seconds_a_day +

@@ -28,6 +28,7 @@ public:
     }
 
     constexpr std::int64_t seconds() const { return seconds_; }
+    bool is_date() const; // false for what from_seconds takes and no calendar has
 
     DateTime date() const;               // without its time of day
     DateTime time() const;               // the time of day on the empty date

@@ -3,6 +3,8 @@
 #include "core/values/failure.h"
 #include "core/values/text.h"
 #include "desk/import/activity_text.h"
+#include "desk/import/colours.h"
+#include "desk/import/own_lines.h"
 
 #include <libical/ical.h>
 
@@ -12,8 +14,6 @@
 namespace exporting {
 namespace {
 
-using importing::several_lines;
-using importing::single_line;
 using store::DateTime;
 using store::RecurrenceKind;
 
@@ -32,6 +32,10 @@ icaltimetype time_of(DateTime moment) {
     time.second = moment.second();
     return time;
 }
+
+// As a text of the file has to be.
+std::string single_line(const std::string& text) { return importing::readable(importing::single_line(text)); }
+std::string several_lines(const std::string& text) { return importing::readable(importing::several_lines(text)); }
 
 void add(icalcomponent* to, icalproperty* property) { icalcomponent_add_property(to, property); }
 
@@ -68,6 +72,11 @@ std::vector<std::string> month_days_of(const store::Recurrence& series) {
     return days;
 }
 
+std::string with_days(const char* pattern, const std::vector<std::string>& days) {
+    return days.empty() ? std::string() : pattern + joined(days);
+}
+
+// Empty for none, and for one that falls on no day.
 std::string pattern_of(const store::Recurrence& series) {
     switch (series.kind) {
     case RecurrenceKind::none:
@@ -75,27 +84,29 @@ std::string pattern_of(const store::Recurrence& series) {
     case RecurrenceKind::daily:
         return "FREQ=DAILY";
     case RecurrenceKind::weekly:
-        return "FREQ=WEEKLY;BYDAY=" + joined(weekdays_of(series));
+        return with_days("FREQ=WEEKLY;BYDAY=", weekdays_of(series));
     case RecurrenceKind::days_of_month:
-        return "FREQ=MONTHLY;BYMONTHDAY=" + joined(month_days_of(series));
+        return with_days("FREQ=MONTHLY;BYMONTHDAY=", month_days_of(series));
     case RecurrenceKind::weekdays_of_month:
-        return "FREQ=MONTHLY;BYDAY=" + joined(month_weekdays_of(series));
+        return with_days("FREQ=MONTHLY;BYDAY=", month_weekdays_of(series));
     }
     return {};
 }
 
 void add_series(icalcomponent* entry, const store::Activity& activity) {
     const store::Recurrence& series = activity.recurrence;
-    if (series.kind == RecurrenceKind::none)
+    const std::string pattern = pattern_of(series);
+    if (pattern.empty())
         return;
-    const std::string rule = pattern_of(series) + ";INTERVAL=" + std::to_string(series.frequency);
+    const std::string rule = pattern + ";INTERVAL=" + std::to_string(series.frequency);
     icalrecurrencetype recurrence = icalrecurrencetype_from_string(rule.c_str());
-    if (series.until)
+    if (is_calendar_date(series.until))
         recurrence.until = time_of(series.until->date().plus_minutes(24 * 60 - 1));
     add(entry, icalproperty_new_rrule(recurrence));
     for (const DateTime date : activity.exceptions)
-        add(entry, icalproperty_new_exdate(
-                       time_of(DateTime::from_seconds(date.date().seconds() + activity.start->time().seconds()))));
+        if (is_calendar_date(date))
+            add(entry, icalproperty_new_exdate(time_of(
+                           DateTime::from_seconds(date.date().seconds() + activity.start->time().seconds()))));
 }
 
 void add_alarm(icalcomponent* entry, const store::Activity& activity, const std::string& summary) {
@@ -128,6 +139,8 @@ void add_state(icalcomponent* entry, const store::Activity& activity) {
     add(entry, icalproperty_new_priority(priority_number(activity.priority)));
     if (activity.type == store::ActivityType::call)
         add(entry, icalproperty_new_categories("Phone call"));
+    if (activity.colour)
+        add(entry, icalproperty_new_color(std::string(importing::nearest_name(*activity.colour)).c_str()));
     if (activity.is_private)
         add(entry, icalproperty_new_class(ICAL_CLASS_PRIVATE));
     if (activity.type == store::ActivityType::to_do && activity.cleared)
@@ -135,13 +148,14 @@ void add_state(icalcomponent* entry, const store::Activity& activity) {
 }
 
 icalcomponent* entry_of(const store::Activity& activity, const std::vector<Participant>& participants,
-                        std::int64_t stamp) {
-    icalcomponent* entry = icalcomponent_new(activity.type == store::ActivityType::to_do ? ICAL_VTODO_COMPONENT
-                                                                                         : ICAL_VEVENT_COMPONENT);
-    const std::string uid = std::string(values::trimmed(activity.id)) + "@contact-desk";
+                        const Origin& origin) {
+    const bool has_date = is_calendar_date(activity.start);
+    const bool is_to_do = activity.type == store::ActivityType::to_do || !has_date;
+    icalcomponent* entry = icalcomponent_new(is_to_do ? ICAL_VTODO_COMPONENT : ICAL_VEVENT_COMPONENT);
+    const std::string uid = importing::own::uid_of(activity.id, origin.identity);
     const std::string summary = single_line(activity.regarding);
     add(entry, icalproperty_new_uid(uid.c_str()));
-    add(entry, icalproperty_new_dtstamp(icaltime_from_timet_with_zone(static_cast<std::time_t>(stamp), 0,
+    add(entry, icalproperty_new_dtstamp(icaltime_from_timet_with_zone(static_cast<std::time_t>(origin.stamp), 0,
                                                                       icaltimezone_get_utc_timezone())));
     add(entry, icalproperty_new_summary(summary.c_str()));
     if (const std::string details = several_lines(activity.details); !details.empty())
@@ -151,26 +165,49 @@ icalcomponent* entry_of(const store::Activity& activity, const std::vector<Parti
         const std::string person = single_line(participant.name) + (mail.empty() ? "" : " <" + mail + ">");
         add(entry, icalproperty_new_contact(person.c_str()));
     }
-    add_times(entry, activity);
+    if (has_date)
+        add_times(entry, activity);
     add_state(entry, activity);
-    add_series(entry, activity);
-    add_alarm(entry, activity, summary);
+    if (has_date) {
+        add_series(entry, activity);
+        add_alarm(entry, activity, summary);
+    }
     return entry;
 }
 
 } // namespace
 
+bool is_calendar_date(const std::optional<DateTime>& date) {
+    return date && *date >= DateTime::of(1900, 1, 1) && *date < DateTime::of(2500, 1, 1);
+}
+
+bool has_rule(const store::Activity& activity) {
+    return is_calendar_date(activity.start) && !pattern_of(activity.recurrence).empty();
+}
+
+std::string entry_text(const store::Activity& activity, const std::vector<Participant>& participants,
+                       const Origin& origin) {
+    icalerror_set_errors_are_fatal(0); // the library would end the process
+    const std::unique_ptr<icalcomponent, Free> entry(entry_of(activity, participants, origin));
+    const std::unique_ptr<char, Free> text(icalcomponent_as_ical_string_r(entry.get()));
+    return text.get();
+}
+
+std::string calendar_begin(const std::vector<std::string>& lines) {
+    std::string text =
+        "BEGIN:VCALENDAR\r\nVERSION:2.0\r\nPRODID:-//Orvanta//Contact Desk//EN\r\nMETHOD:PUBLISH\r\n";
+    for (const std::string& line : lines)
+        text += line;
+    return text;
+}
+
+std::string calendar_end() { return "END:VCALENDAR\r\n"; }
+
 std::string calendar_text(const store::Activity& activity, const std::vector<Participant>& participants,
-                          std::int64_t stamp) {
+                          const Origin& origin) {
     if (!activity.start)
         throw values::Failure(values::FailureNumber::automation, "The activity has no date.");
-    const std::unique_ptr<icalcomponent, Free> calendar(icalcomponent_new(ICAL_VCALENDAR_COMPONENT));
-    add(calendar.get(), icalproperty_new_version("2.0"));
-    add(calendar.get(), icalproperty_new_prodid("-//Orvanta//Contact Desk//EN"));
-    add(calendar.get(), icalproperty_new_method(ICAL_METHOD_PUBLISH));
-    icalcomponent_add_component(calendar.get(), entry_of(activity, participants, stamp));
-    const std::unique_ptr<char, Free> text(icalcomponent_as_ical_string_r(calendar.get()));
-    return text.get();
+    return calendar_begin() + entry_text(activity, participants, origin) + calendar_end();
 }
 
 } // namespace exporting

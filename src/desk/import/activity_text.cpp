@@ -5,25 +5,29 @@
 namespace importing {
 namespace {
 
-constexpr std::size_t longest_line = 255;
-constexpr std::size_t longest_text = 20000;
-
 bool is_control(char c) { return static_cast<unsigned char>(c) < 0x20 || c == 0x7F; }
+std::string cut(std::string_view text, std::size_t longest, bool* is_cut) {
+    std::string result = values::first_characters(text, longest);
+    if (is_cut && result.size() < text.size())
+        *is_cut = true;
+    return result;
+}
+
 bool is_letter(char c) { return (c >= 'a' && c <= 'z') || static_cast<unsigned char>(c) >= 0x80; }
 
 } // namespace
 
-std::string single_line(std::string_view text) {
+std::string single_line(std::string_view text, bool* is_cut) {
     std::string line;
     for (const char c : text)
         if (!is_control(c))
             line += c;
         else if (!line.empty() && line.back() != ' ')
             line += ' ';
-    return values::first_characters(values::trimmed(line), longest_line);
+    return cut(values::trimmed(line), longest_single_line, is_cut);
 }
 
-std::string several_lines(std::string_view text) {
+std::string several_lines(std::string_view text, bool* is_cut) {
     std::string lines;
     for (const char c : values::replaced(text, "\r\n", "\n"))
         if (c == '\r' || c == '\n')
@@ -32,7 +36,7 @@ std::string several_lines(std::string_view text) {
             lines += c;
     const std::size_t last = lines.find_last_not_of(" \n");
     lines.resize(last == std::string::npos ? 0 : last + 1);
-    return values::first_characters(lines, longest_text);
+    return cut(lines, longest_several_lines, is_cut);
 }
 
 bool begins_as_call(std::string_view summary) {

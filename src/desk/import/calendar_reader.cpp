@@ -2,6 +2,7 @@
 
 #include "desk/import/activity_text.h"
 #include "desk/import/recurring.h"
+#include "desk/import/uid.h"
 
 #include <algorithm>
 #include <charconv>
@@ -39,7 +40,7 @@ public:
             work_.step(entries_of(group).size());
         }
     }
-    std::vector<FoundActivity> found() { return std::move(found_); }
+    FoundCalendar found() { return std::move(found_); }
 
 private:
     void skip(const Component& component, const std::string& why) {
@@ -92,7 +93,7 @@ private:
 
     // Whole or not at all.
     void read_if_possible(const Group& group) {
-        const std::size_t found = found_.size();
+        const std::size_t found = found_.activities.size();
         const std::size_t changed = report_.changed.size();
         const std::size_t skipped = report_.skipped.size();
         bool is_possible = false;
@@ -100,14 +101,27 @@ private:
             is_possible = work_.within(work_.left() / share_of_an_entry, [&] { read(group); });
         } catch (const Work::Exhausted&) { // nothing is left for the entries after it either
         }
-        if (is_possible)
-            return;
-        found_.erase(found_.begin() + static_cast<std::ptrdiff_t>(found), found_.end());
-        report_.changed.resize(changed);
-        report_.skipped.resize(skipped);
-        zones_.take_unknown();
-        for (const Component* component : entries_of(group))
-            skip(*component, "It would take too long to read.");
+        if (!is_possible) {
+            found_.activities.erase(found_.activities.begin() + static_cast<std::ptrdiff_t>(found),
+                                    found_.activities.end());
+            report_.changed.resize(changed);
+            report_.skipped.resize(skipped);
+            zones_.take_unknown();
+            for (const Component* component : entries_of(group))
+                skip(*component, "It would take too long to read.");
+            is_cut_ = true;
+        }
+        remember_whether_whole(group);
+    }
+
+    void remember_whether_whole(const Group& group) {
+        if (is_cut_)
+            for (const Component* component : entries_of(group))
+                found_.cut_entries.insert(uid_of(*component));
+        else if (group.main)
+            found_.whole_entries.insert(uid_of(*group.main));
+        for (std::set<std::string>* entries : {&found_.cut_entries, &found_.whole_entries})
+            entries->erase(std::string()); // one without a name isn't known again
     }
 
     Entry entry_of(const Component& component) {
@@ -118,13 +132,14 @@ private:
     // Where an entry changes occurrences of a series that the file doesn't have, one with a rule of its own stands
     // for all of that rule's dates.
     void read(const Group& group) {
+        is_cut_ = false;
         std::map<const Component*, std::vector<ZonedTime>> replaced;
         std::vector<const Component*> leaders;
         for (const auto& [name, component] : group.overrides) {
             Entry entry = entry_of(*component);
             replaced[component] = times_of(entry, ICAL_RECURRENCEID_PROPERTY, times_);
             if (group.main || !has_own_dates(*component)) {
-                take_override(entry, *component);
+                take_override(entry, *component, replaced[component]);
             } else {
                 leaders.push_back(component);
                 zones_.take_unknown(); // told when it is read again
@@ -134,10 +149,9 @@ private:
             leaders.push_back(group.main);
         for (const Component* leader : leaders) {
             Entry entry = entry_of(*leader);
-            if (!entry.skipped.empty()) {
-                report_.skipped.push_back({entry.source, entry.skipped});
+            if (is_skipped(entry))
                 continue;
-            }
+            entry.found.occurrence = occurrence_of(*leader, replaced[leader]);
             std::vector<ZonedTime> others;
             for (const auto& [component, times] : replaced)
                 if (component != leader)
@@ -147,11 +161,35 @@ private:
         }
     }
 
+    bool is_skipped(const Entry& entry) {
+        if (entry.skipped.empty())
+            return false;
+        is_cut_ = is_cut_ || !entry.is_cancelled;
+        report_.skipped.push_back({entry.source, entry.skipped});
+        return true;
+    }
+
+    // Empty for an entry that stands for no occurrence of another.
+    std::string occurrence_of(const Component& component, const std::vector<ZonedTime>& replaced) const {
+        return replaced.empty() ? std::string(value_in(component, "RECURRENCE-ID"))
+                                : name_of_occurrence(times_.local(replaced.front()));
+    }
+
+    void take(const FoundActivity& activity) {
+        work_.spend(units_to_write(activity));
+        found_.activities.push_back(activity);
+    }
+
     void take_all(Entry& entry, const Component& told, const std::vector<ZonedTime>& replaced) {
+        if (entry.is_settled) {
+            tell_changes(entry);
+            return take(entry.found);
+        }
         std::vector<FoundActivity> activities = activities_of(entry, told, replaced, {times_, today_, work_});
         if (activities.empty() && replaced.empty())
             report_.skipped.push_back({entry.source, "Its exceptions leave out all of its occurrences."});
-        std::ranges::move(activities, std::back_inserter(found_));
+        std::ranges::move(activities, std::back_inserter(found_.activities));
+        is_cut_ = is_cut_ || entry.is_cut;
         tell_changes(entry);
     }
 
@@ -159,19 +197,17 @@ private:
         return !value_in(component, "RRULE").empty() || !value_in(component, "RDATE").empty();
     }
 
-    void take_override(Entry& entry, const Component& component) {
-        if (!entry.skipped.empty()) {
-            report_.skipped.push_back({entry.source, entry.skipped});
+    void take_override(Entry& entry, const Component& component, const std::vector<ZonedTime>& replaced) {
+        if (is_skipped(entry))
             return;
-        }
-        icalproperty* replaced =
+        icalproperty* property =
             icalcomponent_get_first_property(entry.component.get(), ICAL_RECURRENCEID_PROPERTY);
-        if (replaced && icalproperty_get_first_parameter(replaced, ICAL_RANGE_PARAMETER))
+        if (property && icalproperty_get_first_parameter(property, ICAL_RANGE_PARAMETER))
             entry.changes.push_back("It changes all later occurrences too; only this one was changed.");
         if (has_own_dates(component))
             entry.changes.push_back("It changes one occurrence, so its own further dates were left out.");
-        work_.spend(units_to_write(entry.found));
-        found_.push_back(entry.found);
+        entry.found.occurrence = occurrence_of(component, replaced);
+        take(entry.found);
         tell_changes(entry);
     }
 
@@ -180,14 +216,15 @@ private:
     const values::DateTime today_;
     Work& work_;
     Report& report_;
-    std::vector<FoundActivity> found_;
+    FoundCalendar found_;
+    bool is_cut_ = false; // the entry that is being read has more than is taken
     std::vector<Group> groups_;
     std::map<std::string, std::size_t> by_uid_;
 };
 
 } // namespace
 
-std::vector<FoundActivity> read_calendar(const Component& calendar, const Here& here, Report& report) {
+FoundCalendar read_calendar(const Component& calendar, const Here& here, Report& report) {
     return Reader(calendar, here, report).found();
 }
 

@@ -2,10 +2,15 @@
 
 #include "core/values/text.h"
 #include "desk/import/activity_text.h"
+#include "desk/import/own_lines.h"
+#include "desk/import/uid.h"
 #include "desk/store/contact_fields.h"
 
 #include <algorithm>
 #include <initializer_list>
+#include <map>
+#include <set>
+#include <utility>
 
 namespace importing {
 namespace {
@@ -50,7 +55,7 @@ std::string from_quoted_printable(std::string_view text) {
             bytes += text[i];
         }
     }
-    return values::is_utf8(bytes) ? bytes : values::utf8_from_windows_1252(bytes);
+    return readable(bytes);
 }
 
 std::vector<Property> properties_of(const Component& card) {
@@ -68,32 +73,13 @@ std::vector<Property> properties_of(const Component& card) {
     return properties;
 }
 
-std::string unescaped(std::string_view text) {
-    std::string plain;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        if (text[i] != '\\' || i + 1 == text.size()) {
-            plain += text[i];
-            continue;
-        }
-        const char next = text[++i];
-        if (next == 'n' || next == 'N')
-            plain += '\n';
-        else if (next == ',' || next == ';' || next == '\\' || next == ':')
-            plain += next;
-        else
-            (plain += '\\') += next;
-    }
-    return plain;
-}
-
-// The parts between semicolons, each as one line.
+// The parts between semicolons, with their escapes.
 std::vector<std::string> parts_of(const std::string& value) {
     std::vector<std::string> parts;
     std::string part;
     for (std::size_t i = 0; i <= value.size(); ++i) {
         if (i == value.size() || value[i] == ';') {
-            parts.push_back(single_line(unescaped(part)));
-            part.clear();
+            parts.push_back(std::exchange(part, {}));
         } else {
             part += value[i];
             if (value[i] == '\\' && i + 1 < value.size())
@@ -107,6 +93,24 @@ std::string part(const std::vector<std::string>& parts, std::size_t number) {
     return number < parts.size() ? parts[number] : std::string();
 }
 
+std::string joined(const std::vector<std::string>& parts) {
+    std::string text;
+    for (const std::string& part : parts)
+        text += part + ";";
+    return text;
+}
+
+bool is_field(int number) {
+    return std::ranges::any_of(store::contact_fields(),
+                               [&](const store::ContactField& known) { return known.number == number; });
+}
+
+// Fields that no other program can have changed.
+bool has_no_place(int number) {
+    return number == field::status || number == field::salutation || number == field::referred_by ||
+           number == field::extension || number == field::record_creator || number == field::record_manager;
+}
+
 class Card {
 public:
     explicit Card(const Component& card) : properties_(properties_of(card)) {
@@ -114,8 +118,11 @@ public:
         read_names();
         if (!found_.is_empty())
             read_rest();
+        if (own::parts_in(card, own::check))
+            restore_own(card);
         found_.source.title = text(field::name).empty() ? text(field::company) : text(field::name);
         found_.source.uid = single_line(value_in(card, "UID"));
+        found_.uid = uid_of(card);
     }
     FoundCard take() { return std::move(found_); }
 
@@ -129,6 +136,35 @@ private:
         return !value.empty() && found_.contact.fields.emplace(number, value).second;
     }
 
+    // The same for a value that is lost where the field has another one already.
+    void set_or_count(int number, const std::string& value, const char* what) {
+        if (!set(number, value) && !value.empty() && value != text(number))
+            left_out_[what].insert(value);
+    }
+
+    std::string line_of(const std::string& value) {
+        bool is_cut = false;
+        std::string line = single_line(unescaped(value), &is_cut);
+        cut_ += is_cut;
+        return line;
+    }
+
+    // Each as one line.
+    std::vector<std::string> lines_of(const std::string& value) {
+        std::vector<std::string> lines;
+        for (const std::string& part : parts_of(value))
+            lines.push_back(line_of(part));
+        return lines;
+    }
+
+    void tell_changes() {
+        for (const auto& [what, values] : left_out_)
+            found_.changes.push_back("There is no room for its further " + std::string(what) + " (" +
+                                     std::to_string(values.size()) + ").");
+        if (cut_ > 0)
+            found_.changes.push_back("Texts that were too long were cut (" + std::to_string(cut_) + ").");
+    }
+
     template <typename Take>
     void each(std::string_view name, const Take& take) {
         // Those that are preferred come first.
@@ -139,9 +175,9 @@ private:
     }
 
     void read_names() {
-        each("FN", [&](const Property& p) { set(field::name, single_line(unescaped(p.value))); });
+        each("FN", [&](const Property& p) { set(field::name, line_of(p.value)); });
         each("N", [&](const Property& p) {
-            const auto parts = parts_of(p.value);
+            const auto parts = lines_of(p.value);
             std::string name;
             // Title, given, further and family name, and what comes after it.
             for (const std::size_t number : std::initializer_list<std::size_t>{3, 1, 2, 0, 4})
@@ -150,54 +186,85 @@ private:
             set(field::name, name);
         });
         each("ORG", [&](const Property& p) {
-            const auto parts = parts_of(p.value);
+            const auto parts = lines_of(p.value);
             if (set(field::company, part(parts, 0)))
                 set(field::department, part(parts, 1));
         });
     }
 
     void read_rest() {
-        const auto read_line = [&](std::string_view name, int number) {
-            each(name, [&](const Property& p) { set(number, single_line(unescaped(p.value))); });
+        const auto read_line = [&](std::string_view name, int number, const char* what) {
+            each(name, [&](const Property& p) { set_or_count(number, line_of(p.value), what); });
         };
-        read_line("TITLE", field::title);
-        read_line("EMAIL", field::e_mail);
-        read_line("URL", field::web_site);
-        read_line("BDAY", field::birthday);
+        read_line("TITLE", field::title, "titles");
+        read_line("EMAIL", field::e_mail, "mail addresses");
+        read_line("URL", field::web_site, "web addresses");
+        read_line("BDAY", field::birthday, "birthdays");
         each("TEL", [&](const Property& p) { read_phone(p); });
         for (const bool home : {false, true})
             each("ADR", [&](const Property& p) {
                 if (has(p, "home") == home)
-                    read_address(parts_of(p.value));
+                    read_address(lines_of(p.value));
             });
         each("NOTE", [&](const Property& p) {
-            if (const std::string note = several_lines(unescaped(p.value)); !note.empty())
-                found_.notes.push_back(note);
+            bool is_cut = false;
+            if (const std::string note = several_lines(unescaped(p.value), &is_cut); !note.empty())
+                found_.notes.push_back({.text = note});
+            cut_ += is_cut;
         });
+        tell_changes();
+    }
+
+    // What a card has no place for, and all that it says where no other program has changed it.
+    void restore_own(const Component& card) {
+        found_.is_own = true;
+        found_.exported = value_in(card, own::record);
+        const bool is_untouched = own::is_untouched(card);
+        for (const own::Parts& told : own::all_parts_in(card, own::field)) {
+            const int number = static_cast<int>(told.number(0).value_or(0));
+            if (!is_untouched && !has_no_place(number))
+                continue;
+            found_.contact.fields.erase(number);
+            if (is_field(number) && !told.text(1).empty())
+                found_.contact.fields[number] = told.text(1);
+        }
+        for (const own::Parts& group : own::all_parts_in(card, own::group))
+            found_.groups.push_back({group.text(0), group.text(1), group.number(2).value_or(0)});
+        if (!is_untouched)
+            return;
+        found_.changes.clear();
+        found_.notes.clear();
+        for (const own::Parts& note : own::all_parts_in(card, own::note))
+            if (const auto seconds = note.number(0))
+                found_.notes.push_back({note.text(1), store::DateTime::from_seconds(*seconds)});
     }
 
     void read_phone(const Property& property) {
-        std::string number = single_line(unescaped(property.value));
+        std::string number = line_of(property.value);
         if (values::lower(number).starts_with("tel:"))
             number.erase(0, 4);
         if (has(property, "fax"))
-            set(field::fax, number);
+            set_or_count(field::fax, number, "fax numbers");
         else if (has(property, "pager"))
-            set(field::pager, number);
+            set_or_count(field::pager, number, "pager numbers");
         else if (has(property, "cell"))
-            set(field::mobile, number);
+            set_or_count(field::mobile, number, "mobile numbers");
         else if (has(property, "home"))
-            set(field::home_phone, number);
+            set_or_count(field::home_phone, number, "home phone numbers");
         else
-            set(field::phone, number);
+            set_or_count(field::phone, number, "phone numbers");
     }
 
     // Post box, extension, street, city, state, code, country. The first address is taken.
     void read_address(const std::vector<std::string>& parts) {
         const bool is_empty =
             std::all_of(parts.begin(), parts.end(), [](const auto& part) { return part.empty(); });
-        if (is_empty || has_address_)
+        if (is_empty)
             return;
+        if (has_address_) {
+            left_out_["addresses"].insert(joined(parts));
+            return;
+        }
         has_address_ = true;
         int line = field::address;
         for (const std::size_t number : std::initializer_list<std::size_t>{2, 1, 0})
@@ -212,6 +279,8 @@ private:
     const std::vector<Property> properties_;
     FoundCard found_;
     bool has_address_ = false;
+    std::map<std::string, std::set<std::string>> left_out_; // values, by what they are
+    int cut_ = 0;
 };
 
 } // namespace

@@ -184,13 +184,32 @@ std::optional<std::uint32_t> red_first(std::string_view text) {
     return place->value;
 }
 
+// Between blue first and red first.
+std::uint32_t turned_round(std::uint32_t colour) {
+    return (colour & 0xFF) << 16 | (colour & 0xFF00) | (colour >> 16 & 0xFF);
+}
+
+int distance(std::uint32_t left, std::uint32_t right) {
+    int sum = 0;
+    for (const int shift : {0, 8, 16}) {
+        const int part = static_cast<int>(left >> shift & 0xFF) - static_cast<int>(right >> shift & 0xFF);
+        sum += part * part;
+    }
+    return sum;
+}
+
 } // namespace
 
 std::optional<std::uint32_t> colour_of(std::string_view text) {
     const auto value = red_first(values::trimmed(text));
-    if (!value)
-        return std::nullopt;
-    return (*value & 0xFF) << 16 | (*value & 0xFF00) | *value >> 16;
+    return value ? std::optional(turned_round(*value)) : std::nullopt;
+}
+
+std::string_view nearest_name(std::uint32_t colour) {
+    const std::uint32_t wanted = turned_round(colour);
+    return std::ranges::min_element(named_colours, {},
+                                    [&](const NamedColour& named) { return distance(named.value, wanted); })
+        ->name;
 }
 
 } // namespace importing

@@ -63,10 +63,11 @@ std::vector<Line> unfolded(std::string_view bytes) {
         else if (!is_empty(line))
             lines.push_back({number, std::string(line)});
     }
-    const auto is_utf8 = [](const Line& line) { return values::is_utf8(line.text); };
-    if (!std::all_of(lines.begin(), lines.end(), is_utf8))
-        for (Line& line : lines)
-            line.text = values::utf8_from_windows_1252(line.text);
+    for (Line& line : lines)
+        if (!values::is_utf8(line.text)) {
+            line.text = readable(line.text);
+            line.is_mended = true;
+        }
     return lines;
 }
 
@@ -95,36 +96,74 @@ std::string_view value_of(const Line& line) {
     return {};
 }
 
+std::string unescaped(std::string_view text) {
+    std::string plain;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (text[i] != '\\' || i + 1 == text.size()) {
+            plain += text[i];
+            continue;
+        }
+        const char next = text[++i];
+        if (next == 'n' || next == 'N')
+            plain += '\n';
+        else if (next == ',' || next == ';' || next == '\\' || next == ':')
+            plain += next;
+        else
+            (plain += '\\') += next;
+    }
+    return plain;
+}
+
 std::string_view value_in(const Component& component, std::string_view name) {
     const auto has_name = [&](const Line& line) { return name_of(line) == name; };
     const auto line = std::find_if(component.lines.begin(), component.lines.end(), has_name);
     return line == component.lines.end() ? std::string_view() : value_of(*line);
 }
 
-std::vector<Component> components_of(std::string_view bytes) {
-    std::vector<Component> whole;
+std::string readable(std::string_view bytes) {
+    constexpr std::size_t longest_character = 4;
+    std::string text;
+    while (!bytes.empty()) {
+        std::size_t length = 1;
+        while (length < longest_character && length < bytes.size() && !values::is_utf8(bytes.substr(0, length)))
+            ++length;
+        const bool is_character = values::is_utf8(bytes.substr(0, length));
+        if (is_character)
+            text += bytes.substr(0, length);
+        else
+            text += values::utf8_from_windows_1252(bytes.substr(0, length = 1));
+        bytes.remove_prefix(length);
+    }
+    return text;
+}
+
+Content content_of(std::string_view bytes) {
+    Content content;
     std::vector<Component> open;
     for (Line& line : unfolded(without_mark(bytes))) {
+        content.mended_lines += line.is_mended;
         const std::string name = name_of(line);
         if (name == "BEGIN") {
             if (open.size() == deepest)
                 refuse("its entries lie too deep in each other" + in_line(line.number));
             open.push_back({component_name(line), line.number, {}, {}});
         } else if (open.empty()) {
-            refuse("it has something that is no calendar and no address card" + in_line(line.number));
+            content.stray_lines.push_back(line.number);
         } else if (name == "END") {
             Component closed = std::move(open.back());
             open.pop_back();
             if (closed.name != component_name(line))
                 refuse("the end of " + closed.name + " is missing before the one" + in_line(line.number));
-            (open.empty() ? whole : open.back().parts).push_back(std::move(closed));
+            (open.empty() ? content.components : open.back().parts).push_back(std::move(closed));
         } else {
             open.back().lines.push_back(std::move(line));
         }
     }
     if (!open.empty())
         refuse("it seems cut off: the entry that begins" + in_line(open.back().line) + " has no end");
-    return whole;
+    if (content.components.empty() && !content.stray_lines.empty())
+        refuse("it has something that is no calendar and no address card" + in_line(content.stray_lines.front()));
+    return content;
 }
 
 } // namespace importing

@@ -3,6 +3,8 @@
 #include "core/values/text.h"
 #include "desk/import/activity_text.h"
 #include "desk/import/colours.h"
+#include "desk/import/own_entry.h"
+#include "desk/import/uid.h"
 
 #include <algorithm>
 
@@ -42,6 +44,15 @@ bool reads_start(Entry& entry, bool is_to_do, Times& times) {
     entry.start = start ? *start : *due;
     entry.found.activity.start = times.local(entry.start);
     return true;
+}
+
+std::string line_of(Entry& entry, icalproperty_kind kind, const char* what) {
+    bool is_cut = false;
+    std::string line = single_line(text_of(entry, kind), &is_cut);
+    if (is_cut)
+        entry.changes.push_back("Its " + std::string(what) + " was cut to " + std::to_string(longest_single_line) +
+                                " characters.");
+    return line;
 }
 
 // In minutes, as the entry says it.
@@ -109,16 +120,21 @@ store::ActivityType type_of(const Component& component, const std::string& summa
     return is_call ? store::ActivityType::call : store::ActivityType::meeting;
 }
 
-std::string details_of(const Entry& entry) {
+std::string details_of(Entry& entry) {
     std::string details = text_of(entry, ICAL_DESCRIPTION_PROPERTY);
     const auto add = [&](const std::string& text) {
         if (!text.empty())
             details += (details.empty() ? "" : "\n") + text;
     };
-    const std::string place = single_line(text_of(entry, ICAL_LOCATION_PROPERTY));
+    const std::string place = line_of(entry, ICAL_LOCATION_PROPERTY, "location");
     add(place.empty() ? "" : "Location: " + place);
-    add(single_line(text_of(entry, ICAL_URL_PROPERTY)));
-    return several_lines(details);
+    add(line_of(entry, ICAL_URL_PROPERTY, "web address"));
+    bool is_cut = false;
+    details = several_lines(details, &is_cut);
+    if (is_cut)
+        entry.changes.push_back("Its details were cut to " + std::to_string(longest_several_lines) +
+                                " characters.");
+    return details;
 }
 
 void read_colour(Entry& entry) {
@@ -171,13 +187,24 @@ void tell_lines_left_out(Entry& entry, const Component& component) {
             entry.changes.push_back("Line " + std::to_string(line.number) + " is too long and was left out.");
 }
 
+void read_texts_and_state(Entry& entry, const Component& component) {
+    Activity& activity = entry.found.activity;
+    activity.regarding = line_of(entry, ICAL_SUMMARY_PROPERTY, "title");
+    activity.details = details_of(entry);
+    activity.type = type_of(component, activity.regarding);
+    activity.priority = priority_of(entry);
+    activity.cleared = status_of(entry) == ICAL_STATUS_COMPLETED || property_of(entry, ICAL_COMPLETED_PROPERTY);
+    if (icalproperty* secrecy = property_of(entry, ICAL_CLASS_PROPERTY)) {
+        const icalproperty_class kind = icalproperty_get_class(secrecy);
+        activity.is_private = kind == ICAL_CLASS_PRIVATE || kind == ICAL_CLASS_CONFIDENTIAL;
+    }
+}
+
 } // namespace
 
 Source source_of(const Component& component) {
-    std::string title(value_in(component, "SUMMARY"));
-    for (const auto& [escaped, plain] : {std::pair{"\\,", ","}, {"\\;", ";"}, {"\\n", " "}, {"\\N", " "}})
-        title = values::replaced(title, escaped, plain);
-    return {component.line, single_line(title), single_line(value_in(component, "UID"))};
+    return {component.line, single_line(unescaped(value_in(component, "SUMMARY"))),
+            single_line(value_in(component, "UID"))};
 }
 
 int duration_of(std::int64_t minutes, std::vector<std::string>& changes) {
@@ -195,33 +222,33 @@ int duration_of(std::int64_t minutes, std::vector<std::string>& changes) {
 
 Entry read_entry(const Component& component, Times& times) {
     Entry entry{.source = source_of(component), .component = parsed(component)};
-    const bool is_to_do = component.name == "VTODO";
-    if (!entry.component)
+    entry.found.source = entry.source;
+    entry.found.uid = uid_of(component);
+    if (!entry.component) {
         entry.skipped = "It can't be read.";
-    else if (status_of(entry) == ICAL_STATUS_CANCELLED)
+        return entry;
+    }
+    const bool is_own = is_own_entry(component);
+    const bool has_start = reads_start(entry, component.name == "VTODO", times);
+    const bool tells_start = !value_in(component, "DTSTART").empty() || !value_in(component, "DUE").empty();
+    if ((entry.is_cancelled = status_of(entry) == ICAL_STATUS_CANCELLED))
         entry.skipped = "It is cancelled.";
-    else if (!reads_start(entry, is_to_do, times))
-        entry.skipped = value_in(component, "DTSTART").empty() && value_in(component, "DUE").empty()
-                            ? "It has no start."
-                            : "Its start can't be read.";
+    else if (!has_start && tells_start)
+        entry.skipped = "Its start can't be read.";
+    else if (!has_start && !is_own)
+        entry.skipped = "It has no start.";
     if (!entry.skipped.empty())
         return entry;
-    Activity& activity = entry.found.activity;
-    activity.regarding = single_line(text_of(entry, ICAL_SUMMARY_PROPERTY));
-    activity.details = details_of(entry);
-    activity.type = type_of(component, activity.regarding);
-    activity.priority = priority_of(entry);
-    const auto status = status_of(entry);
-    activity.cleared = status == ICAL_STATUS_COMPLETED || property_of(entry, ICAL_COMPLETED_PROPERTY);
-    if (icalproperty* secrecy = property_of(entry, ICAL_CLASS_PROPERTY)) {
-        const icalproperty_class kind = icalproperty_get_class(secrecy);
-        activity.is_private = kind == ICAL_CLASS_PRIVATE || kind == ICAL_CLASS_CONFIDENTIAL;
+    read_texts_and_state(entry, component);
+    if (has_start) {
+        read_duration(entry, component, times);
+        read_alarm(entry, times);
     }
-    read_duration(entry, component, times);
-    read_alarm(entry, times);
     read_colour(entry);
     read_people(entry);
     tell_lines_left_out(entry, component);
+    if (is_own)
+        restore_own(entry, component);
     return entry;
 }
 

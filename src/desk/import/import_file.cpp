@@ -2,14 +2,21 @@
 
 #include "core/values/failure.h"
 #include "core/values/text.h"
+#include "desk/import/activity_text.h"
 #include "desk/import/calendar_reader.h"
 #include "desk/import/card_reader.h"
+#include "desk/import/card_taking.h"
+#include "desk/import/groups.h"
+#include "desk/import/own_lines.h"
 #include "desk/import/people.h"
+#include "desk/import/users.h"
 
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
+#include <functional>
 #include <iterator>
+#include <set>
 
 namespace importing {
 namespace {
@@ -33,81 +40,131 @@ std::string bytes_of(const std::string& path) {
     return bytes;
 }
 
-store::User user_for(store::Store& store, const std::string& name) {
-    const std::vector<store::User> users = store.users();
-    if (users.empty())
-        fail("The database has no user for whom activities could be scheduled.");
-    if (name.empty())
-        return users.front();
-    std::string names;
-    for (const store::User& user : users) {
-        if (values::equal_ignoring_case(user.name, name))
-            return user;
-        names += (names.empty() ? "" : ", ") + user.name;
-    }
-    fail("There is no user \"" + name + "\". The users are: " + names + ".");
-}
-
 constexpr double part_of_reading = 0.5; // of an import; the rest is writing
 
 struct Found {
     std::vector<FoundActivity> activities;
+    std::set<std::string> whole_entries; // in each of the calendars that name them
+    std::set<std::string> cut_entries;
     std::vector<FoundCard> cards;
+    std::vector<store::User> users; // of a desk's own file, as are the groups
+    std::vector<FoundGroup> groups;
 };
+
+bool is_of_calendar(const Component& component) {
+    return component.name == "VEVENT" || component.name == "VTODO" || component.name == "VJOURNAL" ||
+           component.name == "VTIMEZONE";
+}
+
+// Entries that stand outside of any calendar make one of their own, which knows the zones of the others.
+void gather_entries(std::vector<Component>& components) {
+    const auto entries = std::ranges::stable_partition(components, std::not_fn(is_of_calendar));
+    if (entries.empty())
+        return;
+    Component calendar{.name = "VCALENDAR", .line = entries.front().line};
+    for (const Component& component : components)
+        if (component.name == "VCALENDAR")
+            std::ranges::copy_if(component.parts, std::back_inserter(calendar.parts),
+                                 [](const Component& part) { return part.name == "VTIMEZONE"; });
+    std::ranges::move(entries, std::back_inserter(calendar.parts));
+    components.erase(entries.begin(), entries.end());
+    components.push_back(std::move(calendar));
+}
+
+std::string name_of_calendar(const Component& calendar, const std::string& file) {
+    for (const char* line : {"X-WR-CALNAME", "NAME"})
+        if (std::string name = single_line(unescaped(value_in(calendar, line))); !name.empty())
+            return name;
+    std::string name = single_line(std::filesystem::path(file).stem().string());
+    return name.empty() ? "Calendar" : name;
+}
+
+void read_calendar_into(Found& found, const Component& calendar, const Here& here, Report& report) {
+    const std::string name = name_of_calendar(calendar, report.file);
+    for (const own::Parts& user : own::all_parts_in(calendar, own::user))
+        found.users.push_back({.name = user.text(0), .security = user.text(1), .access = user.text(2)});
+    for (const own::Parts& group : own::all_parts_in(calendar, own::group))
+        found.groups.push_back({.uid = group.text(0), .name = group.text(1)});
+    FoundCalendar read = read_calendar(calendar, here, report);
+    found.whole_entries.merge(read.whole_entries);
+    found.cut_entries.merge(read.cut_entries);
+    for (FoundActivity& activity : read.activities) {
+        activity.calendar = name;
+        found.activities.push_back(std::move(activity));
+    }
+}
+
+void tell_stray_lines(const std::vector<int>& lines, Report& report) {
+    if (lines.empty())
+        return;
+    const std::string more =
+        lines.size() == 1 ? "" : ", like " + std::to_string(lines.size() - 1) + " more after it";
+    report.skipped.push_back({{.line = lines.front()}, "It stands in no entry" + more + "."});
+}
 
 Found read(std::string_view bytes, const Options& options, Work& work, Report& report) {
     // The library would end the process at an entry that it can't read.
     icalerror_set_errors_are_fatal(0);
-    const std::vector<Component> components = components_of(bytes);
-    if (components.empty())
+    Content content = content_of(bytes);
+    gather_entries(content.components);
+    const auto is_known = [](const Component& c) { return c.name == "VCALENDAR" || c.name == "VCARD"; };
+    if (std::ranges::none_of(content.components, is_known))
         fail("it has no calendar and no address card");
     std::size_t entries = 0;
-    for (const Component& component : components)
+    for (const Component& component : content.components)
         entries += component.parts.size();
     work.expect(entries, part_of_reading);
     Found found;
     MachineZones zones(options.other_zone_names, work);
     const Here here{.today = options.now, .local_time = options.local_time, .zones = zones, .work = work};
-    for (const Component& component : components)
+    for (const Component& component : content.components)
         if (component.name == "VCALENDAR")
-            std::ranges::move(read_calendar(component, here, report), std::back_inserter(found.activities));
+            read_calendar_into(found, component, here, report);
         else if (component.name == "VCARD")
             found.cards.push_back(read_card(component));
         else
-            fail("it has something that is no calendar and no address card in line " +
-                 std::to_string(component.line));
+            report.skipped.push_back(
+                {source_of(component), "It is a " + single_line(component.name) + ", not an appointment."});
+    for (const std::string& entry : found.cut_entries)
+        found.whole_entries.erase(entry);
+    tell_stray_lines(content.stray_lines, report);
+    report.mended_lines = content.mended_lines;
     return found;
 }
 
-void write(store::Store& store, Found& found, const store::User& user, store::DateTime now, Work& work,
+void write(store::Store& store, const Found& found, Users& users, const Options& options, Work& work,
            Report& report) {
-    People people(store, user.name);
-    work.expect(found.cards.size() + found.activities.size(), 1);
+    work.expect(found.cards.size() + found.activities.size() + found.whole_entries.size(), 1);
+    for (const store::User& user : found.users)
+        users.tell(user);
+    People people(store, users.name());
+    Groups groups(store);
+    for (const FoundGroup& group : found.groups)
+        groups.id_of(group.uid, group.name);
+    CardTaking cards(store, people, groups, options.now, report);
     for (const FoundCard& card : found.cards) {
         work.step();
-        if (card.is_empty())
-            report.skipped.push_back({card.source, "It has neither a name nor a company."});
-        else if (people.add(card.contact, card.notes, now))
-            report.notes += card.notes.size();
-        else
-            report.skipped.push_back({card.source, "The database has this contact already."});
+        cards.take(card);
     }
-    for (FoundActivity& activity : found.activities) {
+    groups.fill();
+    ActivityTaking activities(store, people, groups, options.deleted, report);
+    for (const FoundActivity& activity : found.activities) {
         work.step();
-        activity.activity.user = user.id;
-        activity.activity.contacts = people.contacts_of(activity.people);
-        store.add(activity.activity);
-        ++report.activities;
-        report.series += activity.activity.recurrence.kind != store::RecurrenceKind::none;
+        activities.take(activity, users.id_for(activity.user));
+    }
+    for (const std::string& entry : found.whole_entries) {
+        work.step();
+        activities.remove_gone(entry, users.usual_id());
     }
     report.contacts = people.added();
+    report.user = users.summary();
 }
 
 } // namespace
 
 Report import_bytes(store::Store& store, std::string_view bytes, const std::string& name, const Options& options) {
-    const store::User user = user_for(store, options.user);
-    Report report{.file = name, .user = user.name};
+    Users users(store, options.user);
+    Report report{.file = name, .user = {}};
     Work work(least_work + bytes.size() * work_for_a_byte, options.progress);
     Found found;
     try {
@@ -116,13 +173,21 @@ Report import_bytes(store::Store& store, std::string_view bytes, const std::stri
         } catch (const values::Failure& failure) {
             fail("Nothing was taken from \"" + name + "\": " + failure.description() + ".");
         }
-        store.together([&] { write(store, found, user, options.now, work, report); });
+        store.together([&] { write(store, found, users, options, work, report); });
     } catch (const Work::Cancelled&) {
         fail("Nothing was taken from \"" + name + "\": the import was cancelled.");
     }
     for (std::vector<Remark>* remarks : {&report.changed, &report.skipped})
         std::ranges::stable_sort(*remarks, {}, [](const Remark& remark) { return remark.source.line; });
     return report;
+}
+
+bool names_users(const std::string& path) {
+    try {
+        return values::contains(bytes_of(path), "\n" + std::string(own::user) + ":");
+    } catch (const values::Failure&) { // the import itself tells it
+        return false;
+    }
 }
 
 Report import_file(store::Store& store, const std::string& path, const Options& options) {

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <iterator>
 #include <set>
+#include <utility>
 
 namespace importing {
 namespace {
@@ -28,12 +29,29 @@ std::string date_text(DateTime date) {
     return std::to_string(date.year()) + "-" + two(date.month()) + "-" + two(date.day());
 }
 
+std::vector<const Line*> lines_in(const Component& component, std::string_view name) {
+    std::vector<const Line*> lines;
+    for (const Line& line : component.lines)
+        if (name_of(line) == name)
+            lines.push_back(&line);
+    return lines;
+}
+
 std::vector<std::string_view> values_in(const Component& component, std::string_view name) {
     std::vector<std::string_view> values;
-    for (const Line& line : component.lines)
-        if (name_of(line) == name && !is_too_long(line))
-            values.push_back(value_of(line));
+    for (const Line* line : lines_in(component, name))
+        if (!is_too_long(*line))
+            values.push_back(value_of(*line));
     return values;
+}
+
+// How many further dates the entry has, whether they can be read or not.
+std::size_t told_dates(const Component& component) {
+    std::size_t count = 0;
+    for (const Line* line : lines_in(component, "RDATE"))
+        if (const std::string_view value = value_of(*line); !value.empty())
+            count += 1 + static_cast<std::size_t>(std::ranges::count(value, ','));
+    return count;
 }
 
 std::vector<Period> further_periods(const Entry& entry, Times& times) {
@@ -61,6 +79,7 @@ public:
     std::vector<FoundActivity> taken_from(const Component& told) {
         auto followed = followed_rule(told);
         const std::vector<Period> further = further_periods(entry_, finding_.times);
+        entry_.is_cut = entry_.is_cut || further.size() < told_dates(told);
         leave_out(told, followed, further);
         if (followed && !followed->times.empty())
             take_rule(*followed);
@@ -78,11 +97,15 @@ private:
         taken_.push_back(activity);
     }
 
-    void take_at(const FoundActivity& activity, DateTime start) {
-        FoundActivity single = activity;
-        single.activity.start = start;
-        single.activity.end = start.plus_minutes(single.activity.duration);
-        take(single);
+    void take_at(FoundActivity activity, DateTime start) {
+        activity.activity.start = start;
+        activity.activity.end = start.plus_minutes(activity.activity.duration);
+        take(activity);
+    }
+
+    void take_single_at(FoundActivity activity, DateTime start) {
+        activity.occurrence = name_of_occurrence(start);
+        take_at(std::move(activity), start);
     }
 
     std::optional<recurrence::CalendarRule> rule_from(std::string_view text, const std::string& name) {
@@ -101,6 +124,7 @@ private:
         if (rule && !followed)
             entry_.changes.push_back(
                 "The calendar can't follow its rule of recurrence; only the first was taken.");
+        entry_.is_cut = entry_.is_cut || lines_in(told, "RRULE").size() > (followed ? 1u : 0u);
         return followed;
     }
 
@@ -153,13 +177,15 @@ private:
         }
         const std::size_t all = starts.size();
         keep_nearest(starts);
+        const bool has_more = starts.size() < all || followed.is_too_long;
+        entry_.is_cut = entry_.is_cut || has_more;
         for (const DateTime start : starts)
-            take_at(entry_.found, start);
+            take_single_at(entry_.found, start);
         if (is_one)
             return;
         std::string change = "The calendar shows no series on its dates, so it became single activities (" +
                              std::to_string(starts.size()) + ")";
-        if (starts.size() < all || followed.is_too_long)
+        if (has_more)
             change += ", no more, of its many dates";
         if (goes_on)
             change += ", up to " + date_text(std::max(last, starts.empty() ? last : starts.back()));
@@ -186,7 +212,7 @@ private:
             FoundActivity single = entry_.found;
             if (period.minutes)
                 single.activity.duration = duration_of(*period.minutes, entry_.changes);
-            take_at(single, start);
+            take_single_at(std::move(single), start);
         }
     }
 
@@ -198,6 +224,8 @@ private:
 };
 
 } // namespace
+
+std::string name_of_occurrence(DateTime start) { return std::to_string(start.seconds()); }
 
 std::size_t units_to_write(const FoundActivity& found) {
     constexpr std::size_t units_of_an_activity = 2500;

@@ -1,5 +1,7 @@
 #include "desk/import/report.h"
 
+#include "desk/import/shown_hours.h"
+
 #include <algorithm>
 
 namespace importing {
@@ -7,6 +9,33 @@ namespace {
 
 std::string counted(std::size_t count, const std::string& one, const std::string& many) {
     return std::to_string(count) + " " + (count == 1 ? one : many);
+}
+
+std::string records(std::size_t activities, std::size_t contacts) {
+    std::string text = activities > 0 ? counted(activities, "activity", "activities") : "";
+    if (contacts > 0)
+        text += (text.empty() ? "" : " and ") + counted(contacts, "contact", "contacts");
+    return text;
+}
+
+std::string taken_before(const Report& report) {
+    std::string text;
+    const auto add = [&](const std::string& what, const char* became) {
+        if (!what.empty())
+            text += (text.empty() ? "Taken before: " : ", ") + what + " " + became;
+    };
+    add(records(report.updated, report.contacts_updated), "updated");
+    add(records(report.unchanged, report.contacts_unchanged), "unchanged");
+    add(records(report.left_as_changed, report.contacts_left_as_changed), "left as changed by the user");
+    add(records(report.left_deleted, 0), "left deleted");
+    add(records(report.removed, 0), "removed, as the file has no more of them");
+    return text.empty() ? text : text + ".\n";
+}
+
+std::string shown_hours() {
+    const auto hour = [](int minutes) { return std::to_string(minutes / 60) + ":00"; };
+    return " (" + hour(first_slot) + " to " + hour(first_slot + slot_count * slot_minutes) +
+           ", unless its time slots were set otherwise)";
 }
 
 std::string line_of(const Remark& remark) {
@@ -40,6 +69,13 @@ std::string Report::text(std::size_t most_remarks) const {
         text += " for " + user;
     text +=
         ", " + counted(contacts, "new contact", "new contacts") + ", " + counted(notes, "note", "notes") + ".\n";
+    text += taken_before(*this);
+    if (outside_hours > 0)
+        text += counted(outside_hours, "activity lies", "activities lie") +
+                " outside the hours that the calendar shows" + shown_hours() + ".\n";
+    if (mended_lines > 0)
+        text += counted(mended_lines, "line isn't", "lines aren't") + " UTF-8 and " +
+                (mended_lines == 1 ? "was" : "were") + " read as Windows-1252.\n";
     return text + listed("Taken with a change:", changed, most_remarks) +
            listed("Skipped:", skipped, most_remarks);
 }

@@ -19,7 +19,7 @@ struct Remark {
     std::string text; // a sentence
 };
 
-// What became of the entries of a file.
+// What became of the entries of a file. Those that an earlier import took are counted by themselves.
 struct Report {
     std::string file{};
     std::string user{};         // for whom activities were scheduled
@@ -27,6 +27,16 @@ struct Report {
     std::size_t series = 0;
     std::size_t contacts = 0;
     std::size_t notes = 0;
+    std::size_t updated = 0; // activities, as are the next
+    std::size_t unchanged = 0;
+    std::size_t left_as_changed = 0; // by the user, since they were taken
+    std::size_t left_deleted = 0;    // by the user
+    std::size_t removed = 0;         // because their entry has them no longer
+    std::size_t contacts_updated = 0;
+    std::size_t contacts_unchanged = 0;
+    std::size_t contacts_left_as_changed = 0;
+    std::size_t outside_hours = 0; // activities for which the calendar has no time slot
+    std::size_t mended_lines = 0;  // lines with bytes that were no UTF-8
     std::vector<Remark> changed{}; // taken, but not quite as they stood
     std::vector<Remark> skipped{};
 

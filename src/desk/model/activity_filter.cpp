@@ -91,7 +91,8 @@ bool takes_part(const store::Activity& activity, const std::optional<std::string
 bool passes(const store::ActivityRow& row, const store::ActivityQuery& query) {
     const auto& entry = row.entry;
     return !query.without_types.contains(entry.type) && !query.without_priorities.contains(entry.priority) &&
-           !(query.without_cleared && entry.cleared) && (!query.user || *query.user == row.user.text());
+           !(query.without_cleared && entry.cleared) &&
+           (query.users.empty() || query.users.contains(row.user.text()));
 }
 
 bool runs_into(const store::ActivityRow& row, DateTime from) {
@@ -101,8 +102,7 @@ bool runs_into(const store::ActivityRow& row, DateTime from) {
 }
 
 // The series that began before the period and are still running when it begins.
-void append_earlier_series(std::vector<store::Activity>& activities, store::Store& store,
-                           const store::ActivityQuery& query) {
+std::vector<store::Activity> earlier_series(store::Store& store, const store::ActivityQuery& query) {
     std::vector<store::ActivityKey> keys;
     store.reading().each_series(query.from->date(), *query.from, [&](const store::ActivityRow& row) {
         if (passes(row, query) && runs_into(row, *query.from))
@@ -113,8 +113,20 @@ void append_earlier_series(std::vector<store::Activity>& activities, store::Stor
     for (const store::ActivityKey& key : keys)
         if (auto activity = store.activity(key.id.text()); activity && takes_part(*activity, query.contact))
             series.push_back(std::move(*activity));
-    activities.insert(activities.begin(), std::make_move_iterator(series.begin()),
-                      std::make_move_iterator(series.end()));
+    return series;
+}
+
+store::ActivityQuery query_of(const ActivityFilter& filter, DateTime today,
+                              const std::optional<std::string>& contact) {
+    store::ActivityQuery query;
+    query.without_types = missing(filter.types, types);
+    query.without_priorities = missing(filter.priorities, priorities);
+    query.without_cleared = !filter.with_cleared;
+    query.contact = contact;
+    limit_period(query, filter, today);
+    for (const std::string& user : values::ids_in(filter.users))
+        query.users.insert(values::whole_id(user));
+    return query;
 }
 
 } // namespace
@@ -142,25 +154,20 @@ ActivityFilter filter_of(const act::ListFilter& codes, const values::Locale& loc
     return filter;
 }
 
-std::vector<store::Activity> filtered(store::Store& store, const ActivityFilter& filter, DateTime today,
-                                      const std::optional<std::string>& contact) {
-    store::ActivityQuery query;
-    query.without_types = missing(filter.types, types);
-    query.without_priorities = missing(filter.priorities, priorities);
-    query.without_cleared = !filter.with_cleared;
-    query.contact = contact;
-    limit_period(query, filter, today);
-    const auto users = values::ids_in(filter.users);
-    if (users.size() == 1)
-        query.user = users.front();
-    auto activities = store.activities(query);
-    if (query.from)
-        append_earlier_series(activities, store, query);
-    if (users.size() > 1)
-        std::erase_if(activities, [&](const store::Activity& activity) {
-            return std::find(users.begin(), users.end(), activity.user) == users.end();
-        });
-    return activities;
+FilteredActivities::FilteredActivities(store::Store& store, const ActivityFilter& filter, DateTime today,
+                                       const std::optional<std::string>& contact)
+    : store_(store), query_(query_of(filter, today, contact)) {
+    if (query_.from)
+        earlier_series_ = earlier_series(store, query_);
+    count_ = static_cast<int>(earlier_series_.size()) + store.count(query_);
+}
+
+std::vector<store::Activity> FilteredActivities::next(int most) {
+    std::vector<store::Activity> result = std::exchange(earlier_series_, {});
+    auto activities = store_.activities(query_, given_, most);
+    given_ += static_cast<int>(activities.size());
+    std::ranges::move(activities, std::back_inserter(result));
+    return result;
 }
 
 } // namespace model

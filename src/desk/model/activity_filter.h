@@ -7,6 +7,7 @@
 #include <optional>
 #include <set>
 #include <string>
+#include <vector>
 
 namespace model {
 
@@ -35,8 +36,23 @@ act::ListFilter codes_of(const ActivityFilter& filter, const values::Locale& loc
 ActivityFilter filter_of(const act::ListFilter& codes, const values::Locale& locale);
 
 // The activities of the store that pass, those of a contact alone where one is given, by start and then by id. A
-// series is in a period when its run, from its first date to its last, meets the period.
-std::vector<store::Activity> filtered(store::Store& store, const ActivityFilter& filter, DateTime today,
-                                      const std::optional<std::string>& contact);
+// series is in a period when its run, from its first date to its last, meets the period. They can be read piece by
+// piece, as long as the store isn't changed.
+class FilteredActivities {
+public:
+    FilteredActivities(store::Store& store, const ActivityFilter& filter, DateTime today,
+                       const std::optional<std::string>& contact);
+
+    // So many, with all the earlier series before the first ones; none at the end.
+    std::vector<store::Activity> next(int most);
+    int count() const { return count_; } // of them all, read or not
+
+private:
+    store::Store& store_;
+    store::ActivityQuery query_;
+    std::vector<store::Activity> earlier_series_; // not yet given
+    int count_ = 0;
+    int given_ = 0; // of those that start in the period
+};
 
 } // namespace model

@@ -19,8 +19,8 @@ public:
 
     virtual std::string active_tab() const = 0;               // the tab's name, not translated: "Activities"
     virtual void set_active_tab(const std::string& name) = 0; // a name that there is not fails
-    // Makes these contacts the current lookup and shows the first. Ids that the database doesn't know are left
-    // out.
+    // Makes these contacts the current lookup and brings the desk to the front with its list of them, the first
+    // one current. Ids that the database doesn't know are left out.
     virtual void create_lookup(const std::vector<std::string>& contacts) = 0;
     virtual int contact_count() const = 0; // of the current lookup
     // Shows the contact, also one outside the current lookup, and gives the id of the one that is shown then: the

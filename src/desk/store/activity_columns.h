@@ -27,7 +27,13 @@ inline std::optional<DateTime> date_of(const Rows& rows, int column) {
 }
 
 inline std::optional<std::uint32_t> colour_of(const Rows& rows, int column) {
-    return rows.is_null(column) ? std::nullopt : std::optional(static_cast<std::uint32_t>(rows.number(column)));
+    const std::int64_t number = rows.number(column);
+    const bool is_colour = !rows.is_null(column) && number >= 0 && number <= last_colour;
+    return is_colour ? std::optional(static_cast<std::uint32_t>(number)) : std::nullopt;
+}
+
+inline int duration_of(const Rows& rows, int column) {
+    return std::clamp(rows.small_number(column), 0, longest_duration);
 }
 
 // Five columns from `frequency` on; the kind stands elsewhere.

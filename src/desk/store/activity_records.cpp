@@ -1,5 +1,6 @@
 #include "desk/store/activity_records.h"
 
+#include "core/values/failure.h"
 #include "core/values/ids.h"
 #include "desk/store/activity_columns.h"
 #include "desk/store/conflict.h"
@@ -17,10 +18,22 @@ std::optional<std::string> optional_id(const std::string& id) {
     return id.empty() ? std::nullopt : std::optional(values::whole_id(id));
 }
 
+void require_dates(const Activity& activity) {
+    const auto is_date = [](const std::optional<DateTime>& moment) { return !moment || moment->is_date(); };
+    const bool are_dates = is_date(activity.start) && is_date(activity.end) &&
+                           is_date(activity.recurrence.until) &&
+                           std::ranges::all_of(activity.exceptions, &DateTime::is_date);
+    if (!are_dates)
+        throw values::Failure(values::FailureNumber::automation,
+                              "An activity can only be stored with dates of the years 100 to 9999.");
+}
+
 // The record as it is stored: without what can't be.
 Activity in_order(const Activity& given) {
+    require_dates(given);
     Activity activity = given;
-    activity.duration = std::max(activity.duration, 0);
+    activity.duration = std::clamp(activity.duration, 0, longest_duration);
+    activity.alarm_lead = std::max(activity.alarm_lead, 0);
     if (activity.start && activity.end < *activity.start)
         activity.end = activity.start->plus_minutes(activity.duration);
     std::erase(activity.contacts, "");
@@ -58,10 +71,10 @@ Activity activity_of(const Rows& rows) {
                       .regarding = rows.text(5),
                       .start = date_of(rows, 6),
                       .end = DateTime::from_seconds(rows.number(7)),
-                      .duration = rows.small_number(8),
+                      .duration = duration_of(rows, 8),
                       .is_private = rows.flag(9),
                       .alarm = rows.flag(10),
-                      .alarm_lead = rows.small_number(11),
+                      .alarm_lead = std::max(rows.small_number(11), 0),
                       .colour = colour_of(rows, 12),
                       .user = rows.text(13),
                       .group = rows.text(14),
@@ -77,24 +90,35 @@ Activity activity_of(const Rows& rows) {
     return activity;
 }
 
-} // namespace
-
-std::vector<Activity> ActivityRecords::activities(const ActivityQuery& query) {
-    Rows rows = connection_.query(sql::activities(query));
+void bind_query(Rows& rows, const ActivityQuery& query) {
     if (query.from)
         rows.bind_all(query.from->seconds());
     if (query.to)
         rows.bind_all(query.to->seconds());
-    if (query.user)
-        rows.bind_all(values::whole_id(*query.user));
+    for (const std::string& user : query.users)
+        rows.bind_all(values::whole_id(user));
     if (query.contact)
         rows.bind_all(values::whole_id(*query.contact), values::whole_id(*query.contact));
+}
+
+} // namespace
+
+std::vector<Activity> ActivityRecords::read(const std::string& sql, const ActivityQuery& query) {
+    Rows rows = connection_.query(sql);
+    bind_query(rows, query);
     std::vector<Activity> result;
     while (rows.step()) {
         result.push_back(activity_of(rows));
         read_lists(result.back(), rows.small_number(contact_count_column));
     }
     return result;
+}
+
+int ActivityRecords::count(const ActivityQuery& query) {
+    Rows rows = connection_.query(sql::count_activities(query));
+    bind_query(rows, query);
+    rows.step();
+    return rows.small_number(0);
 }
 
 std::optional<Activity> ActivityRecords::activity(const std::string& id) {

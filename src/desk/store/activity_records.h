@@ -1,5 +1,6 @@
 #pragma once
 
+#include "desk/store/sql.h"
 #include "desk/store/store.h"
 #include "desk/store/transactions.h"
 
@@ -17,7 +18,11 @@ public:
     ActivityRecords(SqliteConnection& connection, Transactions& transactions, const Clock& clock)
         : connection_(connection), transactions_(transactions), clock_(clock) {}
 
-    std::vector<Activity> activities(const ActivityQuery& query);
+    std::vector<Activity> activities(const ActivityQuery& query) { return read(sql::activities(query), query); }
+    std::vector<Activity> activities(const ActivityQuery& query, int skip, int most) {
+        return read(sql::activities(query, skip, most), query);
+    }
+    int count(const ActivityQuery& query);
     std::optional<Activity> activity(const std::string& id);
     std::string add(const Activity& activity);
     std::int64_t update(const Activity& activity);
@@ -26,6 +31,7 @@ public:
     void remove_exception(const std::string& activity, DateTime date);
 
 private:
+    std::vector<Activity> read(const std::string& sql, const ActivityQuery& query);
     void read_lists(Activity& activity, int contact_count);
     void write_lists(const Activity& activity);
     void touch(const std::string& activity);

@@ -56,6 +56,10 @@ struct Recurrence {
     bool operator==(const Recurrence&) const = default;
 };
 
+// The most minutes of a duration, and the last colour. What a file has beyond them isn't handed out.
+inline constexpr int longest_duration = 32767;
+inline constexpr std::int64_t last_colour = 0xFFFFFFFF;
+
 struct Activity {
     std::string id{};
     DateTime edited{}; // set by the store at each change
@@ -64,10 +68,10 @@ struct Activity {
     std::string regarding{};
     std::optional<DateTime> start{}; // absent when imported data had none that could be read
     DateTime end{};                  // stored as start plus duration where it lies before the start
-    int duration = 0;                // minutes; the store never keeps less than 0
+    int duration = 0;                // minutes; the store keeps 0 to longest_duration
     bool is_private = false;
     bool alarm = false;
-    int alarm_lead = 0;                    // minutes
+    int alarm_lead = 0;                    // minutes; the store never keeps less than 0
     std::optional<std::uint32_t> colour{}; // blue, green, red from the high byte down
     std::string user{};                    // for whom it is scheduled
     std::string group{};
@@ -78,6 +82,8 @@ struct Activity {
     Recurrence recurrence{};
     std::vector<DateTime> exceptions{}; // dates without an occurrence, rising
     std::int64_t revision = 0;          // rises with each change of any record; compares for changes since a read
+
+    bool operator==(const Activity&) const = default;
 };
 
 } // namespace store

@@ -23,7 +23,8 @@ int header_number(SqliteConnection& connection, std::string_view sql) {
 }
 
 void make_empty_file(const std::string& path) {
-    const int file = ::open(path.c_str(), O_CREAT | O_EXCL | O_WRONLY | O_CLOEXEC, 0644);
+    // The engine gives the files that it lays beside it the same rights.
+    const int file = ::open(path.c_str(), O_CREAT | O_EXCL | O_WRONLY | O_CLOEXEC, 0600);
     if (file < 0 && errno == EEXIST)
         throw failure("There is a file \"" + path + "\" already.");
     if (file < 0)
@@ -70,7 +71,10 @@ void require_file(const std::string& path) {
 } // namespace
 
 const std::vector<Migration>& migrations() {
-    static const std::vector<Migration> all = {{1, sql::create_tables()}, {2, sql::change_to_version_2()}};
+    static const std::vector<Migration> all = {{1, sql::create_tables()},
+                                               {2, sql::change_to_version_2()},
+                                               {3, sql::change_to_version_3()},
+                                               {4, sql::change_to_version_4()}};
     return all;
 }
 

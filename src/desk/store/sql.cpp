@@ -224,6 +224,33 @@ CREATE INDEX activities_recurring ON activities
 CREATE INDEX activities_edited ON activities (edited_at);
 )";
 
+constexpr std::string_view changes_of_version_3 = R"(
+-- What came from files, so that it is found again when the file comes again. A record may have been deleted since.
+CREATE TABLE imported_records (
+    kind INTEGER NOT NULL,
+    scheduled_for TEXT NOT NULL,
+    uid TEXT NOT NULL,
+    occurrence TEXT NOT NULL,
+    record TEXT NOT NULL,
+    told TEXT NOT NULL,
+    kept TEXT NOT NULL,
+    PRIMARY KEY (kind, scheduled_for, uid, occurrence)
+);
+-- A number of this database's own, by which what it exports is told from what others export.
+INSERT INTO counters (name, value) VALUES ('identity', random());
+)";
+
+constexpr std::string_view changes_of_version_4 = R"(
+-- Instances that stand for an occurrence while it is edited, by the process that edits it.
+CREATE TABLE temporary_instances (
+    instance TEXT NOT NULL PRIMARY KEY,
+    series TEXT NOT NULL,
+    day INTEGER NOT NULL,
+    owner TEXT NOT NULL,
+    settled_revision INTEGER
+);
+)";
+
 constexpr std::string_view entry_columns = "starts_at, id, edited_at, type, priority, cleared, recurrence";
 
 } // namespace
@@ -237,7 +264,8 @@ const std::vector<std::string_view>& tables() {
                                                         "group_members",      "notes",
                                                         "activities",         "exceptions",
                                                         "removed_activities", "further_contacts",
-                                                        "toolbar_commands",   "toolbar_places"};
+                                                        "toolbar_commands",   "toolbar_places",
+                                                        "imported_records",   "temporary_instances"};
     return names;
 }
 
@@ -245,6 +273,8 @@ std::string probe(std::string_view table) { return join({"SELECT 1 FROM ", table
 
 std::string_view create_tables() { return tables_of_version_1; }
 std::string_view change_to_version_2() { return changes_of_version_2; }
+std::string_view change_to_version_3() { return changes_of_version_3; }
+std::string_view change_to_version_4() { return changes_of_version_4; }
 
 std::string_view contacts() {
     static const std::string text =
@@ -276,8 +306,10 @@ std::string_view update_contact() {
     return text;
 }
 
-std::string activities(const ActivityQuery& query) {
-    std::string text = join({"SELECT ", activity_columns, " FROM activities WHERE 1 = 1"});
+namespace {
+
+std::string from_activities(const ActivityQuery& query) {
+    std::string text = " FROM activities WHERE 1 = 1";
     if (query.from)
         text += " AND starts_at >= ?";
     if (query.to)
@@ -288,12 +320,28 @@ std::string activities(const ActivityQuery& query) {
         text += " AND priority <> " + std::to_string(static_cast<int>(priority));
     if (query.without_cleared)
         text += " AND cleared = 0";
-    if (query.user)
-        text += " AND scheduled_for = ?";
+    if (!query.users.empty()) {
+        text += " AND scheduled_for IN (?";
+        for (std::size_t i = 1; i < query.users.size(); ++i)
+            text += ", ?";
+        text += ")";
+    }
     if (query.contact)
         text += " AND (contact = ? OR id IN (SELECT activity FROM further_contacts WHERE contact = ?))";
-    return text + " ORDER BY starts_at, id";
+    return text;
 }
+
+} // namespace
+
+std::string activities(const ActivityQuery& query) {
+    return join({"SELECT ", activity_columns, from_activities(query), " ORDER BY starts_at, id"});
+}
+
+std::string activities(const ActivityQuery& query, int skip, int most) {
+    return activities(query) + " LIMIT " + std::to_string(most) + " OFFSET " + std::to_string(skip);
+}
+
+std::string count_activities(const ActivityQuery& query) { return "SELECT count(*)" + from_activities(query); }
 
 std::string_view activity() {
     static const std::string text = join({"SELECT ", activity_columns, " FROM activities WHERE id = ?"});

@@ -17,6 +17,8 @@ inline constexpr std::string_view set_up = "PRAGMA foreign_keys = ON;"
                                            "PRAGMA cell_size_check = ON;"
                                            "PRAGMA cache_size = -32000;";
 inline constexpr std::string_view write_ahead = "PRAGMA journal_mode = WAL";
+// For a file that nobody else knows of yet.
+inline constexpr std::string_view without_journal = "PRAGMA journal_mode = OFF";
 inline constexpr std::string_view application_id = "PRAGMA application_id";
 inline constexpr std::string_view schema_version = "PRAGMA user_version";
 inline constexpr std::string_view data_version = "PRAGMA data_version";
@@ -26,6 +28,8 @@ const std::vector<std::string_view>& tables();
 std::string probe(std::string_view table);
 std::string_view create_tables(); // those of version 1
 std::string_view change_to_version_2();
+std::string_view change_to_version_3();
+std::string_view change_to_version_4();
 
 inline constexpr std::string_view begin = "BEGIN IMMEDIATE";
 inline constexpr std::string_view begin_reading = "BEGIN";
@@ -68,7 +72,10 @@ inline constexpr std::string_view add_note =
 
 // Activities, whole: the order of the columns in `activities`, `activity`, `add_activity`, `update_activity`
 // (which ends with the id and the revision as read).
-std::string activities(const ActivityQuery& query); // its values are parameters: from, to, user, contact twice
+// The values of a query are parameters: from, to, users, contact twice.
+std::string activities(const ActivityQuery& query);
+std::string activities(const ActivityQuery& query, int skip, int most);
+std::string count_activities(const ActivityQuery& query); // one number
 std::string_view activity();
 std::string_view add_activity();
 std::string_view update_activity();
@@ -110,6 +117,15 @@ inline constexpr std::string_view foreign_ids =
 inline constexpr std::string_view details = "SELECT details FROM activities WHERE id = ?";
 inline constexpr std::string_view first_contact = "SELECT contact FROM activities WHERE id = ?";
 
+inline constexpr std::string_view imported_records = // kind, user, uid
+    "SELECT occurrence, record, told, kept FROM imported_records WHERE kind = ? AND scheduled_for = ? AND uid = ?"
+    " ORDER BY occurrence";
+inline constexpr std::string_view add_imported_record =
+    "INSERT INTO imported_records (kind, scheduled_for, uid, occurrence, record, told, kept)"
+    " VALUES (?, ?, ?, ?, ?, ?, ?)";
+inline constexpr std::string_view remove_imported_record =
+    "DELETE FROM imported_records WHERE kind = ? AND scheduled_for = ? AND uid = ? AND occurrence = ?";
+
 inline constexpr std::string_view commands =
     "SELECT name, program, folder, title, caption, icon, large_icon, flag FROM toolbar_commands ORDER BY name";
 inline constexpr std::string_view commands_at =
@@ -127,5 +143,14 @@ inline constexpr std::string_view place_command =
     "INSERT INTO toolbar_places (command, place, view) VALUES (?, ?, ?) ON CONFLICT DO NOTHING";
 inline constexpr std::string_view displace_command =
     "DELETE FROM toolbar_places WHERE command = ? AND place = ? AND view = ?";
+
+inline constexpr std::string_view instances =
+    "SELECT instance, series, day, owner, settled_revision FROM temporary_instances ORDER BY instance";
+inline constexpr std::string_view remember_instance =
+    "INSERT INTO temporary_instances (instance, series, day, owner) VALUES (?, ?, ?, ?)";
+inline constexpr std::string_view settle_instance =
+    "UPDATE temporary_instances SET settled_revision = (SELECT revision FROM activities WHERE id = instance)"
+    " WHERE instance = ?";
+inline constexpr std::string_view forget_instance = "DELETE FROM temporary_instances WHERE instance = ?";
 
 } // namespace store::sql

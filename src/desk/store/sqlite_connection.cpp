@@ -4,7 +4,9 @@
 
 #include <sqlite3.h>
 
+#include <algorithm>
 #include <chrono>
+#include <limits>
 #include <thread>
 
 namespace store {
@@ -100,6 +102,11 @@ bool Rows::is_null(int column) const {
 
 std::int64_t Rows::number(int column) const { return sqlite3_column_int64(use_.prepared->statement, column); }
 
+int Rows::small_number(int column) const {
+    using Limits = std::numeric_limits<int>;
+    return static_cast<int>(std::clamp<std::int64_t>(number(column), Limits::min(), Limits::max()));
+}
+
 std::string_view Rows::view(int column) const {
     const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(use_.prepared->statement, column));
     const auto length = static_cast<std::size_t>(sqlite3_column_bytes(use_.prepared->statement, column));
@@ -150,6 +157,31 @@ void SqliteConnection::Closer::operator()(sqlite3* database) const { sqlite3_clo
 bool SqliteConnection::is_read_only() const { return sqlite3_db_readonly(database_.get(), "main") == 1; }
 
 bool SqliteConnection::in_transaction() const { return sqlite3_get_autocommit(database_.get()) == 0; }
+
+bool SqliteConnection::has_moved() const {
+    int moved = 0;
+    sqlite3_file_control(database_.get(), "main", SQLITE_FCNTL_HAS_MOVED, &moved);
+    return moved != 0;
+}
+
+bool SqliteConnection::copy_to(SqliteConnection& target, const Progress& progress) {
+    constexpr int pages_at_once = 1024;
+    const auto finish = [](sqlite3_backup* backup) { sqlite3_backup_finish(backup); };
+    const std::unique_ptr<sqlite3_backup, decltype(finish)> backup(
+        sqlite3_backup_init(target.database_.get(), "main", database_.get(), "main"), finish);
+    if (!backup)
+        target.fail(sqlite3_errcode(target.database_.get()));
+    while (true) {
+        const int result = sqlite3_backup_step(backup.get(), pages_at_once);
+        if (result != SQLITE_OK && result != SQLITE_DONE)
+            target.fail(result);
+        const int pages = sqlite3_backup_pagecount(backup.get());
+        if (!progress(pages - sqlite3_backup_remaining(backup.get()), pages))
+            return false;
+        if (result == SQLITE_DONE)
+            return true;
+    }
+}
 
 std::int64_t SqliteConnection::changed_rows() const { return sqlite3_changes64(database_.get()); }
 

@@ -2,6 +2,7 @@
 
 #include <concepts>
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -41,7 +42,7 @@ public:
     bool step(); // to the next row; false after the last
     bool is_null(int column) const;
     std::int64_t number(int column) const; // 0 for NULL
-    int small_number(int column) const { return static_cast<int>(number(column)); }
+    int small_number(int column) const;    // the nearest int
     bool flag(int column) const { return number(column) != 0; }
     std::string_view view(int column) const; // valid until the next step
     std::string text(int column) const { return std::string(view(column)); }
@@ -84,6 +85,8 @@ public:
     const std::string& path() const { return path_; }
     bool is_read_only() const;
     bool in_transaction() const;
+    // Whether the file that is open no longer is the one at the path: it was moved, deleted or replaced.
+    bool has_moved() const;
 
     void execute(const std::string& script); // statements without parameters and results
     template <typename... Arguments>
@@ -96,6 +99,10 @@ public:
     }
     std::int64_t changed_rows() const; // by the last write
     [[noreturn]] void fail(int result_code) const;
+    // Makes the database that this one holds the content of another, which is empty. After each piece of the work
+    // it tells how much of it is done, in any unit; false ends it there. True when all of it was copied.
+    using Progress = std::function<bool(int done, int all)>;
+    bool copy_to(SqliteConnection& target, const Progress& progress);
 
 private:
     std::shared_ptr<Prepared> prepared(std::string_view sql);

@@ -2,9 +2,11 @@
 
 #include "desk/store/activity_reading.h"
 #include "desk/store/activity_records.h"
+#include "desk/store/imported_records.h"
 #include "desk/store/people_records.h"
 #include "desk/store/sqlite_connection.h"
 #include "desk/store/store.h"
+#include "desk/store/temporary_instances.h"
 #include "desk/store/toolbar_commands.h"
 #include "desk/store/transactions.h"
 
@@ -36,6 +38,10 @@ public:
     std::string add(const Note& note) override { return people_.add(note); }
 
     std::vector<Activity> activities(const ActivityQuery& query) override { return activities_.activities(query); }
+    std::vector<Activity> activities(const ActivityQuery& query, int skip, int most) override {
+        return activities_.activities(query, skip, most);
+    }
+    int count(const ActivityQuery& query) override { return activities_.count(query); }
     std::optional<Activity> activity(const std::string& id) override { return activities_.activity(id); }
     std::string add(const Activity& activity) override { return activities_.add(activity); }
     std::int64_t update(const Activity& activity) override { return activities_.update(activity); }
@@ -49,6 +55,10 @@ public:
 
     ActivityReading& reading() override { return *reading_; }
     ToolbarCommands& toolbar_commands() override { return *toolbar_commands_; }
+    TemporaryInstances& temporary_instances() override { return *temporary_instances_; }
+    bool save_copy(const std::string& path, const Progress& progress) override;
+    ImportedRecords& imported_records() override { return *imported_records_; }
+    std::string identity() override;
 
 private:
     std::unique_ptr<SqliteConnection> connection_;
@@ -58,9 +68,13 @@ private:
     ActivityRecords activities_{*connection_, transactions_, clock_};
     std::unique_ptr<ActivityReading> reading_;
     std::unique_ptr<ToolbarCommands> toolbar_commands_;
+    std::unique_ptr<TemporaryInstances> temporary_instances_;
+    std::unique_ptr<ImportedRecords> imported_records_;
 };
 
 std::unique_ptr<ActivityReading> make_activity_reading(SqliteConnection& connection);
 std::unique_ptr<ToolbarCommands> make_toolbar_commands(SqliteConnection& connection, Store& store);
+std::unique_ptr<TemporaryInstances> make_temporary_instances(SqliteConnection& connection, Store& store);
+std::unique_ptr<ImportedRecords> make_imported_records(SqliteConnection& connection, Store& store);
 
 } // namespace store

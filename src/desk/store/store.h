@@ -12,7 +12,9 @@
 namespace store {
 
 class ActivityReading;
+class ImportedRecords;
 class ToolbarCommands;
+class TemporaryInstances;
 
 // Tells the present moment. The store stamps each changed activity with it.
 using Clock = std::function<DateTime()>;
@@ -27,13 +29,15 @@ struct ActivityQuery {
     std::set<Priority> without_priorities{};
     bool without_cleared = false;
     std::optional<std::string> contact{}; // that this contact takes part in
-    std::optional<std::string> user{};
+    std::set<std::string> users{};        // for one of these; empty for everybody's
 };
 
 // A contact manager's database: one file, shared by any number of processes, each with a Store of its own. It is
 // used by one thread. Failures are values::Failure with 440 and a sentence for the user: the file is missing, is
 // no database, comes from a newer version, can't be written, is damaged, or stays locked for over four seconds.
 // A record that names a contact, a user or a group that there is not can't be stored either.
+//
+// Once the file isn't the one at its path any more, because it was moved, deleted or replaced, nothing is written.
 //
 // Each writing member is one durable transaction: when it returns, a crash of the machine doesn't undo it; when
 // it fails, it has changed nothing. Ids are 12 characters of plain ASCII, of which the last can be a blank; a
@@ -75,6 +79,9 @@ public:
     virtual std::string add(const Note& note) = 0;
 
     virtual std::vector<Activity> activities(const ActivityQuery& query) = 0;
+    // At most so many of them, after the first so many.
+    virtual std::vector<Activity> activities(const ActivityQuery& query, int skip, int most) = 0;
+    virtual int count(const ActivityQuery& query) = 0;
     virtual std::optional<Activity> activity(const std::string& id) = 0;
     virtual std::string add(const Activity& activity) = 0;
     // Stores the record when nobody changed it since it was read (its revision tells) and gives its new
@@ -86,9 +93,22 @@ public:
 
     virtual ActivityReading& reading() = 0;          // for those who keep what they have read (activity_reading.h)
     virtual ToolbarCommands& toolbar_commands() = 0; // buttons of other programs (toolbar_commands.h)
+    virtual TemporaryInstances&
+    temporary_instances() = 0;                       // of occurrences that are edited (temporary_instances.h)
+    virtual ImportedRecords& imported_records() = 0; // what came from files (imported_records.h)
+
+    // 16 hexadecimal digits, made by chance with the database: what it exports is told by them from what others
+    // do.
+    virtual std::string identity() = 0;
 
     // Several writes as one transaction: all of them or, when the block throws, none. Blocks may contain blocks.
     virtual void together(const std::function<void()>& block) = 0;
+
+    // Writes all that the database holds to another file, which it replaces; also when its own has been deleted.
+    // After each piece it tells how much is done, in any unit; false stops it. True when the copy stands;
+    // otherwise what was at the path stays.
+    using Progress = std::function<bool(int done, int all)>;
+    virtual bool save_copy(const std::string& path, const Progress& progress) = 0;
 };
 
 } // namespace store

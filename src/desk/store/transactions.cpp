@@ -5,6 +5,7 @@
 #include "desk/store/sql.h"
 
 #include <algorithm>
+#include <limits>
 #include <utility>
 
 namespace store {
@@ -14,6 +15,8 @@ namespace {
 // Ids of our own making: a letter for the kind of record and 11 digits. The letter stands nowhere else, so that
 // ids joined to one text can be told apart.
 constexpr std::size_t digits_in_id = values::id_length - 1;
+
+constexpr std::int64_t last_number = 99'999'999'999;
 
 std::string make_id(char letter, std::int64_t number) {
     const std::string digits = std::to_string(number);
@@ -28,10 +31,16 @@ std::int64_t number_of(const std::string& id, char letter) {
     return std::stoll(id.substr(1));
 }
 
+constexpr const char* revisions = "revision";
+
+values::Failure failure(const std::string& sentence) {
+    return values::Failure(values::FailureNumber::automation, sentence);
+}
+
 void require_valid_id(const std::string& id) {
     const bool plain = std::all_of(id.begin(), id.end(), [](char c) { return c >= ' ' && c <= '~'; });
     if (id.size() != values::id_length || !plain || id.find_first_not_of(' ') == id.npos)
-        throw values::Failure(values::FailureNumber::automation, "The id \"" + id + "\" hasn't 12 characters.");
+        throw failure("The id \"" + id + "\" hasn't 12 characters.");
 }
 
 } // namespace
@@ -51,6 +60,12 @@ void Transactions::begin() {
     end_reading();
     connection_.run(open_blocks_ == 0 ? sql::begin : sql::begin_inner);
     ++open_blocks_;
+    if (!connection_.has_moved())
+        return;
+    roll_back();
+    throw failure("The database \"" + connection_.path() +
+                  "\" was moved, deleted or replaced while it was open, so nothing was stored. In the contact "
+                  "manager, File > Save a Copy keeps what is open.");
 }
 
 void Transactions::commit() {
@@ -68,7 +83,7 @@ void Transactions::commit() {
     }
     if (--open_blocks_ > 0)
         return;
-    if (const auto used = counters_.find("revision"); used != counters_.end())
+    if (const auto used = counters_.find(revisions); used != counters_.end())
         known_revision_ = used->second;
     counters_.clear();
 }
@@ -100,13 +115,13 @@ void Transactions::end_reading() {
 }
 
 std::int64_t Transactions::revision() {
-    if (const auto used = counters_.find("revision"); used != counters_.end())
+    if (const auto used = counters_.find(revisions); used != counters_.end())
         return used->second;
     Rows version = connection_.query(sql::data_version);
     version.step();
     if (!known_revision_ || version.number(0) != known_data_version_) {
         known_data_version_ = version.number(0);
-        Rows row = connection_.query(sql::counter, "revision");
+        Rows row = connection_.query(sql::counter, revisions);
         row.step();
         known_revision_ = row.number(0);
     }
@@ -116,9 +131,7 @@ std::int64_t Transactions::revision() {
 std::int64_t& Transactions::counter(const std::string& name) {
     // A full disk makes the engine roll everything back by itself; what came after would stand alone.
     if (!connection_.in_transaction())
-        throw values::Failure(values::FailureNumber::automation,
-                              "The database \"" + connection_.path() +
-                                  "\" gave the changes up that belong together.");
+        throw failure("The database \"" + connection_.path() + "\" gave the changes up that belong together.");
     const auto [place, is_new] = counters_.try_emplace(name, 0);
     if (is_new) {
         Rows row = connection_.query(sql::counter, name);
@@ -128,9 +141,19 @@ std::int64_t& Transactions::counter(const std::string& name) {
     return place->second;
 }
 
+std::int64_t Transactions::next(const std::string& counter_name, std::int64_t last) {
+    std::int64_t& number = counter(counter_name);
+    if (number < 0 || number >= last)
+        throw failure("The database \"" + connection_.path() + "\" can't take any more: its counter of " +
+                      counter_name + " stands at " + std::to_string(number) + ".");
+    return ++number;
+}
+
+std::int64_t Transactions::next_revision() { return next(revisions, std::numeric_limits<std::int64_t>::max()); }
+
 std::string Transactions::id_for(const std::string& own, const std::string& counter_name, char letter) {
     if (own.empty())
-        return make_id(letter, ++counter(counter_name));
+        return make_id(letter, next(counter_name, last_number));
     const std::string id = values::whole_id(own);
     require_valid_id(id);
     std::int64_t& last = counter(counter_name);

@@ -23,7 +23,8 @@ public:
     std::int64_t revision();
 
     // Inside a transaction alone. An id is the record's own where it brings one, else the next of its kind.
-    std::int64_t next_revision() { return ++counter("revision"); }
+    // A counter at its end fails with 440.
+    std::int64_t next_revision();
     std::string id_for(const std::string& own, const std::string& counter_name, char letter);
 
 private:
@@ -31,6 +32,7 @@ private:
     void commit(); // rolls back when it fails
     void roll_back();
     std::int64_t& counter(const std::string& name);
+    std::int64_t next(const std::string& counter_name, std::int64_t last);
 
     SqliteConnection& connection_;
     bool is_reading_ = false; // between begin_reading and its end

@@ -35,6 +35,8 @@ public:
     std::function<void()> on_awaited_dialog; // it has opened
 
     void close_dialog(); // as by Cancel; without one nothing happens
+    // The dialog in which something may be typed; none while there is no such one.
+    QDialog* open_dialog() const { return dialog_; }
 
 private:
     void require_idle() const;

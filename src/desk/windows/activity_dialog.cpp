@@ -6,6 +6,9 @@
 #include "desk/windows/conversions.h"
 #include "desk/windows/rows.h"
 #include "ui_activity_dialog.h"
+#include "widgets/date_field.h"
+
+#include <algorithm>
 
 namespace windows {
 namespace {
@@ -20,6 +23,11 @@ constexpr std::pair<ActivityDialog::Tab, const char*> tab_names[] = {
     {ActivityDialog::Tab::general, "General"},
     {ActivityDialog::Tab::details, "Details"},
     {ActivityDialog::Tab::recurring, "Recurring"}};
+
+// What the box shows unless it was changed is as near to the number as it could come.
+int typed_number(const QSpinBox* box, int number) {
+    return box->value() == std::clamp(number, box->minimum(), box->maximum()) ? number : box->value();
+}
 
 std::string chosen(const QComboBox* box) { return stored(box->currentData().toString()); }
 
@@ -60,6 +68,7 @@ void ActivityDialog::show_activity() {
     ui_->time_edit->set_time(activity_.start.value_or(store::DateTime()));
     ui_->duration_box->setValue(activity_.duration);
     ui_->contact_chooser->show_contacts(activity_.contacts, database_.directory());
+    contacts_shown_ = ui_->contact_chooser->contacts();
     ui_->regarding_edit->setText(shown(activity_.regarding));
     ui_->colour_box->set_colour(activity_.colour);
     choose(ui_->user_box, activity_.user, tr("Nobody"));
@@ -75,7 +84,7 @@ void ActivityDialog::show_activity() {
 
 void ActivityDialog::connect_parts() {
     connect(ui_->alarm_box, &QCheckBox::toggled, ui_->alarm_lead_box, &QWidget::setEnabled);
-    connect(ui_->date_edit, &DateField::date_changed, this,
+    connect(ui_->date_edit, &widgets::DateField::date_changed, this,
             [this] { ui_->recurring_tab->set_start(*ui_->date_edit->known_date()); });
 }
 
@@ -129,31 +138,40 @@ store::Activity ActivityDialog::typed() const {
     result.type = static_cast<store::ActivityType>(ui_->type_box->currentData().toInt());
     result.priority = static_cast<store::Priority>(ui_->priority_box->currentData().toInt());
     result.start = typed_start();
-    result.duration = ui_->duration_box->value();
+    result.duration = typed_number(ui_->duration_box, activity_.duration);
     const bool has_moved = result.start != activity_.start || result.duration != activity_.duration;
-    if (result.start && (has_moved || activity_.id.empty()))
+    if (result.start && (has_moved || is_new()))
         result.end = result.start->plus_minutes(result.duration);
-    result.contacts = ui_->contact_chooser->contacts();
-    result.regarding = stored(ui_->regarding_edit->text());
+    if (ui_->contact_chooser->contacts() != contacts_shown_)
+        result.contacts = ui_->contact_chooser->contacts();
+    if (is_new() || ui_->regarding_edit->isModified())
+        result.regarding = stored(ui_->regarding_edit->text());
     result.colour = ui_->colour_box->colour();
     result.user = chosen(ui_->user_box);
     result.group = chosen(ui_->group_box);
     result.is_private = ui_->private_box->isChecked();
     result.alarm = ui_->alarm_box->isChecked();
-    result.alarm_lead = ui_->alarm_lead_box->value();
-    result.details = stored(ui_->details_edit->toPlainText());
+    result.alarm_lead = typed_number(ui_->alarm_lead_box, activity_.alarm_lead);
+    if (ui_->details_edit->document()->isModified())
+        result.details = stored(ui_->details_edit->toPlainText());
     result.recurrence = ui_->recurring_tab->rule();
     result.exceptions = ui_->recurring_tab->exceptions();
-    const bool may_be_alone = !activity_.id.empty() && activity_.contacts.empty();
-    model::require(may_be_alone || !result.contacts.empty(), "Choose at least one contact for the activity.");
-    model::require(result.start || result.recurrence.kind == store::RecurrenceKind::none,
-                   "An activity that repeats needs a date.");
     return result;
+}
+
+void ActivityDialog::require_complete(const store::Activity& activity) const {
+    const bool may_be_alone = !is_new() && activity_.contacts.empty();
+    model::require(may_be_alone || !activity.contacts.empty(), "Choose at least one contact for the activity.");
+    model::require(activity.start || activity.recurrence.kind == store::RecurrenceKind::none,
+                   "An activity that repeats needs a date.");
 }
 
 void ActivityDialog::store_typed() {
     const store::Activity activity = typed();
-    if (activity.id.empty())
+    if (!is_new() && activity == activity_)
+        return;
+    require_complete(activity);
+    if (is_new())
         database_.store().add(activity);
     else
         database_.store().update(activity);

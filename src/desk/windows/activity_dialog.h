@@ -6,6 +6,9 @@
 #include <QDialog>
 
 #include <memory>
+#include <optional>
+#include <string>
+#include <vector>
 
 namespace Ui {
 class ActivityDialog;
@@ -13,8 +16,9 @@ class ActivityDialog;
 
 namespace windows {
 
-// Schedules a new activity, one without an id, or edits a stored one. OK stores it; where that fails the dialog
-// stays open with what was typed.
+// Schedules a new activity, one without an id, or edits a stored one. OK stores it, unless it is stored already as
+// it stands; where that fails the dialog stays open with what was typed. What nobody typed into stays as it was
+// stored, also where a field can't show all of it.
 class ActivityDialog : public QDialog, public model::ActivityDialog {
     Q_OBJECT
 
@@ -38,11 +42,13 @@ private:
     void show_date(values::DateTime date);
     // The record as it stands in the dialog. Fails with 440 when something is missing or contradicts itself.
     store::Activity typed() const;
+    void require_complete(const store::Activity& activity) const;
     std::optional<store::DateTime> typed_start() const;
     void store_typed();
 
     OpenDatabase& database_;
     const store::Activity activity_;
+    std::vector<std::string> contacts_shown_; // at first
     std::unique_ptr<Ui::ActivityDialog> ui_;
 };
 

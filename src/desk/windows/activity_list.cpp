@@ -5,16 +5,21 @@
 #include "desk/windows/conversions.h"
 #include "desk/windows/rows.h"
 #include "ui_activity_list.h"
+#include "widgets/date_field.h"
 
 #include <QMenu>
 
 #include <algorithm>
+#include <iterator>
+#include <memory>
 #include <optional>
 #include <tuple>
 #include <utility>
 
 namespace windows {
 namespace {
+
+constexpr int rows_at_once = 500;
 
 // The button tells when its menu keeps something out.
 template <typename Choices>
@@ -40,9 +45,9 @@ ActivityList::ActivityList(OpenDatabase& database, Scope scope, QWidget* parent)
     : QWidget(parent), database_(database), scope_(scope), ui_(std::make_unique<Ui::ActivityList>()) {
     ui_->setupUi(this);
     ui_->activity_table->set_columns(activity_columns(), date_column);
-    for (DateField* field : {ui_->from_edit, ui_->to_edit}) {
+    for (widgets::DateField* field : {ui_->from_edit, ui_->to_edit}) {
         field->set_locale(database.locale());
-        connect(field, &DateField::date_changed, this, &ActivityList::take_filter);
+        connect(field, &widgets::DateField::date_changed, this, &ActivityList::take_filter);
     }
     filter_.from = filter_.to = database.today();
     build_choices();
@@ -154,13 +159,42 @@ void ActivityList::showEvent(QShowEvent* event) {
 
 void ActivityList::reload() {
     is_stale_ = false;
+    const int seen = static_cast<int>(activities_.size());
     activities_.clear();
     const bool is_anybody = scope_ == Scope::everybody || !contact_.empty();
-    if (database_.is_open() && is_anybody)
-        activities_ = model::filtered(database_.store(), filter_, database_.today(),
-                                      scope_ == Scope::contact ? std::optional(contact_) : std::nullopt);
-    ui_->activity_table->show_rows(activity_rows(activities_, database_.directory(), database_.locale()));
-    ui_->count_label->setText(row_count() == 1 ? tr("1 activity") : tr("%1 activities").arg(row_count()));
+    if (!database_.is_open() || !is_anybody) {
+        ui_->activity_table->show_rows({});
+        show_count(0);
+        return;
+    }
+    const auto found = std::make_shared<model::FilteredActivities>(
+        database_.store(), filter_, database_.today(),
+        scope_ == Scope::contact ? std::optional(contact_) : std::nullopt);
+    if (scope_ == Scope::contact)
+        ui_->activity_table->show_rows(rows_of(found->next(found->count())));
+    else
+        ui_->activity_table->show_rows(rows_of(found->next(std::max(seen, rows_at_once))), further_rows(found));
+    show_count(found->count());
+}
+
+FurtherRows ActivityList::further_rows(const std::shared_ptr<model::FilteredActivities>& found) {
+    const std::weak_ptr<store::Store> open = database_.kept_store();
+    return [this, found, open] {
+        std::vector<Row> rows;
+        if (const auto store = open.lock())
+            attempt(window(), [&] { rows = rows_of(found->next(rows_at_once)); });
+        return rows;
+    };
+}
+
+std::vector<Row> ActivityList::rows_of(std::vector<store::Activity> activities) {
+    auto rows = activity_rows(activities, database_.directory(), database_.locale());
+    std::ranges::move(activities, std::back_inserter(activities_));
+    return rows;
+}
+
+void ActivityList::show_count(int count) {
+    ui_->count_label->setText(count == 1 ? tr("1 activity") : tr("%1 activities").arg(count));
 }
 
 int ActivityList::row_count() const { return ui_->activity_table->row_count(); }

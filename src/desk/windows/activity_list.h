@@ -2,6 +2,7 @@
 
 #include "desk/model/activity_filter.h"
 #include "desk/windows/open_database.h"
+#include "desk/windows/record_model.h"
 
 #include <QWidget>
 
@@ -57,6 +58,9 @@ private:
     };
 
     void reload();
+    FurtherRows further_rows(const std::shared_ptr<model::FilteredActivities>& found);
+    void show_count(int count);
+    std::vector<Row> rows_of(std::vector<store::Activity> activities); // keeps them
     void reload_when_seen();
     void show_filter();
     void show_users();
@@ -71,8 +75,8 @@ private:
     std::vector<Choice<store::Priority>> priorities_;
     model::ActivityFilter filter_;
     std::string contact_;
-    bool is_stale_ = false; // the rows are older than the database
-    std::vector<store::Activity> activities_;
+    bool is_stale_ = false;                   // the rows are older than the database
+    std::vector<store::Activity> activities_; // of the rows that were asked for
 };
 
 } // namespace windows

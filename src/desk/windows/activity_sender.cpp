@@ -1,7 +1,7 @@
 #include "desk/windows/activity_sender.h"
 
 #include "desk/export/calendar_writer.h"
-#include "desk/model/refusal.h"
+#include "desk/export/whole_file.h"
 #include "desk/store/contact_fields.h"
 #include "desk/windows/boxes.h"
 #include "desk/windows/conversions.h"
@@ -9,7 +9,6 @@
 
 #include <QFileDialog>
 #include <QMessageBox>
-#include <QSaveFile>
 
 #include <utility>
 
@@ -17,12 +16,6 @@ namespace windows {
 namespace {
 
 namespace field = store::contact_field;
-
-void write(const QString& path, const QByteArray& bytes) {
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
-        model::refuse("The file can't be written: " + stored(path) + ": " + stored(file.errorString()));
-}
 
 } // namespace
 
@@ -54,8 +47,9 @@ Message ActivitySender::message_of(const store::Activity& activity) const {
     }
     message.subject = QStringLiteral("%1: %2").arg(type_name(activity.type), shown(activity.regarding));
     message.attachment_name = type_name(activity.type).toLower() + ".ics";
-    message.attachment = QByteArray::fromStdString(
-        exporting::calendar_text(activity, participants, QDateTime::currentSecsSinceEpoch()));
+    message.attachment = QByteArray::fromStdString(exporting::calendar_text(
+        activity, participants,
+        {.identity = database_.store().identity(), .stamp = QDateTime::currentSecsSinceEpoch()}));
     return message;
 }
 
@@ -82,7 +76,10 @@ void ActivitySender::ask_for_file(const Message& message, std::function<void()> 
     dialog->selectFile(message.attachment_name);
     open(dialog, [=, this, finished = std::move(finished)](int result) {
         if (result == QDialog::Accepted)
-            attempt(&window_, [&] { write(dialog->selectedFiles().value(0), message.attachment); });
+            attempt(&window_, [&] {
+                exporting::write_whole_file(stored(dialog->selectedFiles().value(0)),
+                                            message.attachment.toStdString());
+            });
         finished();
     });
 }

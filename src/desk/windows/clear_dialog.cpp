@@ -57,7 +57,8 @@ void ClearDialog::show_activity() {
     const QString result = shown(activity_.result);
     if (!result.isEmpty() && ui_->result_box->findText(result) < 0)
         ui_->result_box->insertItem(0, result);
-    ui_->result_box->setCurrentIndex(result.isEmpty() ? 0 : ui_->result_box->findText(result));
+    ui_->result_box->setCurrentIndex(result.isEmpty() ? (activity_.cleared ? -1 : 0)
+                                                      : ui_->result_box->findText(result));
     ui_->regarding_edit->setText(shown(activity_.regarding));
     ui_->details_edit->setPlainText(shown(activity_.details));
 }
@@ -66,9 +67,16 @@ store::Activity ClearDialog::typed() const {
     store::Activity result = activity_;
     result.cleared = ui_->cleared_box->isChecked();
     result.result = result.cleared ? stored(ui_->result_box->currentText()) : std::string();
-    result.regarding = stored(ui_->regarding_edit->text());
-    result.details = stored(ui_->details_edit->toPlainText());
+    if (ui_->regarding_edit->isModified())
+        result.regarding = stored(ui_->regarding_edit->text());
+    if (ui_->details_edit->document()->isModified())
+        result.details = stored(ui_->details_edit->toPlainText());
     return result;
+}
+
+void ClearDialog::store_typed() {
+    if (const store::Activity activity = typed(); activity != activity_)
+        database_.store().update(activity);
 }
 
 bool ClearDialog::may_clear() {
@@ -80,7 +88,7 @@ bool ClearDialog::may_clear() {
 }
 
 void ClearDialog::accept() {
-    if (may_clear() && attempt(this, [this] { database_.store().update(typed()); }))
+    if (may_clear() && attempt(this, [this] { store_typed(); }))
         QDialog::accept();
 }
 

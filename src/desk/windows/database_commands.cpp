@@ -25,9 +25,6 @@ std::string absolute(const QString& path) { return QFileInfo(path).absoluteFileP
 
 } // namespace
 
-DatabaseCommands::DatabaseCommands(OpenDatabase& database, Lookup& lookup, QWidget& window, Import import)
-    : database_(database), lookup_(lookup), window_(window), import_(std::move(import)) {}
-
 void DatabaseCommands::open(const std::string& path) {
     if (leave())
         attempt(&window_, [&] { database_.open(path); });
@@ -75,25 +72,6 @@ void DatabaseCommands::create_sample() {
     attempt(&window_, [&] {
         windows::create_sample(absolute(file), database_.today());
         database_.open(absolute(file));
-    });
-}
-
-void DatabaseCommands::import_file() {
-    const QString file = QFileDialog::getOpenFileName(
-        &window_, tr("Import"), QString(), tr("Calendars and address cards (*.ics *.vcf);;All files (*)"));
-    if (file.isEmpty())
-        return;
-    attempt(&window_, [&] {
-        std::string result;
-        const std::string path = database_.path();
-        const bool is_done = run_long_task(&window_, tr("Importing"), [&](const Progress& progress) {
-            const auto store = store::Store::open(path); // a store is used by one thread
-            result = import_(*store, absolute(file), progress);
-        });
-        if (!is_done)
-            return;
-        database_.refresh();
-        tell(&window_, tr("Import"), shown(result));
     });
 }
 

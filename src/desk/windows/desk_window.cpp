@@ -5,6 +5,7 @@
 #include "desk/windows/contact_list.h"
 #include "desk/windows/contact_page.h"
 #include "desk/windows/conversions.h"
+#include "desk/windows/copy_command.h"
 #include "desk/windows/groups_view.h"
 #include "desk/windows/lookup_dialog.h"
 #include "desk/windows/rows.h"
@@ -13,6 +14,7 @@
 #include <QCloseEvent>
 #include <QFileInfo>
 #include <QMessageBox>
+#include <QPointer>
 
 #include <algorithm>
 #include <utility>
@@ -32,10 +34,10 @@ model::ActivityFilter today_and_later() {
 
 } // namespace
 
-DeskWindow::DeskWindow(OpenDatabase& database, Import import)
+DeskWindow::DeskWindow(OpenDatabase& database, Exchange exchange)
     : database_(database), ui_(std::make_unique<Ui::DeskWindow>()), lookup_(database),
-      activity_commands_(database, lookup_, *this),
-      database_commands_(database, lookup_, *this, std::move(import)), view_actions_(this),
+      activity_commands_(database, lookup_, *this), database_commands_(database, lookup_, *this),
+      exchange_commands_(database, *this, std::move(exchange)), view_actions_(this),
       count_label_(new QLabel(this)) {
     ui_->setupUi(this);
     setWindowIcon(picture("contact_desk"));
@@ -46,7 +48,14 @@ DeskWindow::DeskWindow(OpenDatabase& database, Import import)
     connect_schedule_menu();
     connect_view_menu();
     desk_ = std::make_unique<RunningDesk>(
-        database_, RunningDesk::Shown{.lookup = lookup_, .page = *contact_page_},
+        database_,
+        RunningDesk::Shown{.lookup = lookup_,
+                           .page = *contact_page_,
+                           .come_to_contacts =
+                               [this] {
+                                   show_view(contact_list_);
+                                   come_forward();
+                               }},
         RunningDesk::Commands{.by_number = commands_, .on_activities = activity_commands_});
     fill_commands();
     connect(&database_, &OpenDatabase::opened, this, [this] { show_view(contact_list_); });
@@ -109,9 +118,11 @@ void DeskWindow::connect_file_menu() {
     asking(ui_->file_new, &DatabaseCommands::create);
     asking(ui_->file_open, &DatabaseCommands::open_another);
     asking(ui_->file_close, &DatabaseCommands::close);
-    asking(ui_->file_import, &DatabaseCommands::import_file);
+    connect(ui_->file_save_copy, &QAction::triggered, this, [this] { save_copy(database_, *this); });
     asking(ui_->file_new_sample, &DatabaseCommands::create_sample);
     asking(ui_->file_add_user, &DatabaseCommands::add_user);
+    connect(ui_->file_import, &QAction::triggered, this, [this] { exchange_commands_.import_file(); });
+    connect(ui_->file_export, &QAction::triggered, this, [this] { exchange_commands_.export_file(); });
     connect(ui_->file_exit, &QAction::triggered, this, &QWidget::close);
     connect(ui_->open_button, &QPushButton::clicked, ui_->file_open, &QAction::trigger);
     connect(ui_->new_button, &QPushButton::clicked, ui_->file_new, &QAction::trigger);
@@ -247,13 +258,14 @@ void DeskWindow::show_state() {
         is_open
             ? tr("%1 of %2 contacts").arg(lookup_.contacts().size()).arg(database_.directory().contacts().size())
             : QString());
-    for (QAction* action : {ui_->file_close, ui_->contact_edit, ui_->contact_save, ui_->contact_previous,
-                            ui_->contact_next, ui_->lookup_all, ui_->lookup_by_name})
+    for (QAction* action : {ui_->file_close, ui_->file_save_copy, ui_->contact_edit, ui_->contact_save,
+                            ui_->contact_previous, ui_->contact_next, ui_->lookup_all, ui_->lookup_by_name})
         action->setEnabled(is_open);
     for (QAction* action :
          {ui_->file_add_user, ui_->contact_new, ui_->schedule_call, ui_->schedule_meeting, ui_->schedule_to_do})
         action->setEnabled(is_writable);
-    ui_->file_import->setEnabled(is_writable && database_commands_.can_import());
+    ui_->file_import->setEnabled(is_writable && exchange_commands_.can_import());
+    ui_->file_export->setEnabled(is_open && exchange_commands_.can_export());
     view_actions_.setEnabled(is_open);
     const QWidget* view = ui_->views->currentWidget();
     const bool is_list_shown = view == task_list_ || view == contact_page_;
@@ -279,6 +291,34 @@ void DeskWindow::about() {
                        tr("<b>Contact Desk %1</b><p>Contacts, groups and their activities, beside the Orvanta "
                           "calendar.</p>")
                            .arg(QApplication::applicationVersion()));
+}
+
+void DeskWindow::end(const std::function<void()>& stays) {
+    QDialog* const typed_in = activity_commands_.open_dialog();
+    QWidget* const modal = QApplication::activeModalWidget();
+    if (modal && modal != typed_in) {
+        // Whoever opened it goes on when it has closed, and is through by the next turn.
+        modal->close();
+        QMetaObject::invokeMethod(
+            this, [this, stays] { end(stays); }, Qt::QueuedConnection);
+        return;
+    }
+    const bool is_settled = !typed_in || settle(*typed_in);
+    if (!is_settled || !close())
+        stays();
+}
+
+bool DeskWindow::settle(QDialog& dialog) {
+    come_forward();
+    const QPointer<QDialog> open = &dialog;
+    const auto answer = QMessageBox::question(
+        &dialog, tr("Contact Desk"), tr("The contact desk was asked to end. Store what is typed in this dialog?"),
+        QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, QMessageBox::Save);
+    if (open && answer == QMessageBox::Save)
+        open->accept();
+    else if (open && answer == QMessageBox::Discard)
+        open->reject();
+    return !activity_commands_.is_under_way();
 }
 
 void DeskWindow::closeEvent(QCloseEvent* event) {

@@ -3,6 +3,7 @@
 #include "desk/windows/activity_commands.h"
 #include "desk/windows/command_table.h"
 #include "desk/windows/database_commands.h"
+#include "desk/windows/exchange_commands.h"
 #include "desk/windows/running_desk.h"
 
 #include <QActionGroup>
@@ -28,11 +29,16 @@ class DeskWindow : public QMainWindow {
     Q_OBJECT
 
 public:
-    DeskWindow(OpenDatabase& database, Import import);
+    DeskWindow(OpenDatabase& database, Exchange exchange);
     ~DeskWindow() override;
 
     // Opens a database. A failure shows its box, and what was open stays so.
     void open(const std::string& path) { database_commands_.open(path); }
+
+    // Closes the window for a program that was asked to end. What is typed in a dialog is stored or thrown away as
+    // the user says; other dialogs are cancelled. Calls `stays` when the user decides to stay, or it can't be
+    // stored.
+    void end(const std::function<void()>& stays);
 
     model::Desk& desk() { return *desk_; }
 
@@ -49,6 +55,7 @@ private:
     void on(QAction* action, std::function<void()> work); // with the box for failures
 
     void about();
+    bool settle(QDialog& dialog);
 
     void show_view(QWidget* view);
     void come_forward(); // before the other windows
@@ -62,6 +69,7 @@ private:
     Lookup lookup_;
     ActivityCommands activity_commands_;
     DatabaseCommands database_commands_;
+    ExchangeCommands exchange_commands_;
     CommandTable commands_;
     QActionGroup view_actions_;
     QTimer poll_;

@@ -82,7 +82,7 @@ void GroupsView::rename_group() {
     const QString name = QInputDialog::getText(this, tr("Rename Group"), tr("Name of the group:"),
                                                QLineEdit::Normal, shown(record->name))
                              .trimmed();
-    if (name.isEmpty())
+    if (name.isEmpty() || name == shown(record->name).trimmed())
         return;
     record->name = stored(name);
     database_.store().update(*record);

@@ -31,10 +31,12 @@ void OpenDatabase::close() {
     emit changed();
 }
 
-store::Store& OpenDatabase::store() const {
+store::Store& OpenDatabase::store() const { return *kept_store(); }
+
+std::shared_ptr<store::Store> OpenDatabase::kept_store() const {
     if (!store_)
         model::refuse("No database is open.");
-    return *store_;
+    return store_;
 }
 
 std::string OpenDatabase::path() const { return store_ ? store_->path() : std::string(); }

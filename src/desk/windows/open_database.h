@@ -27,6 +27,8 @@ public:
     bool is_open() const { return store_ != nullptr; }
     // Fails with 440 when no database is open.
     store::Store& store() const;
+    // For work during which events come in: it stays usable when the database is closed meanwhile. Fails likewise.
+    std::shared_ptr<store::Store> kept_store() const;
     std::string path() const; // empty when no database is open
     const model::Directory& directory() const { return directory_; }
 
@@ -47,7 +49,7 @@ private:
 
     const values::Locale& locale_;
     const store::Clock clock_;
-    std::unique_ptr<store::Store> store_;
+    std::shared_ptr<store::Store> store_;
     std::int64_t seen_ = 0;
     model::Directory directory_;
 };

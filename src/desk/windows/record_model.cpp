@@ -6,15 +6,37 @@
 #include <QColor>
 #include <QFont>
 
+#include <algorithm>
+#include <iterator>
+
 namespace windows {
 
 RecordModel::RecordModel(std::vector<Column> columns, QObject* parent)
     : QAbstractTableModel(parent), columns_(std::move(columns)) {}
 
-void RecordModel::show_rows(std::vector<Row> rows) {
+void RecordModel::show_rows(std::vector<Row> rows, FurtherRows further) {
     beginResetModel();
     rows_ = std::move(rows);
+    further_ = std::move(further);
     endResetModel();
+}
+
+bool RecordModel::canFetchMore(const QModelIndex& parent) const {
+    return !parent.isValid() && static_cast<bool>(further_);
+}
+
+void RecordModel::fetchMore(const QModelIndex& parent) {
+    if (!canFetchMore(parent))
+        return;
+    std::vector<Row> rows = further_();
+    if (rows.empty()) {
+        further_ = nullptr;
+        return;
+    }
+    const int first = rowCount();
+    beginInsertRows({}, first, first + static_cast<int>(rows.size()) - 1);
+    std::ranges::move(rows, std::back_inserter(rows_));
+    endInsertRows();
 }
 
 int RecordModel::rowCount(const QModelIndex& parent) const {

@@ -2,6 +2,7 @@
 
 #include "desk/windows/conversions.h"
 
+#include <QGuiApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QScrollBar>
@@ -52,13 +53,25 @@ void RecordTable::set_columns(std::vector<Column> columns, std::optional<int> so
     setModel(&sorted_);
     setSortingEnabled(true);
     sortByColumn(sorted_by.value_or(-1), Qt::AscendingOrder);
+    connect(horizontalHeader(), &QHeaderView::sortIndicatorChanged, this,
+            [this, own = sorted_by.value_or(-1)](int column, Qt::SortOrder order) {
+                if (column != own || order != Qt::AscendingOrder)
+                    ask_for_all_rows();
+            });
 }
 
-void RecordTable::show_rows(std::vector<Row> rows) {
+void RecordTable::ask_for_all_rows() {
+    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    while (model_->canFetchMore({}))
+        model_->fetchMore({});
+    QGuiApplication::restoreOverrideCursor();
+}
+
+void RecordTable::show_rows(std::vector<Row> rows, FurtherRows further) {
     const std::string kept = current_id();
     const int scrolled = verticalScrollBar()->value();
     is_replacing_ = true;
-    model_->show_rows(std::move(rows));
+    model_->show_rows(std::move(rows), std::move(further));
     select(kept);
     verticalScrollBar()->setValue(scrolled);
     is_replacing_ = false;

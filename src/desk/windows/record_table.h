@@ -21,7 +21,9 @@ public:
     // Called once, before the rows are shown. Sorts by the column of that number, from 0; without one the rows
     // keep their order.
     void set_columns(std::vector<Column> columns, std::optional<int> sorted_by = std::nullopt);
-    void show_rows(std::vector<Row> rows);
+    // Further rows are asked for as they come into sight, all of them when another order is wanted; they come in
+    // the order of the column that set_columns names.
+    void show_rows(std::vector<Row> rows, FurtherRows further = {});
 
     int row_count() const;
     std::string id_at(int row) const;              // as displayed; empty outside the rows
@@ -40,6 +42,7 @@ protected:
 
 private:
     void fit_columns();
+    void ask_for_all_rows();
 
     RecordModel* model_ = nullptr;
     QSortFilterProxyModel sorted_;

@@ -4,6 +4,7 @@
 #include "desk/windows/boxes.h"
 #include "desk/windows/conversions.h"
 #include "ui_recurrence_page.h"
+#include "widgets/date_field.h"
 
 #include <QGridLayout>
 
@@ -54,9 +55,10 @@ RecurrencePage::~RecurrencePage() = default;
 void RecurrencePage::show_rule(const store::Recurrence& rule, const std::vector<store::DateTime>& exceptions,
                                store::DateTime start, const values::Locale& locale) {
     build_ticks(locale);
+    given_ = {.rule = rule, .exceptions = exceptions, .start = start};
     start_ = start;
     locale_ = &locale;
-    for (DateField* field : {ui_->until_edit, ui_->exception_edit})
+    for (widgets::DateField* field : {ui_->until_edit, ui_->exception_edit})
         field->set_locale(locale);
     ui_->exception_edit->set_date(start);
     ui_->kind_box->setCurrentIndex(static_cast<int>(rule.kind));
@@ -70,6 +72,8 @@ void RecurrencePage::show_rule(const store::Recurrence& rule, const std::vector<
     tick(month_days_, rule.days_of_month);
     for (const store::DateTime exception : exceptions)
         exceptions_.insert(exception.date());
+    rule_shown_ = typed();
+    exceptions_shown_ = exceptions_;
     connect_parts();
     show_exceptions();
     show_kind();
@@ -157,6 +161,15 @@ void RecurrencePage::show_exceptions() {
 }
 
 store::Recurrence RecurrencePage::rule() const {
+    const store::Recurrence typed_rule = typed();
+    const bool is_untouched = typed_rule == rule_shown_;
+    if (is_untouched && start_ == given_.start)
+        return given_.rule;
+    require_dates(typed_rule);
+    return is_untouched ? given_.rule : typed_rule;
+}
+
+store::Recurrence RecurrencePage::typed() const {
     store::Recurrence rule;
     rule.kind = kind();
     if (rule.kind == RecurrenceKind::none)
@@ -173,9 +186,13 @@ store::Recurrence RecurrencePage::rule() const {
     if (rule.kind == RecurrenceKind::weekdays_of_month) {
         rule.days_of_week = static_cast<int>(bits_of(month_weekdays_));
         rule.weeks_of_month = static_cast<int>(bits_of(month_weeks_));
-        model::require(rule.weeks_of_month != 0,
-                       "Choose at least one week of the month in which the activity repeats.");
     }
+    return rule;
+}
+
+void RecurrencePage::require_dates(const store::Recurrence& rule) const {
+    model::require(rule.kind != RecurrenceKind::weekdays_of_month || rule.weeks_of_month != 0,
+                   "Choose at least one week of the month in which the activity repeats.");
     const bool is_by_weekday =
         rule.kind == RecurrenceKind::weekly || rule.kind == RecurrenceKind::weekdays_of_month;
     model::require(!is_by_weekday || rule.days_of_week != 0,
@@ -183,10 +200,11 @@ store::Recurrence RecurrencePage::rule() const {
     model::require(rule.kind != RecurrenceKind::days_of_month || rule.days_of_month != 0,
                    "Choose at least one day of the month on which the activity repeats.");
     model::require(!rule.until || rule.until->date() >= start_.date(), "The series ends before it begins.");
-    return rule;
 }
 
 std::vector<store::DateTime> RecurrencePage::exceptions() const {
+    if (kind() == given_.rule.kind && exceptions_ == exceptions_shown_)
+        return given_.exceptions;
     if (kind() == RecurrenceKind::none)
         return {};
     return {exceptions_.begin(), exceptions_.end()};

@@ -31,7 +31,8 @@ public:
     void set_start(store::DateTime start) { start_ = start; }
 
     // The rule as it stands. Fails with 440 when no date can follow from it: no day is chosen, or the end lies
-    // before the start.
+    // before the start. The one that was shown, which nobody touched, comes back as it was given, and so do its
+    // exceptions.
     store::Recurrence rule() const;
     std::vector<store::DateTime> exceptions() const; // rising; none when the activity doesn't repeat
 
@@ -43,6 +44,8 @@ private:
     void add_exception();
     void show_exceptions();
     store::RecurrenceKind kind() const;
+    store::Recurrence typed() const;
+    void require_dates(const store::Recurrence& rule) const;
 
     std::unique_ptr<Ui::RecurrencePage> ui_;
     std::vector<QCheckBox*> weekly_days_; // [0] Sunday
@@ -51,6 +54,14 @@ private:
     std::vector<QCheckBox*> month_weekdays_;
     std::set<store::DateTime> exceptions_;
     store::DateTime start_;
+    struct {
+        store::Recurrence rule;
+        std::vector<store::DateTime> exceptions;
+        store::DateTime start;
+    } given_;
+    // The same as the page could show it.
+    store::Recurrence rule_shown_;
+    std::set<store::DateTime> exceptions_shown_;
     const values::Locale* locale_ = nullptr;
 };
 

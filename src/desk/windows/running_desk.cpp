@@ -37,6 +37,8 @@ void RunningDesk::set_active_tab(const std::string& name) { shown_.page.set_acti
 void RunningDesk::create_lookup(const std::vector<std::string>& contacts) {
     database_.refresh();
     shown_.lookup.show(contacts);
+    if (shown_.come_to_contacts)
+        shown_.come_to_contacts();
 }
 
 int RunningDesk::contact_count() const { return static_cast<int>(shown_.lookup.contacts().size()); }

@@ -15,6 +15,7 @@ public:
     struct Shown {
         Lookup& lookup;
         ContactPage& page;
+        std::function<void()> come_to_contacts{}; // brings the window to the front, at the lookup's contacts
     };
     struct Commands {
         const CommandTable& by_number;

@@ -1,7 +1,9 @@
 #include "ui/dialogs/frm_holidays.h"
 
+#include "core/values/failure.h"
 #include "ui/dialogs/frm_descr.h"
 #include "ui_frmHolidays.h"
+#include "widgets/date_field.h"
 
 namespace ui {
 
@@ -27,7 +29,7 @@ frmHolidays::frmHolidays(const host::Platform& here, settings::Settings& setting
                                                controls_->chkday_4, controls_->chkday_5, controls_->chkday_6,
                                                controls_->chkday_7},
       procedures_(here, settings, *this, file, layout) {
-    controls_->dtpHol->setDisplayFormat(QString::fromStdString(here.locale.short_date));
+    controls_->dtpHol->set_locale(here.locale);
     connect_controls();
     procedures_.Form_Load();
 }
@@ -61,13 +63,13 @@ void frmHolidays::set_chkday(int weekday, bool checked) {
 }
 
 values::DateTime frmHolidays::dtpHol() const {
-    const QDate date = controls_->dtpHol->date();
-    return values::DateTime::of(date.year(), date.month(), date.day());
+    const auto date = controls_->dtpHol->date();
+    if (!date)
+        throw values::Failure(values::FailureNumber::type_mismatch, "Give the date of the holiday.");
+    return *date;
 }
 
-void frmHolidays::set_dtpHol(values::DateTime date) {
-    controls_->dtpHol->setDate({date.year(), date.month(), date.day()});
-}
+void frmHolidays::set_dtpHol(values::DateTime date) { controls_->dtpHol->set_date(date); }
 
 void frmHolidays::fill_lvwHol(std::span<const grid::Holiday> holidays) {
     QList<QTreeWidgetItem*> items;

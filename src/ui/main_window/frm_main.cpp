@@ -6,7 +6,6 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QMessageBox>
-#include <QThread>
 #include <QTimer>
 
 namespace ui {
@@ -22,9 +21,6 @@ std::unique_ptr<Ui::frmMain> make_controls(QMainWindow& window) {
     controls->setupUi(&window);
     return controls;
 }
-
-// Inside a loop of its own, such as a box's, somebody waits whom the end must not surprise.
-bool a_procedure_waits() { return QThread::currentThread()->loopLevel() > 1; }
 
 // A box that only tells, such as that the contact manager has gone; and the question what becomes of an occurrence
 // that is changed already, which would be lost by a Cancel that nobody gave.
@@ -103,7 +99,8 @@ void frmMain::unload_at_once() {
 }
 
 void frmMain::finish_unload() {
-    if (!a_procedure_waits()) {
+    // Inside a loop of its own, such as a box's, somebody waits whom the end must not surprise.
+    if (face_.event_loops() <= 1) {
         calendar_.closing.Form_Unload();
         return;
     }

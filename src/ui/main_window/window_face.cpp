@@ -6,6 +6,7 @@
 
 #include <QGuiApplication>
 #include <QScreen>
+#include <QThread>
 #include <QWindow>
 
 #include <algorithm>
@@ -21,7 +22,7 @@ constexpr int thickest_border = 8;
 
 WindowFace::WindowFace(QMainWindow& window, Ui::frmMain& controls, std::function<void()> unload)
     : view_boxes{controls.chkView_0, controls.chkView_1}, half_day_boxes{controls.chkAMPM_0, controls.chkAMPM_1},
-      window_(window), controls_(controls), unload_(std::move(unload)) {
+      window_(window), controls_(controls), thread_(*QThread::currentThread()), unload_(std::move(unload)) {
     // The bar is as wide as the grid, and its controls have to stand beside each other.
     window.setMinimumWidth(controls.picBar->minimumSizeHint().width() +
                            picture::pixels_from_twips(shell::Sizing::beside_grid));
@@ -138,5 +139,7 @@ void WindowFace::bring_to_front() {
     window_.raise();
     window_.activateWindow();
 }
+
+int WindowFace::event_loops() const { return thread_.loopLevel(); }
 
 } // namespace ui

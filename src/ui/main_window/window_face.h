@@ -10,6 +10,7 @@
 
 class QCheckBox;
 class QMainWindow;
+class QThread;
 class QWidget;
 
 namespace Ui {
@@ -60,6 +61,7 @@ public:
     void show_hourglass() override;
     void show_default_pointer() override;
     void bring_to_front() override;
+    int event_loops() const override;
 
     // The control arrays chkView and chkAMPM.
     const std::vector<QCheckBox*> view_boxes, half_day_boxes;
@@ -71,6 +73,7 @@ private:
 
     QMainWindow& window_;
     Ui::frmMain& controls_;
+    const QThread& thread_; // the windows'
     std::function<void()> unload_;
     QPoint given_corner_; // of the frame, when the shell last moved it
 };

@@ -2,6 +2,7 @@
 #include "contract/names.h"
 #include "desk_process.h"
 #include "support/desk_on_bus.h"
+#include "told.h"
 
 #include <QDBusMessage>
 #include <QDBusVirtualObject>
@@ -31,7 +32,8 @@ protected:
 
     support::PrivateBus bus;
     QDBusConnection bus_connection = bus.connection();
-    std::shared_ptr<bus::Link> link = bus::make_link(bus_connection);
+    Told told;
+    std::shared_ptr<bus::Link> link = bus::make_link(bus_connection, &told);
     QStringList events;
 };
 
@@ -168,6 +170,16 @@ TEST_F(EventControl, TakesAKilledDeskForOneThatTheUserCloses) {
     ASSERT_EQ(control->Open_Databases(0), 1);
     process.kill();
     EXPECT_TRUE(hear({"wants to close"}));
+    EXPECT_EQ(told.losses, std::vector<std::string>{"The contact desk has ended without notice."});
+}
+
+TEST_F(EventControl, LeavesItToACommandToTellOfADeskThatDiedUnderIt) {
+    DeskProcess process(bus);
+    const auto control = listen();
+    QTimer::singleShot(100, [&] { process.kill(); });
+    EXPECT_ANY_THROW(link->run(act::CommandNumber::edit_activity));
+    EXPECT_TRUE(hear({"wants to close"}));
+    EXPECT_TRUE(told.losses.empty());
 }
 
 TEST_F(EventControl, TellsTheEndOfADeskThatClosesOnce) {
@@ -177,6 +189,7 @@ TEST_F(EventControl, TellsTheEndOfADeskThatClosesOnce) {
     EXPECT_TRUE(hear({"wants to close"}));
     settle();
     EXPECT_EQ(events, QStringList{"wants to close"});
+    EXPECT_TRUE(told.losses.empty());
 }
 
 TEST_F(EventControl, TakesTheEndOfTheBusForThatOfTheDesk) {
@@ -185,6 +198,8 @@ TEST_F(EventControl, TakesTheEndOfTheBusForThatOfTheDesk) {
     ASSERT_EQ(control->Open_Databases(0), 1);
     bus.stop();
     EXPECT_TRUE(hear({"wants to close"}));
+    EXPECT_EQ(told.losses,
+              std::vector<std::string>{"The contact desk can't be reached any more: the session bus is gone."});
 }
 
 TEST_F(EventControl, KeepsEventsUntilACommandHasReturned) {

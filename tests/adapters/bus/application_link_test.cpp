@@ -3,6 +3,7 @@
 #include "desk_process.h"
 #include "failure_text.h"
 #include "support/desk_on_bus.h"
+#include "told.h"
 
 #include <QElapsedTimer>
 #include <QPushButton>
@@ -145,6 +146,43 @@ TEST_F(CommandToAProcess, FailsWithinASecondWhenTheDeskDies) {
 
 TEST_F(CommandToAProcess, FailsWithinASecondWhenTheBusDies) {
     EXPECT_EQ(interrupted([&] { bus.stop(); }), "440 The contact desk ended before its dialog was closed.");
+}
+
+class CommandToAFrozenDesk : public CommandToAProcess {
+protected:
+    CommandToAFrozenDesk() { link = bus::make_link(bus.connection(), &told); }
+
+    Told told;
+};
+
+TEST_F(CommandToAFrozenDesk, CanBeGivenUpAfterFiveSeconds) {
+    told.gives_up = true;
+    QTimer::singleShot(200, [&] { process.freeze(); });
+    EXPECT_EQ(failure_text([&] { link->run(CommandNumber::edit_activity); }),
+              "440 The contact desk doesn't answer.");
+    EXPECT_EQ(told.silences, 1);
+    EXPECT_EQ(told.answers, 1) << "the notice goes with the wait";
+    EXPECT_FALSE(link->waits());
+}
+
+TEST_F(CommandToAFrozenDesk, WaitsOnWhenTheDeskAnswersAgain) {
+    told.on_silence = [&] { process.freeze(false); };
+    QTimer::singleShot(200, [&] { process.freeze(); });
+    QTimer end;
+    QObject::connect(&end, &QTimer::timeout, [&] {
+        if (told.answers > 0)
+            bus::abandon_command(*link);
+    });
+    end.start(20);
+    EXPECT_EQ(failure_text([&] { link->run(CommandNumber::edit_activity); }), "");
+    EXPECT_EQ(told.silences, 1);
+    EXPECT_EQ(told.answers, 1);
+}
+
+TEST_F(CommandToAFrozenDesk, LeavesAnOpenDialogAllTheTimeItTakes) {
+    QTimer::singleShot(7000, [&] { bus::abandon_command(*link); });
+    EXPECT_EQ(failure_text([&] { link->run(CommandNumber::edit_activity); }), "");
+    EXPECT_EQ(told.silences, 0);
 }
 
 TEST_F(CommandToAProcess, ClosesTheDeskAndReturnsWhenItHasGone) {

@@ -9,6 +9,9 @@
 #include <gtest/gtest.h>
 
 #ifdef Q_OS_UNIX
+#include "support/full_disk.h"
+#include "support/unprivileged.h"
+
 #include <fcntl.h>
 #include <sys/file.h>
 #include <unistd.h>
@@ -143,6 +146,58 @@ TEST_F(Files, AreAbsentAndUnchangedWhileAnotherProgramHasThemLocked) {
     EXPECT_FALSE(files->replace(path("a"), "new"));
     ::close(other);
     EXPECT_EQ(bytes(path("a")), "old");
+}
+
+TEST_F(Files, StayAsTheyWereOnAFullDisk) {
+    const std::string old = "[Settings]\r\n1stday=2\r\n";
+    ASSERT_TRUE(files->replace(path("a"), old));
+    {
+        const support::FullDisk disk;
+        EXPECT_FALSE(files->replace(path("a"), "short"));
+        EXPECT_FALSE(files->replace(path("a"), std::string(100'000, 'x')));
+        EXPECT_FALSE(files->replace(path("b"), "new"));
+    }
+    EXPECT_EQ(bytes(path("a")), old);
+    EXPECT_EQ(QDir(place.path()).entryList(QDir::Files | QDir::Hidden), QStringList{"a"});
+}
+
+// A folder in which others may change files but make none.
+class ClosedFolder : public Files {
+protected:
+    ClosedFolder() {
+        EXPECT_TRUE(files->replace(path("a"), "0123456789"));
+        QFile::setPermissions(place.filePath("a"), QFile::Permissions(0x6666));
+        QFile::setPermissions(place.path(), QFile::Permissions(0x5555));
+    }
+    ~ClosedFolder() override { QFile::setPermissions(place.path(), QFile::Permissions(0x7777)); }
+};
+
+TEST_F(ClosedFolder, HasItsFilesWrittenInPlace) {
+    const support::Unprivileged nobody;
+    for (const char* content : {"short", "longer than before", "", "0123456789"}) {
+        EXPECT_TRUE(files->replace(path("a"), content));
+        EXPECT_EQ(bytes(path("a")), content);
+    }
+    EXPECT_FALSE(files->replace(path("b"), "new"));
+}
+
+TEST_F(ClosedFolder, LeavesAFileAsItWasOnAFullDisk) {
+    const support::Unprivileged nobody;
+    const support::FullDisk disk(12);
+    EXPECT_FALSE(files->replace(path("a"), "longer than before"));
+    EXPECT_EQ(bytes(path("a")), "0123456789");
+}
+
+TEST_F(ClosedFolder, HasItsFilesLockedAllTheSame) {
+    const support::Unprivileged nobody;
+    auto lock = files->lock(path("a"));
+    ASSERT_NE(lock, nullptr);
+    EXPECT_EQ(bytes(path("a")), "0123456789");
+    EXPECT_TRUE(files->replace(path("a"), "new"));
+    EXPECT_EQ(qt::make_files()->lock(path("a")), nullptr);
+    lock.reset();
+    EXPECT_NE(files->lock(path("a")), nullptr);
+    EXPECT_EQ(files->lock(path("b")), nullptr);
 }
 #endif
 

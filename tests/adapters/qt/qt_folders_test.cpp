@@ -6,6 +6,8 @@
 #include <gtest/gtest.h>
 
 #ifdef Q_OS_UNIX
+#include "support/full_disk.h"
+
 #include <unistd.h>
 #endif
 
@@ -75,6 +77,21 @@ TEST_F(Folders, AreTheUsersOwnAndFilledWhereTheExecutablesCantBeWritten) {
     EXPECT_EQ(content(own + "/orvanta_manual.pdf"), "manual");
     EXPECT_FALSE(QFile::exists(own + "/orvanta"));
 }
+
+#ifdef Q_OS_UNIX
+TEST_F(Folders, HoldNoPartOfAFileThatAFullDiskDidntTake) {
+    write(shipped + "/orvanta_template.xlt", QByteArray(20'000, 'x').constData());
+    make_read_only();
+    {
+        const support::FullDisk disk(5000);
+        EXPECT_EQ(program_folder(), own.toStdString());
+    }
+    EXPECT_EQ(content(own + "/plus.gif"), "plus");
+    EXPECT_FALSE(QFile::exists(own + "/orvanta_template.xlt"));
+    EXPECT_EQ(program_folder(), own.toStdString());
+    EXPECT_EQ(content(own + "/orvanta_template.xlt").size(), 20'000);
+}
+#endif
 
 TEST_F(Folders, KeepAPictureThatTheUserReplaced) {
     make_read_only();

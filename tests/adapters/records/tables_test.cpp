@@ -1,3 +1,4 @@
+#include "core/act/edit_conflict.h"
 #include "desk/store/contact_fields.h"
 #include "records_fixture.h"
 
@@ -84,6 +85,59 @@ TEST_F(ContactTable, FindsAnIdThatLostItsTrailingBlank) {
     store.add(store::Contact{.id = "99887766554 "});
     EXPECT_TRUE(database->Contact().Goto("99887766554"));
     EXPECT_EQ(text(database->Contact().Data(1)), "99887766554 ");
+}
+
+TEST_F(ContactTable, StoresAChangeOfItsFields) {
+    const std::string id = store.add(store::Contact{.fields = {{contact_field::name, "Ann"}}});
+    act::Contact& contact = database->Contact();
+    contact.Goto(id);
+    contact.Data(contact_field::name);
+    contact.Edit();
+    contact.Data(contact_field::city, std::string("Bern"));
+    contact.Data(contact_field::extension, std::int64_t{42});
+    EXPECT_EQ(text(contact.Data(contact_field::city)), "Bern");
+    EXPECT_EQ(store.contact(id)->fields.count(contact_field::city), 0U);
+    EXPECT_EQ(contact.Update(), id);
+    EXPECT_EQ(store.contact(id)->fields.at(contact_field::city), "Bern");
+    EXPECT_EQ(store.contact(id)->fields.at(contact_field::extension), "42");
+    EXPECT_EQ(store.contact(id)->fields.at(contact_field::name), "Ann");
+    EXPECT_EQ(text(contact.Data(contact_field::city)), "Bern");
+}
+
+TEST_F(ContactTable, GivesAChangeUpWhenItGoesToARecord) {
+    const std::string id = store.add(store::Contact{});
+    act::Contact& contact = database->Contact();
+    contact.Goto(id);
+    contact.Edit();
+    contact.Data(contact_field::city, std::string("Bern"));
+    contact.Goto(id);
+    EXPECT_EQ(text(contact.Data(contact_field::city)), "");
+    EXPECT_EQ(failure_number([&] { contact.Update(); }), 440);
+}
+
+TEST_F(ContactTable, RefusesAChangeThatIsntBegunOrThatItCantStore) {
+    act::Contact& contact = database->Contact();
+    EXPECT_EQ(failure_number([&] { contact.Edit(); }), 91);
+    const std::string id = store.add(store::Contact{});
+    contact.Goto(id);
+    EXPECT_EQ(failure_number([&] { contact.Data(contact_field::city, std::string("Bern")); }), 440);
+    EXPECT_EQ(failure_number([&] { contact.Update(); }), 440);
+    contact.Edit();
+    EXPECT_EQ(failure_number([&] { contact.Data(1, std::string("C00000000001")); }), 440);
+    EXPECT_EQ(failure_number([&] { contact.Data(24, std::string("x")); }), 381);
+}
+
+TEST_F(ContactTable, DoesntOverwriteWhatSomebodyElseChangedMeanwhile) {
+    const std::string id = store.add(store::Contact{});
+    act::Contact& contact = database->Contact();
+    contact.Goto(id);
+    contact.Edit();
+    contact.Data(contact_field::city, std::string("Mine"));
+    store::Contact theirs = *store.contact(id);
+    theirs.fields[contact_field::city] = "Theirs";
+    store.update(theirs);
+    EXPECT_THROW(contact.Update(), act::EditConflict);
+    EXPECT_EQ(store.contact(id)->fields.at(contact_field::city), "Theirs");
 }
 
 TEST_F(GroupTable, GivesTheIdAndTheName) {

@@ -68,7 +68,7 @@ protected:
     std::unique_ptr<host::Files> files = qt::make_files();
     std::unique_ptr<host::UserStore> user_store = make_user_store();
     settings::PerUserStore values{*user_store};
-    DeskWindow window{database, Import()};
+    DeskWindow window{database, Exchange()};
     OpenToolbarCommands toolbar{database};
     service::Service service{window.desk(), toolbar, values::english_us()};
     QDBusConnection caller = bus.connection();
@@ -131,6 +131,19 @@ TEST_F(ActivityWinTest, BringsTheRecurringTabToTheFrontAndForgetsTheWord) {
     EXPECT_TRUE(QTest::qWaitFor([&] { return tabs->currentWidget()->objectName() == "recurring_tab"; }, 10000));
     EXPECT_EQ(regarding(*edit), "Weekly round");
     EXPECT_EQ(values.read("Activity", "RecurringEdit"), "");
+}
+
+TEST_F(ActivityWinTest, LeavesTheNextDialogAloneOnceItsOwnWasRefused) {
+    values.write("Activity", "RecurringEdit", "1");
+    start_companion();
+    QTest::qWait(1000);
+    values.remove("Activity", "RecurringEdit");
+    window.desk().contact_view().go_to(cedar);
+    window.desk().contact_view().select_activity(0, true);
+    command(act::CommandNumber::edit_activity);
+    auto* edit = dialog();
+    QTest::qWait(500);
+    EXPECT_EQ(child<QTabWidget>(*edit, "tabs")->currentIndex(), 0);
 }
 
 TEST_F(ActivityWinTest, LeavesADialogAloneThatTheUserOpenedInTheDesk) {

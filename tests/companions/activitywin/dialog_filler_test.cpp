@@ -106,6 +106,25 @@ TEST_F(DialogFillerTest, ShowsTheRecurringTabOfAStoredActivityAndFillsNothing) {
     EXPECT_FALSE(recurring_lingers());
 }
 
+TEST_F(DialogFillerTest, EndsWithoutADeedWhenItsDialogWasRefused) {
+    leave_values();
+    values.write("Activity", "RecurringEdit", "1");
+    start();
+    EXPECT_EQ(outcome(300), std::nullopt);
+    values.remove("Activity", "RecurringEdit");
+    open_dialog(false);
+    EXPECT_EQ(outcome(), "The dialog for the recurring settings wasn't opened.");
+    EXPECT_TRUE(shown_tabs().empty());
+    EXPECT_TRUE(filled().empty());
+}
+
+TEST_F(DialogFillerTest, DoesntWaitForADialogThatWasRefused) {
+    values.write("Activity", "RecurringEdit", "1");
+    start();
+    values.remove("Activity", "RecurringEdit");
+    EXPECT_EQ(outcome(), "The dialog for the recurring settings wasn't opened.");
+}
+
 TEST_F(DialogFillerTest, AWordAboutRecurringSettingsThatWasLeftBehindDoesntKeepANewActivityEmpty) {
     leave_values();
     values.write("Activity", "RecurringEdit", "1");

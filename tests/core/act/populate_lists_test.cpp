@@ -2,6 +2,7 @@
 
 #include "support/fake_act_server.h"
 #include "support/fake_message_box.h"
+#include "support/fake_window.h"
 
 #include <gtest/gtest.h>
 
@@ -28,7 +29,8 @@ protected:
 
     support::FakeMessageBox box;
     host::ApplicationInfo application{.title = "Orvanta", .support_address = "help@example.org"};
-    host::Guard guarded{box, application};
+    support::FakeWindow window;
+    host::Guard guarded{box, application, window};
     support::FakeActData data;
     support::FakeApplicationState state;
     support::FakeServer server{data, state};
@@ -107,8 +109,9 @@ TEST_F(PopulateUsers, ShowsTheFailureBoxWithoutASession) {
 class PopulateFields : public PopulateListsTest {
 protected:
     PopulateFields() {
-        data.fields = {{25, "Company", "1", false}, {}, {26, "Contact", "1", false},   {27, "Title", "2", true},
-                       {28, "Picture", "7", false}, {}, {202, "Edited by", "1", false}};
+        data.fields = {
+            {25, "Company", "1", false}, {}, {26, "Contact", "1", false},    {27, "Title", "2", true},
+            {28, "Picture", "7", false}, {}, {202, "Edited by", "1", false}, {204, "Region", "1", false}};
     }
     void populate(act::PopupMode mode, const std::string& select = "") {
         list.Clear();
@@ -118,8 +121,8 @@ protected:
 
 TEST_F(PopulateFields, OffersTheFieldsOfAcceptedTypesPastTheGaps) {
     populate(act::PopupMode::any);
-    EXPECT_EQ(texts(), (Texts{"Company", "Contact", "Title"}));
-    EXPECT_EQ(numbers(), (std::vector<int>{25, 26, 27}));
+    EXPECT_EQ(texts(), (Texts{"Company", "Contact", "Title", "Region"})); // the last one is reached too
+    EXPECT_EQ(numbers(), (std::vector<int>{25, 26, 27, 204}));
     EXPECT_EQ(list.ListIndex(), -1);
 }
 
@@ -127,7 +130,7 @@ TEST_F(PopulateFields, LetsThePopupModeDecideAmongAcceptedTypes) {
     populate(act::PopupMode::only_with);
     EXPECT_EQ(texts(), (Texts{"Title"}));
     populate(act::PopupMode::only_without);
-    EXPECT_EQ(texts(), (Texts{"Company", "Contact"}));
+    EXPECT_EQ(texts(), (Texts{"Company", "Contact", "Region"}));
 }
 
 TEST_F(PopulateFields, NeverOffersATypeOutsideTheListWhateverThePopupMode) {

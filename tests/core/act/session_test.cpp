@@ -2,6 +2,7 @@
 
 #include "support/fake_act_server.h"
 #include "support/fake_message_box.h"
+#include "support/fake_window.h"
 
 #include <gtest/gtest.h>
 
@@ -12,7 +13,8 @@ protected:
     support::FakeMessageBox box;
     host::ApplicationInfo application{
         .title = "Orvanta", .major = 1, .minor = 0, .revision = 0, .support_address = "help@example.org"};
-    host::Guard guarded{box, application};
+    support::FakeWindow window;
+    host::Guard guarded{box, application, window};
     support::FakeActData data;
     support::FakeApplicationState state;
     support::FakeServer server{data, state};
@@ -59,13 +61,16 @@ TEST_F(SessionTest, ReleasesTheApplicationAndThenClosesTheDatabase) {
     EXPECT_FALSE(session.ActApp);
 }
 
-TEST_F(SessionTest, CannotCloseADatabaseThatNeverOpened) {
-    try {
-        session.Release();
-        FAIL() << "no failure";
-    } catch (const values::Failure& failure) {
-        EXPECT_EQ(failure.number(), 91);
-    }
+TEST_F(SessionTest, ReleasesTheApplicationAlsoWhereThereIsNoDatabase) {
+    data.failing = {"create database"};
+    session.Create_Database();
+    ASSERT_TRUE(session.ActApp);
+    data.calls.clear();
+    session.Release();
+    EXPECT_EQ(data.calls, std::vector<std::string>{"Application released"});
+    EXPECT_FALSE(session.ActContactView);
+    session.Release(); // nothing is left
+    EXPECT_EQ(data.calls.size(), 1U);
 }
 
 TEST_F(SessionTest, TakesANewActivityListInPlaceOfTheOld) {

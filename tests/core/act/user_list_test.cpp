@@ -2,6 +2,7 @@
 
 #include "support/fake_act_server.h"
 #include "support/fake_message_box.h"
+#include "support/fake_window.h"
 #include "support/memory_files.h"
 
 #include <gtest/gtest.h>
@@ -28,7 +29,8 @@ protected:
 
     support::FakeMessageBox box;
     host::ApplicationInfo application{.title = "Orvanta", .support_address = "help@example.org"};
-    host::Guard guarded{box, application};
+    support::FakeWindow window;
+    host::Guard guarded{box, application, window};
     support::MemoryFiles files;
     settings::IniLib ini{files, guarded};
     support::FakeActData data;
@@ -109,6 +111,14 @@ TEST_F(UserListTest, RoundsARestOfHalfAnIdToTheEvenNumber) {
     EXPECT_EQ(shown(), (Texts{"Bob"}));
     have_filter("BOB---------ANN---------CEM--"); // two and a half
     users.Initialize_Users(act::ShownUsers::of_the_filter);
+    EXPECT_EQ(users.NumUsers, 2);
+}
+
+TEST_F(UserListTest, CutsTheFilterByCharacters) {
+    data.users.push_back({"ÄRZTE-------", "Änne", "", ""});
+    have_filter("ÄRZTE-------BOB---------");
+    users.Initialize_Users(act::ShownUsers::of_the_filter);
+    EXPECT_EQ(shown(), (Texts{"Änne", "Bob"}));
     EXPECT_EQ(users.NumUsers, 2);
 }
 

@@ -169,6 +169,14 @@ TEST_F(PlacingTest, AUserWithoutAKeyIsBlackInModeTwo) {
     EXPECT_EQ(colour(), "0");
 }
 
+TEST_F(PlacingTest, AUsersColourThatIsNoNumberGoesIntoTheRecordAsItStands) {
+    world_.engine.placing.ShowActyColorsMode = 2;
+    world_.set("Colors", "Ann", "dark red");
+    EXPECT_EQ(colour(), "dark red");
+    EXPECT_TRUE(world_.box.shown.empty());
+    EXPECT_EQ(world_.displayed(), EngineWorld::user_id("Meet"));
+}
+
 TEST_F(PlacingTest, AChangeOfAUsersColourIsSeenByTheNextRefresh) {
     world_.engine.placing.ShowActyColorsMode = 2;
     EXPECT_EQ(colour(), "0");

@@ -142,6 +142,29 @@ TEST_F(QuickRefreshTest, ANewActivityWithoutASelectedCellShowsTheBox) {
     EXPECT_TRUE(world_.window.hourglass);
 }
 
+TEST_F(QuickRefreshTest, AChangedActivityThatHasACellClearsTheSelectedOneToo) {
+    add("Meet", day(10));
+    add("Other", day(12, 11));
+    fill();
+    select(row_of(3), 7);
+    ASSERT_EQ(cell(3, 7).ActivityID(), id("Other"));
+    edit("Meet", day(10, 10));
+    EXPECT_EQ(quick(), (Texts{"1/5 Meet", "3/7 Other"}));
+    EXPECT_EQ(cell(3, 7).ActivityID(), "");
+    EXPECT_EQ(cell(1, 5).ActivityID(), id("Meet"));
+}
+
+TEST_F(QuickRefreshTest, TheSelectedCellThatANewActivityClearedIsntClearedOnceMore) {
+    add("Gone", day(10));
+    fill();
+    select(row_of(1), 5);
+    add("New", day(11));
+    edit("New", day(10, 10));
+    remove("Gone");
+    // It stays in its slot, as its cell counts as treated.
+    EXPECT_EQ(quick(), (Texts{"1/5 Gone", "1/6 New"}));
+}
+
 TEST_F(QuickRefreshTest, TwoIdsOfOneCellClearItOnce) {
     add("First", day(10));
     add("Second", day(10, 9, 30));

@@ -92,6 +92,17 @@ TEST_F(BackgroundTest, EmptiesTheTitleOfAHolidayWithoutADescription) {
     EXPECT_TRUE(world.box.shown.empty());
 }
 
+// Nothing but the colours is painted again then.
+TEST_F(BackgroundTest, TakesTheBoldOfTodayOffAHolidayThatIsOver) {
+    world.files.content["/program/holidays.dat"] = "[Holidays]\r\n1/10/2024=Open Day\r\n";
+    background.holidays.Holidays = "|1/10/2024|";
+    open();
+    ASSERT_TRUE(model.cell(0, 5).bold);
+    world.clock.time = DateTime::of(2024, 1, 11, 0, 5);
+    background.Refresh_Colors();
+    EXPECT_FALSE(model.cell(0, 5).bold);
+}
+
 TEST_F(BackgroundTest, KnowsAHolidayByItsWholeDateOnly) {
     background.holidays.Holidays = "|11/9/2024||1/9/20245|";
     open();

@@ -1,6 +1,7 @@
 #include "core/grid/rendering.h"
 
 #include "core/grid/slot_world.h"
+#include "core/values/failure.h"
 
 #include <gtest/gtest.h>
 
@@ -162,13 +163,22 @@ TEST_F(RenderingTest, GoesOnWithTheNextSlotAfterOneFailed) {
     EXPECT_EQ(world.column(4), (Column{"", "z"}));
 }
 
-TEST_F(RenderingTest, ShowsAFailureOfTheContinuationsAsItsOwn) {
-    world.open_with_rows(1, 2);
-    world.put(0, 2, {.id = "A1", .user = "a", .text = "long", .goes_beyond = 1, .fore_color = "red"});
+// A colour may be any text of the settings, the list's own marks among it.
+TEST_F(RenderingTest, ContinuesAnActivityWhoseColourIsNoNumberAndKeepsTheGridsColour) {
+    world.open_with_rows(1, 3);
+    model.ForeColor(4321);
+    world.put(0, 2, {.id = "A1", .user = "a", .text = "long", .goes_beyond = 2, .fore_color = "red|2,green"});
+    world.put(0, 3, {.id = "A2", .user = "a", .text = "also long", .goes_beyond = 1, .fore_color = "99999999999"});
     display();
-    ASSERT_EQ(world.box.shown.size(), 1U);
-    EXPECT_NE(world.box.shown[0].text.find("Error 13: "), std::string::npos);
-    EXPECT_NE(world.box.shown[0].text.find("in modRefresh: Sub Display_Changes - Line # 50"), std::string::npos);
+    EXPECT_EQ(world.column(2), (Column{"long", "( Continued )", "( Continued )"}));
+    EXPECT_EQ(world.column(3), (Column{"also long", "( Continued )", ""}));
+    EXPECT_EQ(model.ForeColor(), 4321);
+    EXPECT_TRUE(world.box.shown.empty());
+}
+
+TEST_F(RenderingTest, LetsAFailureOfTheContinuationsThrough) {
+    world.open_with_rows(1, 2);
+    EXPECT_THROW(world.calendar.rendering.Span_Activities("99,2,255|"), values::Failure);
 }
 
 } // namespace

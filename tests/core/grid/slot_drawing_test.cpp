@@ -96,6 +96,20 @@ TEST_F(SlotDrawing, ShowsThePictureWithRoomForItWhereIconsAreOn) {
     EXPECT_EQ(world.column(1), (Column{"rwdmeeting:       Lunch", ""}));
 }
 
+TEST_F(SlotDrawing, StoresTheIconsNumberWhateverIsShown) {
+    world.open_with_rows(3, 1);
+    world.put(0, 1, {.id = "A1", .user = "a", .text = "Lunch", .type = "2"});
+    world.put(0, 1, {.id = "A2", .user = "b", .text = "", .recurring = "1", .type = "3"});
+    draw(0, 1);
+    EXPECT_EQ(world.column(1), (Column{"Lunch", "", ""}));
+    EXPECT_EQ(layout.Cells(1, 1).IconIndex(), 2);
+    EXPECT_EQ(layout.Cells(2, 1).IconIndex(), 6);
+    world.calendar.writer.ShowIcons = true;
+    world.put(0, 2, {.id = "A3", .user = "a", .text = "", .type = "1"});
+    draw(0, 2);
+    EXPECT_EQ(layout.Cells(1, 2).IconIndex(), 1);
+}
+
 TEST_F(SlotDrawing, StoresTheActivityInTheCellsRecord) {
     world.open_with_rows(2, 1);
     world.put(0, 1,
@@ -144,6 +158,16 @@ TEST_F(SlotDrawing, PassesOverAForeColourThatIsNoNumber) {
     EXPECT_EQ(world.column(1), (Column{"x", ""}));
     EXPECT_EQ(world.calendar.msgSched.cell(1, 1).fore_colour, 123);
     EXPECT_TRUE(world.box.shown.empty());
+}
+
+TEST_F(SlotDrawing, PutsTheTextBackToTheTopLeftOfACellThatContinuedAnActivity) {
+    world.open_with_rows(1, 2);
+    world.calendar.msgSched.Row(2);
+    world.calendar.msgSched.Col(1);
+    world.calendar.msgSched.CellAlignment(table::Alignment::left_centre);
+    world.put(1, 1, {.id = "A1", .user = "a", .text = "x"});
+    draw(1, 1);
+    EXPECT_EQ(world.calendar.msgSched.cell(2, 1).alignment, table::Alignment::left_top);
 }
 
 TEST_F(SlotDrawing, StrikesAClearedActivityThroughAndContinuesItNowhere) {

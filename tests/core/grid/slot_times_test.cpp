@@ -2,6 +2,7 @@
 
 #include "support/failure_number.h"
 #include "support/fake_message_box.h"
+#include "support/fake_window.h"
 #include "support/memory_files.h"
 
 #include <gtest/gtest.h>
@@ -17,7 +18,8 @@ protected:
 
     support::FakeMessageBox box;
     host::ApplicationInfo application;
-    host::Guard guarded{box, application};
+    support::FakeWindow window;
+    host::Guard guarded{box, application, window};
     support::MemoryFiles files;
     settings::IniLib ini{files, guarded};
     grid::SlotTimes times{ini, values::english_us()};

@@ -45,6 +45,19 @@ TEST_F(TitlesTest, ShowNoDayBoldWhenTodayIsOutOfView) {
         EXPECT_FALSE(model.cell(0, col).bold) << col;
 }
 
+TEST_F(TitlesTest, TakeTheBoldOfTodayOffWhenAnotherDayStandsThere) {
+    open();
+    ASSERT_TRUE(model.cell(0, 5).bold);
+    layout.show(DateTime::of(2024, 1, 14));
+    world.calendar.titles.Write_ColTitles();
+    EXPECT_FALSE(model.cell(0, 5).bold);
+    layout.show(DateTime::of(2024, 1, 7));
+    world.clock.time = DateTime::of(2024, 1, 11, 0, 5); // past midnight
+    world.calendar.titles.Write_ColTitles();
+    EXPECT_FALSE(model.cell(0, 5).bold);
+    EXPECT_TRUE(model.cell(0, 6).bold);
+}
+
 TEST_F(TitlesTest, PutTheFirstDayOverTheUsersTitleWhereRowsHaveNoUsers) {
     open(false);
     EXPECT_EQ(text(0, 1), "Sunday Jan. 7");

@@ -1,6 +1,7 @@
 #include "core/host/guard.h"
 
 #include "support/fake_message_box.h"
+#include "support/fake_window.h"
 
 #include <gtest/gtest.h>
 #include <new>
@@ -22,8 +23,11 @@ protected:
     support::FakeMessageBox box;
     host::ApplicationInfo application{
         .title = "Orvanta", .major = 3, .minor = 1, .revision = 4, .support_address = "help@team.example"};
-    Guard guarded{box, application};
+    support::FakeWindow window;
+    Guard guarded{box, application, window};
 };
+
+void fail(Step&) { throw Failure(FailureNumber::type_mismatch); }
 
 } // namespace
 
@@ -97,4 +101,63 @@ TEST_F(GuardTest, TurnsExceptionsFromElsewhereIntoFailures) {
     EXPECT_EQ(shown_text().substr(0, 36), "Error 51: 'the library's own words'\r");
     guarded("place ", [](Step&) { throw 1; });
     EXPECT_EQ(shown_text().substr(0, 27), "Error 51: 'Internal error'\r");
+}
+
+TEST_F(GuardTest, ShowsTheSameBoxOnceWithinOneCommand) {
+    const auto command = [&] {
+        guarded("in outer ", [&](Step& step) {
+            step = 10;
+            for (int row = 0; row < 92; ++row)
+                guarded("in row ", fail);
+            step = 20;
+            guarded("in row ", fail);
+        });
+    };
+    command();
+    EXPECT_EQ(box.shown.size(), 1u);
+    command();
+    EXPECT_EQ(box.shown.size(), 2u);
+}
+
+TEST_F(GuardTest, ShowsBoxesThatDifferInPlaceLineNumberOrText) {
+    guarded("in outer ", [&](Step&) {
+        guarded("in one ", fail);
+        guarded("in another ", fail);
+        guarded("in one ", [](Step& step) {
+            step = 10;
+            throw Failure(FailureNumber::type_mismatch);
+        });
+        guarded("in one ", [](Step&) { throw Failure(FailureNumber::overflow); });
+        guarded("in one ", [](Step&) { throw Failure(FailureNumber::type_mismatch, "No number."); });
+        EXPECT_EQ(box.shown.size(), 5u);
+    });
+}
+
+TEST_F(GuardTest, ShowsTheSameBoxAgainForWhatIsDoneInADialogOfTheCommand) {
+    guarded("in menu ", [&](Step&) {
+        guarded("in row ", fail);
+        window.loops = 1; // a dialog's
+        guarded("in OK ", fail);
+        guarded("in OK ", fail);
+        guarded("in row ", fail);
+        window.loops = 0;
+        EXPECT_EQ(box.shown.size(), 4u);
+        guarded("in row ", fail);
+    });
+    EXPECT_EQ(box.shown.size(), 4u);
+}
+
+TEST_F(GuardTest, DoesntShowABoxOverItself) {
+    const auto tick = [&] { guarded("in tick ", fail); };
+    box.while_shown = [&] {
+        box.while_shown = nullptr;
+        window.loops = 1;
+        tick();
+        tick();
+        window.loops = 0;
+    };
+    tick();
+    EXPECT_EQ(box.shown.size(), 1u);
+    tick();
+    EXPECT_EQ(box.shown.size(), 2u);
 }

@@ -89,6 +89,31 @@ TEST_F(ActivityCommands, EditRecurringSettingsTellsTheCompanionAndEditsTheSeries
     EXPECT_EQ(left("Type"), "absent");
 }
 
+TEST_F(ActivityCommands, EditRecurringSettingsTakesTheWordBackOnceItsDialogIsOverOrRefused) {
+    have(daily(8, 9));
+    on_nine(10, &interaction::Editing::mnuPopRecurring_Click);
+    EXPECT_EQ(left("RecurringEdit"), "absent");
+    std::string word;
+    running_desk.on_command = [&](CommandNumber) {
+        word = left("RecurringEdit");
+        throw values::Failure(values::FailureNumber::automation, "Another activity is being worked on already.");
+    };
+    on_nine(10, &interaction::Editing::mnuPopRecurring_Click);
+    EXPECT_EQ(word, "1");
+    EXPECT_EQ(left("RecurringEdit"), "absent");
+    EXPECT_EQ(box.shown.size(), 1U);
+}
+
+TEST_F(ActivityCommands, EditRecurringSettingsOpensAClearedSeries) {
+    set("Filter", "ShowCleared", "1");
+    store::Activity series = daily(8, 9);
+    series.cleared = true;
+    have(series);
+    on_nine(10, &interaction::Editing::mnuPopRecurring_Click);
+    EXPECT_EQ(running_desk.commands, Numbers{1337});
+    EXPECT_EQ(running_desk.selected, id);
+}
+
 TEST_F(ActivityCommands, EditRecurringSettingsStopsWhereItCanNotTellTheCompanion) {
     have(daily(8, 9));
     user_values.refuses_writes = true;
@@ -251,6 +276,17 @@ TEST_F(ActivityCommands, ClearOfAnOccurrenceDeletedInTheDialogAndAnsweredWithCan
     EXPECT_FALSE(refreshed());
     EXPECT_EQ(shown(row_of(nine), col_of(10)), "Chris Smith");
     EXPECT_TRUE(box.shown.empty());
+}
+
+TEST_F(ActivityCommands, ClearOfAnOccurrenceHasItsInstanceRememberedUntilTheDialogHasClosed) {
+    const std::string series = add(daily(8, 9));
+    open();
+    select(row_of(1), col_of(10));
+    running_desk.on_command = [&](CommandNumber) { EXPECT_EQ(remembered_instances(), 1); };
+    hands.clearing.mnupopClear_Click();
+    EXPECT_EQ(running_desk.commands.size(), 1U);
+    EXPECT_EQ(remembered_instances(), 0);
+    EXPECT_EQ(all().size(), 2U);
 }
 
 TEST_F(ActivityCommands, ClearOfAnOccurrenceAsksTheDeskInThisOrder) {

@@ -33,6 +33,19 @@ protected:
     const int nine = 1, eleven = 3; // slots
 };
 
+// A quick refresh would find one of them.
+TEST_F(DragDrop, ADropShowsAllThatOthersHaveChangedMeanwhile) {
+    ann_at_nine(meeting(10, 9));
+    tick();
+    add(meeting(8, 9));
+    add(meeting(9, 9));
+    drag(row_of(nine), col_of(10), row_of(eleven), col_of(12));
+    EXPECT_EQ(shown(row_of(nine), col_of(8)), "Chris Smith");
+    EXPECT_EQ(shown(row_of(nine), col_of(9)), "Chris Smith");
+    EXPECT_EQ(shown(row_of(eleven), col_of(12)), "Chris Smith");
+    EXPECT_EQ(shown(row_of(nine), col_of(10)), "");
+}
+
 TEST_F(DragDrop, OverTheCellsOfTheDaysShowsThatADropIsPermitted) {
     open();
     EXPECT_EQ(icon_at(x(2), y(1)), 1);

@@ -70,6 +70,20 @@ TEST_F(InstanceEditor, OnTheFirstOccurrenceNeedsARefreshEvenIfNothingWasChanged)
     EXPECT_EQ(stored(series).revision, before.revision);
 }
 
+TEST_F(InstanceEditor, HasTheInstanceRememberedUntilItIsKeptOrDropped) {
+    using Response = interaction::ActivityChange::Response;
+    for (const Response response : {Response::cancel, Response::all_instances, Response::this_instance}) {
+        question.answers = {static_cast<int>(response)};
+        running_desk.on_command = [&](CommandNumber) {
+            EXPECT_EQ(remembered_instances(), 1);
+            change(running_desk.selected, [](store::Activity& one) { one.regarding += "!"; });
+        };
+        edit(10);
+        EXPECT_EQ(remembered_instances(), 0);
+    }
+    EXPECT_EQ(all().size(), 2U);
+}
+
 TEST_F(InstanceEditor, OnALaterOccurrenceRunsTheCommandOnATemporaryInstanceOfAllDates) {
     std::string edited;
     running_desk.on_command = [&](CommandNumber) {

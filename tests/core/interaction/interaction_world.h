@@ -4,6 +4,7 @@
 #include "core/engine/engine_world.h"
 #include "core/interaction/interaction.h"
 #include "core/values/text.h"
+#include "desk/store/sqlite_connection.h"
 #include "support/fake_main_window.h"
 #include "support/fake_presenter.h"
 #include "support/recording_act.h"
@@ -88,6 +89,13 @@ public:
         return others.front();
     }
     std::int64_t revision() { return store().revision(); }
+    // The temporary instances that would be taken back, should the program die now.
+    std::int64_t remembered_instances() {
+        store::SqliteConnection connection(database.path(), store::SqliteConnection::Mode::read_write);
+        store::Rows rows = connection.query("SELECT count(*) FROM temporary_instances WHERE settled_revision > 0");
+        rows.step();
+        return rows.number(0);
+    }
     // A change that the desk's user makes now; what is stored later is later by a minute.
     template <typename Change>
     void change(const std::string& id, Change change) {

@@ -243,6 +243,15 @@ TEST_F(Lookups, TryNoThirdTimeAndSayNothing) {
     EXPECT_TRUE(box.shown.empty());
 }
 
+// Ids are counted by characters, as the desk does.
+TEST_F(Lookups, TakeNoSecondTryWhereAnIdHasMoreBytesThanCharacters) {
+    open_three();
+    cell(row_of(nine), col_of(10)).ContactID("CÖNTACT00001");
+    right_click(row_of(nine), 0);
+    look_up();
+    EXPECT_EQ(view_calls(), Calls{"CreateLookup"});
+}
+
 TEST_F(Lookups, TakeNoSecondTryWhereAllWereFound) {
     open_three();
     right_click(0, 0);

@@ -4,6 +4,7 @@
 #include "support/failure_number.h"
 #include "support/fake_message_box.h"
 #include "support/fake_user_store.h"
+#include "support/fake_window.h"
 #include "support/locales.h"
 #include "support/plain_files.h"
 #include "support/temporary_folder.h"
@@ -25,7 +26,8 @@ protected:
     support::PlainFiles files;
     support::FakeMessageBox box;
     host::ApplicationInfo application;
-    host::Guard guarded{box, application};
+    support::FakeWindow window;
+    host::Guard guarded{box, application, window};
     IniLib ini{files, guarded};
     support::FakeUserStore store;
     PerUserStore per_user{store};

@@ -4,6 +4,7 @@
 #include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>
+#include <stdexcept>
 
 using settings::FileUserStore;
 using Values = std::vector<std::pair<std::string, std::string>>;
@@ -124,9 +125,40 @@ TEST_F(FileUserStoreTest, AReadSeesWhatAnotherProcessWrote) {
     EXPECT_EQ(other.read("branch", "name"), "1");
 }
 
+TEST_F(FileUserStoreTest, ABlocksChangesAreKeptAtOnceAtItsEnd) {
+    store.write("branch", "old", "1");
+    const std::string before = support::content_of(path);
+    EXPECT_TRUE(store.together([&] {
+        for (int i = 0; i < 100; ++i)
+            EXPECT_TRUE(store.write("branch", "name" + std::to_string(i), std::to_string(i)));
+        EXPECT_TRUE(store.remove("branch", "old"));
+        EXPECT_TRUE(store.together([&] { store.write("inner", "name", "2"); }));
+        EXPECT_EQ(store.read("branch", "name7"), "7");
+        EXPECT_EQ(store.list("branch").size(), 100U);
+        EXPECT_EQ(support::content_of(path), before);
+    }));
+    FileUserStore other(files, path);
+    EXPECT_EQ(other.list("branch").size(), 100U);
+    EXPECT_EQ(other.list("branch")[99].first, "name99");
+    EXPECT_EQ(other.read("inner", "name"), "2");
+    EXPECT_FALSE(other.read("branch", "old"));
+}
+
+TEST_F(FileUserStoreTest, ABlockThatFailsKeepsWhatItChangedBefore) {
+    EXPECT_THROW(store.together([&] {
+        store.write("branch", "name", "1");
+        throw std::runtime_error("failed");
+    }),
+                 std::runtime_error);
+    EXPECT_EQ(FileUserStore(files, path).read("branch", "name"), "1");
+    EXPECT_TRUE(store.write("branch", "second", "2"));
+    EXPECT_EQ(FileUserStore(files, path).read("branch", "second"), "2");
+}
+
 TEST_F(FileUserStoreTest, WritingIsFalseWhereTheFolderIsMissing) {
     FileUserStore nowhere(files, folder.file("missing/per-user.txt"));
     EXPECT_FALSE(nowhere.write("branch", "name", "1"));
+    EXPECT_FALSE(nowhere.together([&] { nowhere.write("branch", "name", "1"); }));
     EXPECT_FALSE(nowhere.read("branch", "name"));
 }
 

@@ -2,6 +2,7 @@
 
 #include "core/values/text.h"
 #include "support/fake_message_box.h"
+#include "support/fake_window.h"
 #include "support/plain_files.h"
 #include "support/temporary_folder.h"
 
@@ -30,7 +31,8 @@ protected:
     support::PlainFiles files;
     support::FakeMessageBox box;
     host::ApplicationInfo application{.title = "Orvanta"};
-    host::Guard guarded{box, application};
+    support::FakeWindow window;
+    host::Guard guarded{box, application, window};
     IniLib ini{files, guarded};
 };
 
@@ -224,4 +226,23 @@ TEST_F(FileExists, TakesFilesAndFolders) {
     EXPECT_TRUE(ini.FileExists(path));
     EXPECT_TRUE(ini.FileExists(folder.path()));
     EXPECT_FALSE(ini.FileExists(""));
+}
+
+TEST_F(WriteKeyValue, TellsOnceOfEachFileThatCantBeWritten) {
+    Names told;
+    IniLib telling(files, guarded, [&](const std::string& file) { told.push_back(file); });
+    telling.SettingsFile = folder.file("missing/Orvanta.ini");
+    std::string second = folder.file("missing/second.ini");
+    EXPECT_FALSE(telling.WriteKeyValue("s", "a", "1"));
+    EXPECT_FALSE(telling.WriteKeyValue("s", "b", "1"));
+    EXPECT_FALSE(telling.WriteKeyValue("s", "a", "1", second));
+    EXPECT_EQ(told, (Names{telling.SettingsFile, second}));
+}
+
+TEST_F(WriteKeyValue, TellsNothingOfAValueThatCantStandInAFile) {
+    Names told;
+    IniLib telling(files, guarded, [&](const std::string& file) { told.push_back(file); });
+    telling.SettingsFile = path;
+    EXPECT_FALSE(telling.WriteKeyValue("s", "a", "two\nlines"));
+    EXPECT_TRUE(told.empty());
 }

@@ -2,6 +2,7 @@
 
 #include "shell_world.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
 
 namespace {
@@ -35,6 +36,22 @@ TEST_F(Closing, StoresTheHeightOfEachRowUnderTheView) {
     EXPECT_EQ(stored("RowHeightDaily1"), "absent");
 }
 
+TEST_F(Closing, KeepsAllThatItStoresAtOnceInTheOrderOfTheRows) {
+    start();
+    user_store.times_kept = 0;
+    calendar.closing.Form_Unload();
+    EXPECT_EQ(user_store.times_kept, 1);
+    Texts names;
+    for (const auto& [name, value] : user_store.list("Software\\Program Settings\\Orvanta\\Settings"))
+        names.push_back(name);
+    const auto first = std::ranges::find(names, "RowHeightWeekly0");
+    ASSERT_NE(first, names.end());
+    for (int row = 0; row <= 18; ++row)
+        EXPECT_EQ(first[row], "RowHeightWeekly" + std::to_string(row));
+    EXPECT_EQ(Texts(first + 19, names.end()),
+              (Texts{"WindowState", "Left", "Top", "Width", "Height", "WeeklyView"}));
+}
+
 TEST_F(Closing, OfADailyViewStoresItAsSuch) {
     store("WeeklyView", "0");
     start();
@@ -63,6 +80,17 @@ TEST_F(Closing, LetsTheApplicationGoClosesTheDatabaseAndEndsTheProgram) {
     EXPECT_EQ(data.calls, (Texts{"Application released", "Database.Close"}));
     EXPECT_EQ(program.ends, 1);
     EXPECT_FALSE(tmr2.running);
+}
+
+TEST_F(Closing, LetsTheApplicationGoThatHasNoDatabaseForTheCalendar) {
+    data.failing = {"create database"};
+    start();
+    data.calls.clear();
+    box.shown.clear();
+    calendar.closing.mnuExit_Click();
+    EXPECT_EQ(data.calls, Texts{"Application released"});
+    EXPECT_EQ(boxes(), Texts{});
+    EXPECT_EQ(program.ends, 1);
 }
 
 TEST_F(Closing, OfAStartThatStoppedShowsNoFurtherBox) {

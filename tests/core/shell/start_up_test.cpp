@@ -1,6 +1,7 @@
 #include "shell_world.h"
 
 #include <gtest/gtest.h>
+#include <set>
 
 namespace {
 
@@ -14,8 +15,8 @@ TEST_F(StartUp, ComesUpWithoutABoxAndInFront) {
     start();
     EXPECT_EQ(boxes(), Texts{});
     EXPECT_EQ(window.unloads, 0);
-    EXPECT_EQ(window.calls.back(), "set_window_state");
-    EXPECT_EQ(*(window.calls.end() - 2), "bring_to_front");
+    EXPECT_EQ(Texts(window.calls.end() - 5, window.calls.end()),
+              (Texts{"set_left", "set_top", "set_size", "bring_to_front", "set_window_state"}));
     EXPECT_EQ(calendar.start_up.ActHwnd, 4711U);
 }
 
@@ -254,6 +255,34 @@ TEST_F(StartUp, CantTakeAStateThatThereIsNot) {
     store("WindowState", "3");
     start();
     EXPECT_EQ(boxes(), Texts{"Error 380: 'Invalid property value'"});
+}
+
+TEST_F(StartUp, TellsOfAStateThatIsNoneOnceAlthoughTheEndOfItsBoxActivatesTheWindow) {
+    store("WindowState", "seven");
+    bool was_loading = true;
+    box.while_shown = [&] { was_loading = calendar.grid.bLoading; };
+    start();
+    calendar.start_up.Form_Activate();
+    EXPECT_EQ(boxes(), Texts{"Error 13: 'Type mismatch'"});
+    EXPECT_FALSE(was_loading);
+    EXPECT_FALSE(calendar.grid.bLoading);
+}
+
+TEST_F(StartUp, TellsOfASlotsTimeThatIsNoneOnceInEachProcedureThatMeetsIt) {
+    have_settings("[Slots]\nSlot3=noon\n[Off]\nMonday=08:00|09:00\nTuesday=08:00|09:00\n");
+    for (int day = 7; day <= 13; ++day)
+        for (int hour = 8; hour <= 16; ++hour)
+            data.add_activity("MEETING" + std::to_string(day * 100 + hour + 10000),
+                              DateTime::of(2024, 1, day, hour), id("Ann"));
+    start();
+    std::set<std::string> different;
+    for (const host::Message& message : box.shown)
+        different.insert(message.text);
+    EXPECT_EQ(different.size(), box.shown.size());
+    EXPECT_LE(box.shown.size(), 3U);
+    const std::size_t at_start = box.shown.size();
+    calendar.menu.mnuFullRefresh_Click();
+    EXPECT_GT(box.shown.size(), at_start); // it is another command
 }
 
 TEST_F(StartUp, StopsAtASettingThatIsNoNumberAndLeavesTheWindowOpen) {

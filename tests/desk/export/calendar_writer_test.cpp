@@ -12,7 +12,7 @@ using values::DateTime;
 
 namespace {
 
-constexpr std::int64_t stamp = 1'710'000'000; // 2024-03-09 16:00 in UTC
+const exporting::Origin origin{.identity = "0123456789abcdef", .stamp = 1'710'000'000}; // 2024-03-09 16:00 in UTC
 
 store::Activity meeting() {
     store::Activity activity;
@@ -35,7 +35,7 @@ store::Activity series(const store::Recurrence& rule, DateTime start) {
 // Lines that were folded are whole again.
 std::string unfolded(const std::string& text) { return values::replaced(text, "\r\n ", ""); }
 
-std::string text_of(const store::Activity& activity) { return unfolded(calendar_text(activity, {}, stamp)); }
+std::string text_of(const store::Activity& activity) { return unfolded(calendar_text(activity, {}, origin)); }
 
 bool has_line(const std::string& text, const std::string& line) {
     return values::contains(text, "\r\n" + line + "\r\n");
@@ -48,7 +48,7 @@ store::Activity received(const store::Activity& activity) {
     importing::Options options;
     options.now = DateTime::of(2024, 3, 11, 9);
     options.local_time = [](std::int64_t) { return DateTime::of(2024, 3, 11, 9); };
-    importing::import_bytes(database.store(), calendar_text(activity, {}, stamp), "file", options);
+    importing::import_bytes(database.store(), calendar_text(activity, {}, origin), "file", options);
     const auto all = database.store().activities({});
     EXPECT_EQ(all.size(), 1u);
     return all.empty() ? store::Activity() : all.front();
@@ -57,13 +57,13 @@ store::Activity received(const store::Activity& activity) {
 } // namespace
 
 TEST(CalendarText, WritesAMeetingAsAnEvent) {
-    EXPECT_EQ(calendar_text(meeting(), {{"Zoe Quinn", "zoe@amber.example"}, {"Yann Reed", ""}}, stamp),
+    EXPECT_EQ(calendar_text(meeting(), {{"Zoe Quinn", "zoe@amber.example"}, {"Yann Reed", ""}}, origin),
               "BEGIN:VCALENDAR\r\n"
               "VERSION:2.0\r\n"
               "PRODID:-//Orvanta//Contact Desk//EN\r\n"
               "METHOD:PUBLISH\r\n"
               "BEGIN:VEVENT\r\n"
-              "UID:A00000000001@contact-desk\r\n"
+              "UID:A00000000001.0123456789abcdef@contact-desk\r\n"
               "DTSTAMP:20240309T160000Z\r\n"
               "SUMMARY:Plans\r\n"
               "CONTACT:Zoe Quinn <zoe@amber.example>\r\n"
@@ -95,7 +95,7 @@ TEST(CalendarText, MarksInTextsAreEscapedAndMakeNoLines) {
     auto activity = meeting();
     activity.regarding = "Tea, cake; \\ and\r\nATTACH:file:///etc/passwd";
     activity.details = "One\nEND:VEVENT\r\nTwo\x01";
-    const auto text = unfolded(calendar_text(activity, {{"Eve\nEND:VEVENT", "e@x\nSUMMARY:no"}}, stamp));
+    const auto text = unfolded(calendar_text(activity, {{"Eve\nEND:VEVENT", "e@x\nSUMMARY:no"}}, origin));
     EXPECT_TRUE(has_line(text, "SUMMARY:Tea\\, cake\\; \\\\ and ATTACH:file:///etc/passwd"));
     EXPECT_TRUE(has_line(text, "DESCRIPTION:One\\nEND:VEVENT\\nTwo"));
     EXPECT_TRUE(has_line(text, "CONTACT:Eve END:VEVENT <e@x SUMMARY:no>"));
@@ -157,5 +157,5 @@ TEST(CalendarText, TheReceiverGetsTheExceptionsBack) {
 TEST(CalendarText, FailsForAnActivityWithoutADate) {
     auto someday = meeting();
     someday.start.reset();
-    EXPECT_THROW(calendar_text(someday, {}, stamp), values::Failure);
+    EXPECT_THROW(calendar_text(someday, {}, origin), values::Failure);
 }

@@ -5,6 +5,9 @@
 
 #include <gtest/gtest.h>
 
+#include <set>
+#include <string>
+
 namespace {
 
 using importing::Report;
@@ -22,17 +25,18 @@ const std::string plain_entry = "BEGIN:VEVENT\nDTSTART:20240312T090000\nSUMMARY:
 class ReadCalendar : public testing::Test {
 protected:
     // What an import would do with the calendar, at the work that it may do.
-    std::vector<importing::FoundActivity> read(const std::string& lines) {
+    importing::FoundCalendar read_all(const std::string& lines) {
         const std::string text = "BEGIN:VCALENDAR\n" + lines + "END:VCALENDAR\n";
         Work work(importing::least_work + text.size() * importing::work_for_a_byte);
         const importing::LocalTime local_time = test_import::berlin;
         importing::MachineZones zones({}, work);
-        const auto components = importing::components_of(text);
+        const auto components = importing::content_of(text).components;
         auto found = importing::read_calendar(
             components.at(0), {values::DateTime::of(2024, 3, 11), local_time, zones, work}, report);
         spent = work.spent();
         return found;
     }
+    std::vector<importing::FoundActivity> read(const std::string& lines) { return read_all(lines).activities; }
     std::size_t skipped() const {
         return static_cast<std::size_t>(std::ranges::count(
             report.skipped, std::string("It would take too long to read."), &importing::Remark::text));
@@ -85,6 +89,31 @@ TEST_F(ReadCalendar, CopiesOfALongTextAndOfManyPeopleTakeTheirWorkToo) {
     report = {};
     read(entries(40, "RRULE:FREQ=HOURLY\n" + people));
     EXPECT_GT(skipped(), 20u);
+}
+
+TEST_F(ReadCalendar, AnEntryThatWasSkippedForItsWorkIsntWhole) {
+    const std::string endless = entries(1, "RRULE:FREQ=DAILY\nEXRULE:FREQ=SECONDLY\n");
+    const auto found =
+        read_all(endless + "BEGIN:VEVENT\nUID:1\nDTSTART:20240311T090000\nEND:VEVENT\n" + plain_entry);
+    EXPECT_EQ(found.whole_entries, std::set<std::string>{"1"});
+    EXPECT_EQ(found.cut_entries, std::set<std::string>{"0"});
+}
+
+TEST_F(ReadCalendar, AnEntryIsWholeOnlyWhenAllOfItsDatesWereTaken) {
+    const auto is_whole = [&](const std::string& lines) {
+        const auto found = read_all(entries(1, lines));
+        EXPECT_NE(found.whole_entries.contains("0"), found.cut_entries.contains("0")) << lines;
+        return found.whole_entries.contains("0");
+    };
+    EXPECT_TRUE(is_whole("RRULE:FREQ=DAILY\n"));
+    EXPECT_TRUE(is_whole("RRULE:FREQ=DAILY;COUNT=3\nEXRULE:FREQ=DAILY\n"));
+    EXPECT_TRUE(is_whole("RDATE:20240312T090000,20240313T090000\n"));
+    EXPECT_FALSE(is_whole("RRULE:FREQ=HOURLY;INTERVAL=5;COUNT=1001\n"));
+    EXPECT_FALSE(is_whole("RRULE:FREQ=SECONDLY\n"));
+    EXPECT_FALSE(is_whole("RRULE:FREQ=SOMETIMES\n"));
+    EXPECT_FALSE(is_whole("RRULE:FREQ=DAILY;COUNT=3\nRRULE:FREQ=WEEKLY\n"));
+    EXPECT_FALSE(is_whole("RRULE:FREQ=DAILY;X-LONG=" + std::string(200'000, 'x') + "\n"));
+    EXPECT_FALSE(is_whole("RDATE:20240312T090000,20249999T090000\n"));
 }
 
 // As many as fit into a megabyte: nothing that a person could have made is turned away.

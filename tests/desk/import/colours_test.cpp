@@ -22,4 +22,11 @@ TEST(ColourOf, KnowsNoOtherText) {
         EXPECT_FALSE(colour_of(text)) << text;
 }
 
+TEST(NearestName, IsTheColoursOwnWhereItHasOneAndElseAClose) {
+    EXPECT_EQ(importing::nearest_name(*importing::colour_of("tomato")), "tomato");
+    EXPECT_EQ(importing::nearest_name(0x0101FF), "red");
+    EXPECT_EQ(importing::nearest_name(0x00FE0000), "blue");
+    EXPECT_EQ(importing::nearest_name(0xFFFFFFFF), "white");
+}
+
 } // namespace

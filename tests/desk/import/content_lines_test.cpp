@@ -10,15 +10,15 @@ using namespace importing;
 
 std::string refusal_of(std::string_view bytes) {
     try {
-        components_of(bytes);
+        content_of(bytes);
     } catch (const values::Failure& failure) {
         return failure.description();
     }
     return "";
 }
 
-TEST(ComponentsOf, NestsComponentsAndKeepsLineNumbers) {
-    const auto whole = components_of("\nbegin:a\nX:1\n 2\nBEGIN:B\nY:3\nend:b\nZ:4\nEND:A\n");
+TEST(ContentOf, NestsComponentsAndKeepsLineNumbers) {
+    const auto whole = content_of("\nbegin:a\nX:1\n 2\nBEGIN:B\nY:3\nend:b\nZ:4\nEND:A\n").components;
     ASSERT_EQ(whole.size(), 1u);
     EXPECT_EQ(whole[0].name, "A");
     EXPECT_EQ(whole[0].line, 2);
@@ -28,7 +28,7 @@ TEST(ComponentsOf, NestsComponentsAndKeepsLineNumbers) {
     EXPECT_EQ(whole[0].parts.at(0).lines.at(0).text, "Y:3");
 }
 
-TEST(ComponentsOf, SaysWhatIsWrong) {
+TEST(ContentOf, SaysWhatIsWrong) {
     EXPECT_EQ(refusal_of(std::string_view("BEGIN:A\0", 8)), "it is no text file");
     EXPECT_EQ(refusal_of("hello"), "it has something that is no calendar and no address card in line 1");
     EXPECT_EQ(refusal_of("END:A"), "it has something that is no calendar and no address card in line 1");
@@ -36,7 +36,30 @@ TEST(ComponentsOf, SaysWhatIsWrong) {
     EXPECT_EQ(refusal_of("BEGIN:A\nX:1"), "it seems cut off: the entry that begins in line 1 has no end");
 }
 
-TEST(ComponentsOf, RefusesEndlessNesting) {
+TEST(ContentOf, TellsOfLinesThatStandInNoComponent) {
+    const Content content = content_of("X:0\nBEGIN:A\nX:1\nEND:A\nEND:A\nhello");
+    EXPECT_EQ(content.components.size(), 1u);
+    EXPECT_EQ(content.stray_lines, (std::vector<int>{1, 5, 6}));
+}
+
+TEST(ContentOf, OneBrokenByteLeavesTheOtherLinesAndCharactersAsTheyAre) {
+    const Content content = content_of("BEGIN:A\nX:Größe\nY:Größe \xE9 Zoë\nEND:A");
+    ASSERT_EQ(content.components.size(), 1u);
+    EXPECT_EQ(content.components[0].lines.at(0).text, "X:Größe");
+    EXPECT_EQ(content.components[0].lines.at(1).text, "Y:Größe é Zoë");
+    EXPECT_EQ(content.mended_lines, 1u);
+}
+
+TEST(Readable, ReadsWhatIsNoUtf8AsWindows1252) {
+    EXPECT_EQ(readable("plain, Zoë, €, 😀"), "plain, Zoë, €, 😀");
+    EXPECT_EQ(readable("Gr\xF6\xDF"
+                       "e 5 \x80"),
+              "Größe 5 €");
+    EXPECT_EQ(readable("€\xE2\x82"), "€â‚");
+    EXPECT_EQ(readable(""), "");
+}
+
+TEST(ContentOf, RefusesEndlessNesting) {
     std::string bytes;
     for (int i = 0; i < 100000; ++i)
         bytes += "BEGIN:A\n";

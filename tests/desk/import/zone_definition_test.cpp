@@ -4,14 +4,14 @@
 
 namespace {
 
-using importing::components_of;
+using importing::content_of;
 using importing::Zone;
 using values::DateTime;
 
 const std::string offsets = "TZOFFSETFROM:+0100\nTZOFFSETTO:+0200\n";
 
 std::optional<Zone> zone_of(const std::string& parts, std::size_t* units = nullptr) {
-    const auto components = components_of("BEGIN:VTIMEZONE\nTZID:Here\n" + parts + "END:VTIMEZONE\n");
+    const auto components = content_of("BEGIN:VTIMEZONE\nTZID:Here\n" + parts + "END:VTIMEZONE\n").components;
     return importing::zone_of(components.at(0), [&](std::size_t more) {
         if (units)
             *units += more;

@@ -5,7 +5,7 @@
 namespace {
 
 using importing::Component;
-using importing::components_of;
+using importing::content_of;
 using importing::MachineZones;
 using importing::Work;
 using importing::Zone;
@@ -31,7 +31,7 @@ std::string parts(int count, const std::string& rule) {
 class ZonesOf : public testing::Test {
 protected:
     const Zone* find(const std::string& definitions, const std::string& name) {
-        calendar = components_of("BEGIN:VCALENDAR\n" + definitions + "END:VCALENDAR\n").at(0);
+        calendar = content_of("BEGIN:VCALENDAR\n" + definitions + "END:VCALENDAR\n").components.at(0);
         zones.emplace(calendar, machine, work);
         return zones->find(name);
     }

@@ -23,8 +23,11 @@ class Filtered : public TeamTest {
 protected:
     std::vector<std::string> ids(const ActivityFilter& filter, std::optional<std::string> of = std::nullopt) {
         std::vector<std::string> result;
-        for (const auto& activity : filtered(*team, filter, now(), of))
-            result.push_back(activity.id);
+        model::FilteredActivities found(*team, filter, now(), of);
+        for (auto piece = found.next(2); !piece.empty(); piece = found.next(2))
+            for (const auto& activity : piece)
+                result.push_back(activity.id);
+        EXPECT_EQ(static_cast<int>(result.size()), found.count());
         return result;
     }
     using Ids = std::vector<std::string>;

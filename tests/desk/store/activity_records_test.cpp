@@ -222,8 +222,11 @@ TEST_F(Activities, ComeForAUserAndForAContactThatTakesPart) {
     store.add(second);
     EXPECT_EQ(names(store.activities({.contact = max})), "first second ");
     EXPECT_EQ(names(store.activities({.contact = eve})), "second ");
-    EXPECT_EQ(names(store.activities({.user = ann})), "first ");
-    EXPECT_EQ(names(store.activities({.contact = max, .user = "~Ab/1234567"})), "first ");
+    EXPECT_EQ(names(store.activities({.users = {ann}})), "first ");
+    EXPECT_EQ(names(store.activities({.contact = max}, 1, 5)), "second ");
+    EXPECT_EQ(names(store.activities({.contact = max}, 0, 1)), "first ");
+    EXPECT_EQ(store.count({.contact = max}), 2);
+    EXPECT_EQ(names(store.activities({.contact = max, .users = {"~Ab/1234567"}})), "first ");
     EXPECT_EQ(store.activities({.contact = eve}).front().contacts, (std::vector<std::string>{eve, max}));
 }
 

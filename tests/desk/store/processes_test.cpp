@@ -26,6 +26,20 @@ Activity numbered(int number) {
     return activity;
 }
 
+// Those of the 200 records that it adds first.
+std::string first_ids_of(ChildProcess& writer) {
+    std::string ids;
+    while (ids.size() < 200 * 12) {
+        const std::string part = writer.read();
+        if (part.empty()) {
+            ADD_FAILURE() << "The writer has ended: " << ids;
+            break;
+        }
+        ids += part;
+    }
+    return ids;
+}
+
 DateTime any_moment() { return DateTime::of(2024, 3, 11, 9); }
 
 } // namespace
@@ -68,9 +82,7 @@ TEST(Processes, KeepEveryActivityOfAWriterThatWasKilled) {
         for (int i = 0;; ++i)
             report(store->add(numbered(i)));
     });
-    std::string reported;
-    while (reported.size() < 200 * 12)
-        reported += writer.read();
+    std::string reported = first_ids_of(writer);
     writer.kill();
     for (std::string rest = writer.read(); !rest.empty(); rest = writer.read())
         reported += rest;
@@ -94,9 +106,7 @@ TEST(Processes, StoreNothingOfABlockWhoseWriterWasKilled) {
                 report(store->add(numbered(i)));
         });
     });
-    std::string reported;
-    while (reported.size() < 200 * 12)
-        reported += writer.read();
+    std::string reported = first_ids_of(writer);
     writer.kill();
     EXPECT_TRUE(database.open_again()->activities({}).empty());
 }

@@ -1,10 +1,12 @@
 #include "desk/store/schema.h"
 
 #include "desk/store/expect_failure.h"
+#include "desk/store/imported_records.h"
 #include "support/temporary_database.h"
 
 #include <gtest/gtest.h>
 #include <sqlite3.h>
+#include <sys/stat.h>
 
 #include <algorithm>
 #include <filesystem>
@@ -52,6 +54,18 @@ void expect_failure_with(const std::string& path, const std::string& part) {
 }
 
 } // namespace
+
+TEST(Schema, MakesFilesForTheirOwnerAlone) {
+    const mode_t usual = ::umask(0);
+    TemporaryDatabase database;
+    database.store().add(store::Contact{});
+    for (const char* ending : {"", "-wal", "-shm"}) {
+        struct stat status = {};
+        ASSERT_EQ(::stat((database.path() + ending).c_str(), &status), 0) << ending;
+        EXPECT_EQ(status.st_mode & 0777, 0600U) << ending;
+    }
+    ::umask(usual);
+}
 
 TEST(Schema, RefusesAMissingFile) {
     const TemporaryFolder folder;
@@ -192,6 +206,28 @@ TEST(Schema, OpensADatabaseThatVersion1Left) {
         EXPECT_LT(activities[1].id, store->add(store::Activity{}));
     }
     TemporaryDatabase fresh;
+    fresh.close();
+    EXPECT_EQ(tables_of(path), tables_of(fresh.path()));
+}
+
+TEST(Schema, OpensADatabaseThatVersion2Left) {
+    const TemporaryFolder folder;
+    const std::string path = folder.file("old.desk");
+    run_script(path, content_of(std::string(TEST_DATA) + "/desk/version_2.sql"));
+    std::string identity;
+    {
+        const auto store = Store::open(path);
+        const auto activities = store->activities({});
+        ASSERT_EQ(activities.size(), 2u);
+        EXPECT_EQ(activities[1].contacts.size(), 2u);
+        identity = store->identity();
+        EXPECT_EQ(identity.size(), 16u);
+        store->imported_records().remember({.uid = "round", .record = activities[0].id});
+        EXPECT_EQ(store->imported_records().of(store::RecordKind::activity, "", "round").size(), 1u);
+    }
+    EXPECT_EQ(Store::open(path)->identity(), identity);
+    TemporaryDatabase fresh;
+    EXPECT_NE(fresh.store().identity(), identity);
     fresh.close();
     EXPECT_EQ(tables_of(path), tables_of(fresh.path()));
 }

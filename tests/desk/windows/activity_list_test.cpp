@@ -1,10 +1,10 @@
 #include "desk/windows/activity_list.h"
 
 #include "core/values/failure.h"
-#include "desk/windows/date_field.h"
 #include "desk/windows/record_table.h"
 #include "desk/windows/rows.h"
 #include "desk_fixture.h"
+#include "widgets/date_field.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -80,20 +80,20 @@ TEST_F(ActivityListTest, FiltersByPeriod) {
     show(list);
     choose(list, "period_box", "Today");
     EXPECT_EQ(ids(list), (Ids{series, call}));
-    EXPECT_FALSE(child<DateField>(list, "from_edit")->isVisible());
+    EXPECT_FALSE(child<widgets::DateField>(list, "from_edit")->isVisible());
 }
 
 TEST_F(ActivityListTest, ARangeIsTypedIntoTwoDateFields) {
     ActivityList list(database, Scope::everybody);
     show(list);
     choose(list, "period_box", "Date range");
-    auto* from = child<DateField>(list, "from_edit");
+    auto* from = child<widgets::DateField>(list, "from_edit");
     EXPECT_TRUE(from->isVisible());
     EXPECT_EQ(from->date(), at(3, 6));
     from->setFocus();
     retype(from, "3/7/2024");
     QTest::keyClick(from, Qt::Key_Return);
-    auto* to = child<DateField>(list, "to_edit");
+    auto* to = child<widgets::DateField>(list, "to_edit");
     retype(to, "3/8/2024");
     QTest::keyClick(to, Qt::Key_Return);
     EXPECT_EQ(ids(list), (Ids{series, meeting}));
@@ -122,7 +122,7 @@ TEST_F(ActivityListTest, AFilterSetFromOutsideShowsInTheBar) {
     EXPECT_EQ(ids(list), Ids{old_task});
     EXPECT_EQ(child<QPushButton>(list, "types_button")->text(), "&Types (1 of 3)");
     EXPECT_EQ(child<QComboBox>(list, "period_box")->currentText(), "Date range");
-    EXPECT_EQ(child<DateField>(list, "from_edit")->date(), at(1, 31));
+    EXPECT_EQ(child<widgets::DateField>(list, "from_edit")->date(), at(1, 31));
     EXPECT_EQ(child<QComboBox>(list, "user_box")->currentText(), "Anna Berg");
     EXPECT_TRUE(child<QCheckBox>(list, "cleared_box")->isChecked());
 }
@@ -189,4 +189,58 @@ TEST_F(ActivityListTest, IsEmptyWhenTheDatabaseCloses) {
     database.close();
     EXPECT_EQ(list.row_count(), 0);
     EXPECT_EQ(child<QComboBox>(list, "user_box")->count(), 1);
+}
+
+// Beside the others, one every five minutes from tomorrow on.
+class ManyActivities : public ActivityListTest {
+protected:
+    static constexpr int many = 3000;
+
+    ManyActivities() {
+        const auto team = elsewhere();
+        team->together([&] {
+            for (int i = 0; i < many; ++i)
+                team->add(sample_activity(store::ActivityType::call, at(3, 20).plus_minutes(5 * i),
+                                          std::to_string(many - i), anna, {amber}));
+        });
+        database.refresh();
+        show(list);
+    }
+    RecordTable& table() { return *child<RecordTable>(list, "activity_table"); }
+
+    ActivityList list{database, Scope::everybody};
+};
+
+TEST_F(ManyActivities, HaveTheirRowsAskedForAsTheyComeIntoSight) {
+    EXPECT_EQ(child<QLabel>(list, "count_label")->text(), "3003 activities");
+    const int at_first = list.row_count();
+    EXPECT_LT(at_first, 1500);
+    EXPECT_EQ(list.activity(3).regarding, "3000");
+    table().scrollToBottom();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return list.row_count() > at_first; }, 5000));
+    EXPECT_EQ(list.activity(at_first).regarding, std::to_string(many - at_first + 3));
+}
+
+TEST_F(ManyActivities, KeepTheRowsThatWereAskedForWhenTheyAreReadAgain) {
+    table().scrollToBottom();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return list.row_count() > 600; }, 5000));
+    const int asked_for = list.row_count();
+    activity(*elsewhere(), store::ActivityType::call, at(3, 7), "Remind", anna, {amber});
+    database.refresh();
+    EXPECT_GE(list.row_count(), asked_for);
+    EXPECT_EQ(child<QLabel>(list, "count_label")->text(), "3004 activities");
+}
+
+TEST_F(ManyActivities, AreAllAskedForWhenAnotherOrderIsWanted) {
+    table().sortByColumn(date_column, Qt::DescendingOrder);
+    EXPECT_EQ(list.row_count(), 3003);
+    EXPECT_EQ(list.activity(0).regarding, "1");
+}
+
+TEST_F(ManyActivities, AreNotAskedForOnceTheDatabaseIsClosed) {
+    database.close();
+    EXPECT_EQ(list.row_count(), 0);
+    table().scrollToBottom();
+    QTest::qWait(50);
+    EXPECT_EQ(list.row_count(), 0);
 }

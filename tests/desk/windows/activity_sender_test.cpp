@@ -3,6 +3,7 @@
 #include "core/values/failure.h"
 #include "desk_fixture.h"
 #include "support/fake_mail_program.h"
+#include "support/full_disk.h"
 
 #include <QDialogButtonBox>
 #include <QFileDialog>
@@ -103,6 +104,26 @@ TEST_F(ActivitySenderTest, CancelSavesNothingAndFinishes) {
     ASSERT_NE(box, nullptr);
     QTest::keyClick(box, Qt::Key_Escape);
     EXPECT_EQ(finished, 1);
+}
+
+TEST_F(ActivitySenderTest, AFullDiskIsToldAndLeavesTheOldFile) {
+    send(call);
+    click(dialog<QMessageBox>()->button(QMessageBox::Save));
+    auto* files = dialog<QFileDialog>();
+    const auto file = QString::fromStdString(in_folder("mine.ics"));
+    QFile old(file);
+    ASSERT_TRUE(old.open(QIODevice::WriteOnly) && old.write("old") == 3 && old.flush());
+    give_name(*files, file.toStdString());
+    int told = 0;
+    const auto tell = [&](QWidget& box) {
+        told += child<QLabel>(box, "qt_msgbox_label")->text().contains("mine.ics\" can't be written: ") ? 1 : 0;
+        QTest::keyClick(&box, Qt::Key_Return);
+    };
+    const auto replace = [](QWidget& box) { click(dynamic_cast<QMessageBox&>(box).button(QMessageBox::Yes)); };
+    const support::FullDisk disk;
+    with_dialogs({replace, tell}, [&] { save(*files); });
+    EXPECT_EQ(told, 1);
+    EXPECT_EQ(content(file), "old");
 }
 
 TEST_F(ActivitySenderTest, AFileThatCantBeWrittenIsTold) {

@@ -99,6 +99,26 @@ TEST_F(ClearDialogTest, AResultOfAnotherProgramIsKept) {
     EXPECT_EQ(stored(old_task)->result, "Postponed twice");
 }
 
+TEST_F(ClearDialogTest, ClearsAndLeavesWhatNobodyTypedIntoAsItWasStored) {
+    auto record = *database.store().activity(call);
+    record.regarding = "Two\nlines";
+    record.details = "10\u00a0km\r\nand back";
+    database.store().update(record);
+    clear(call);
+    ok();
+    EXPECT_TRUE(stored(call)->cleared);
+    EXPECT_EQ(stored(call)->regarding, "Two\nlines");
+    EXPECT_EQ(stored(call)->details, "10\u00a0km\r\nand back");
+}
+
+TEST_F(ClearDialogTest, OkWithoutAChangeOfAClearedActivityWritesNothing) {
+    const auto before = stored(old_task);
+    clear(old_task);
+    ok();
+    EXPECT_FALSE(dialog->isVisible());
+    EXPECT_EQ(stored(old_task), before);
+}
+
 TEST_F(ClearDialogTest, CancelLeavesTheActivityAsItWas) {
     clear(call);
     retype(part<QLineEdit>("regarding_edit"), "Never mind");

@@ -73,7 +73,7 @@ protected:
 
     support::PrivateBus bus;
     support::FakeMailProgram mail_program;
-    DeskWindow window{database, Import()};
+    DeskWindow window{database, Exchange()};
     OpenToolbarCommands toolbar{database};
     service::Service service{window.desk(), toolbar, values::english_us()};
     QDBusConnection caller = bus.connection();

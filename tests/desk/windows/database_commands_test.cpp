@@ -18,22 +18,9 @@ namespace {
 
 class DatabaseCommandsTest : public DeskTest {
 protected:
-    DatabaseCommandsTest() : lookup(database), commands(database, lookup, window, take) {
+    DatabaseCommandsTest() : lookup(database), commands(database, lookup, window) {
         QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
         window.show();
-    }
-
-    // A long file is taken until it is cancelled.
-    static std::string take(store::Store& store, const std::string& file, const Progress& progress) {
-        if (file.ends_with(".bad"))
-            throw values::Failure(values::FailureNumber::automation, "That file can't be read.");
-        store.together([&] {
-            contact(store, "Elm House", "Vera Upton");
-            while (file.ends_with(".long"))
-                if (!progress(0.5))
-                    throw values::Failure(values::FailureNumber::automation, "The import was cancelled.");
-        });
-        return "One contact was taken.";
     }
 
     std::function<void(QWidget&)> choose(const std::string& name) {
@@ -100,39 +87,6 @@ TEST_F(DatabaseCommandsTest, MakesAndOpensASample) {
     with_dialogs({choose("sample.desk")}, [&] { commands.create_sample(); });
     EXPECT_EQ(database.path(), in_folder("sample.desk"));
     EXPECT_FALSE(database.directory().contacts().empty());
-}
-
-TEST_F(DatabaseCommandsTest, AnImportTellsWhatItTook) {
-    database.open(path);
-    std::ofstream(in_folder("people.vcf")) << "x";
-    with_dialogs({choose("people.vcf"), confirm(told)}, [&] { commands.import_file(); });
-    EXPECT_EQ(told, "One contact was taken.");
-    EXPECT_EQ(database.directory().contacts().size(), 5u);
-}
-
-TEST_F(DatabaseCommandsTest, AnImportThatFailsTellsWhy) {
-    database.open(path);
-    std::ofstream(in_folder("people.bad")) << "x";
-    with_dialogs({choose("people.bad"), confirm(told)}, [&] { commands.import_file(); });
-    EXPECT_EQ(told, "That file can't be read.");
-    EXPECT_EQ(database.directory().contacts().size(), 4u);
-}
-
-TEST_F(DatabaseCommandsTest, AnImportThatIsCancelledTakesNothing) {
-    database.open(path);
-    std::ofstream(in_folder("people.long")) << "x";
-    const auto cancel = [](QWidget& box) {
-        click(box.findChild<QPushButton*>());
-        EXPECT_TRUE(QTest::qWaitFor([&] { return !box.isVisible(); }));
-    };
-    with_dialogs({choose("people.long"), cancel}, [&] { commands.import_file(); });
-    EXPECT_EQ(elsewhere()->contacts().size(), 4u);
-    EXPECT_TRUE(database.is_open());
-}
-
-TEST_F(DatabaseCommandsTest, ThereIsNoImportWithoutOne) {
-    EXPECT_TRUE(commands.can_import());
-    EXPECT_FALSE(DatabaseCommands(database, lookup, window, {}).can_import());
 }
 
 TEST_F(DatabaseCommandsTest, AddsAUser) {

@@ -23,7 +23,7 @@ namespace {
 
 class DeskWindowTest : public DeskTest {
 protected:
-    DeskWindowTest() : window(std::make_unique<DeskWindow>(database, Import())) {
+    DeskWindowTest() : window(std::make_unique<DeskWindow>(database, Exchange())) {
         window->show();
         EXPECT_TRUE(QTest::qWaitForWindowActive(window.get()));
         window->desk().on_database_closed = [this] { events.push_back("closed"); };
@@ -112,6 +112,20 @@ TEST_F(DeskWindowTest, ADatabaseThatCantBeWrittenCanBeReadAndSaysSo) {
     EXPECT_FALSE(action("contact_new")->isEnabled());
     EXPECT_FALSE(child<QLineEdit>(*window, "field_26")->isEnabled());
     EXPECT_THROW(window->desk().run_command(act::CommandNumber::schedule_activity, [] {}), values::Failure);
+}
+
+TEST_F(DeskWindowTest, ALookupOfAnotherProgramIsShownInFrontWhateverViewThereWas) {
+    window->open(path);
+    for (const char* other : {"view_task_list", "view_groups", "view_contact", "view_contact_list"}) {
+        action(other)->trigger();
+        window->showMinimized();
+        window->desk().contact_view().create_lookup({cedar, birch});
+        EXPECT_EQ(view(), "contact_list_view") << other;
+        EXPECT_TRUE(action("view_contact_list")->isChecked()) << other;
+        EXPECT_EQ(count(), "2 of 4 contacts");
+        EXPECT_FALSE(window->isMinimized()) << other;
+        EXPECT_TRUE(QTest::qWaitForWindowActive(window.get())) << other;
+    }
 }
 
 TEST_F(DeskWindowTest, TheMenusSwitchTheViews) {
@@ -267,6 +281,60 @@ TEST_F(DeskWindowTest, SeesWhatAnotherProcessWroteWithinASecondOrTwo) {
 TEST_F(DeskWindowTest, ImportsOnlyWhereThereIsAnImport) {
     window->open(path);
     EXPECT_FALSE(action("file_import")->isEnabled());
-    DeskWindow other(database, [](store::Store&, const std::string&, const Progress&) { return std::string(); });
+    DeskWindow other(database, {.take = [](store::Store&, const Taking&, const Progress&) { return Taken(); }});
     EXPECT_TRUE(other.findChild<QAction*>("file_import")->isEnabled());
+}
+
+// The desk, asked to end while an activity is edited and something typed for it.
+class EndingDesk : public DeskWindowTest {
+protected:
+    EndingDesk() {
+        window->open(path);
+        window->desk().contact_view().go_to(amber);
+        window->desk().contact_view().select_activity(1, true);
+        window->desk().run_command(act::CommandNumber::edit_activity, [this] { events.push_back("finished"); });
+        retype(child<QLineEdit>(*dialog(), "regarding_edit"), "Show both plans");
+    }
+    void end(QMessageBox::StandardButton answer) {
+        with_dialogs({[answer](QWidget& box) {
+                         EXPECT_TRUE(
+                             child<QLabel>(box, "qt_msgbox_label")->text().contains("Store what is typed"));
+                         click(dynamic_cast<QMessageBox&>(box).button(answer));
+                     }},
+                     [&] { window->end([this] { ++stays; }); });
+    }
+    std::string regarding() { return elsewhere()->activity(meeting)->regarding; }
+
+    int stays = 0;
+};
+
+TEST_F(EndingDesk, StoresWhatWasTypedWhenTheUserSaysSo) {
+    end(QMessageBox::Save);
+    EXPECT_EQ(regarding(), "Show both plans");
+    EXPECT_EQ(events, (Events{"finished", "wants to close", "closed"}));
+    EXPECT_EQ(stays, 0);
+}
+
+TEST_F(EndingDesk, ThrowsItAwayWhenTheUserSaysSo) {
+    end(QMessageBox::Discard);
+    EXPECT_EQ(regarding(), "Show the plan");
+    EXPECT_EQ(events, (Events{"finished", "wants to close", "closed"}));
+}
+
+TEST_F(EndingDesk, StaysWithTheDialogWhenTheUserSaysSo) {
+    end(QMessageBox::Cancel);
+    EXPECT_TRUE(window->isVisible());
+    ASSERT_NE(dialog(), nullptr);
+    EXPECT_EQ(child<QLineEdit>(*dialog(), "regarding_edit")->text(), "Show both plans");
+    EXPECT_EQ(events, Events{});
+    EXPECT_EQ(stays, 1);
+}
+
+TEST_F(DeskWindowTest, AskedToEndCancelsAQuestionThatIsOpenFirst) {
+    QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+    window->open(path);
+    QTimer::singleShot(100, [this] { window->end([] { FAIL(); }); });
+    action("file_open")->trigger(); // returns when its dialog has closed
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !window->isVisible(); }, 5000));
+    EXPECT_EQ(events, (Events{"wants to close", "closed"}));
 }

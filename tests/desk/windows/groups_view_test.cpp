@@ -62,6 +62,13 @@ TEST_F(GroupsViewTest, RenamesTheGroup) {
     EXPECT_EQ(elsewhere()->group(friends)->contacts.size(), 2u);
 }
 
+TEST_F(GroupsViewTest, ANameThatStaysWritesNothing) {
+    const auto before = database.store().revision();
+    with_dialogs({[](QWidget& dialog) { QTest::keyClick(&dialog, Qt::Key_Return); }},
+                 [&] { click(button("rename_group_button")); });
+    EXPECT_EQ(elsewhere()->revision(), before);
+}
+
 TEST_F(GroupsViewTest, AddsThePickedContacts) {
     with_dialogs({[](QWidget& dialog) {
                      type(child<QLineEdit>(dialog, "search_edit"), "amber");

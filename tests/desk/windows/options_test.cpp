@@ -32,6 +32,17 @@ TEST(Options, AnImportTakesAFileAndADatabaseInAnyOrder) {
               Task(ImportFile{"a.ics", "Anna Berg", "team.desk"}));
 }
 
+TEST(Options, AnImportMayBringBackWhatWasDeleted) {
+    EXPECT_EQ(task({"--import", "a.ics", "--with-deleted", "team.desk"}),
+              Task(ImportFile{"a.ics", "", "team.desk", true}));
+}
+
+TEST(Options, AnExportTakesAFileAndADatabase) {
+    EXPECT_EQ(task({"--export", "a.ics", "team.desk"}), Task(ExportFile{"a.ics", "", "team.desk"}));
+    EXPECT_EQ(task({"team.desk", "--user", "Anna Berg", "--export", "a.ics"}),
+              Task(ExportFile{"a.ics", "Anna Berg", "team.desk"}));
+}
+
 TEST(Options, HelpAndVersionComeBeforeEverythingElse) {
     EXPECT_EQ(task({"--new-sample", "s.desk", "--help"}), Task(ShowHelp{}));
     EXPECT_EQ(task({"-h"}), Task(ShowHelp{}));
@@ -52,8 +63,13 @@ TEST(Options, AnOptionNeedsItsValueAndHasItOnce) {
 
 TEST(Options, WhatDoesntGoTogetherIsRefused) {
     EXPECT_EQ(complaint({"--new-sample", "s.desk", "--import", "a.ics", "team.desk"}),
-              "--new-sample and --import can't be given together.");
-    EXPECT_EQ(complaint({"--user", "Anna", "team.desk"}), "--user belongs to --import.");
+              "Of --new-sample, --import and --export one can be given.");
+    EXPECT_EQ(complaint({"--export", "a.ics", "--import", "a.ics", "team.desk"}),
+              "Of --new-sample, --import and --export one can be given.");
+    EXPECT_EQ(complaint({"--user", "Anna", "team.desk"}), "--user belongs to --import or --export.");
+    EXPECT_EQ(complaint({"--with-deleted", "--export", "a.ics", "team.desk"}),
+              "--with-deleted belongs to --import.");
+    EXPECT_EQ(complaint({"--export", "a.ics"}), "--export needs the file and then one database.");
     EXPECT_EQ(complaint({"--new-sample", "s.desk", "other.desk"}), "--new-sample takes one file.");
     EXPECT_EQ(complaint({"a.desk", "b.desk"}), "One database can be opened at a time.");
     EXPECT_EQ(complaint({"--import", "a.ics"}), "--import needs the file and then one database.");
@@ -63,6 +79,7 @@ TEST(Options, WhatDoesntGoTogetherIsRefused) {
 }
 
 TEST(Options, TheHelpNamesEveryOption) {
-    for (const char* option : {"--new-sample", "--import", "--user", "--help", "--version"})
+    for (const char* option :
+         {"--new-sample", "--import", "--export", "--user", "--with-deleted", "--help", "--version"})
         EXPECT_NE(usage().find(option), std::string::npos) << option;
 }

@@ -4,7 +4,6 @@
 #include "support/with_dialogs.h"
 
 #include <QCheckBox>
-#include <QDateEdit>
 #include <QGroupBox>
 #include <QLineEdit>
 #include <QPushButton>
@@ -47,13 +46,13 @@ protected:
         QTabBar* bar = control<QTabWidget>("mstHolidays")->tabBar();
         QTest::mouseClick(bar, Qt::LeftButton, {}, bar->tabRect(1).center());
     }
-    // Types the digits of a month and a day of the picker's year, which goes on to the day by itself, and adds
-    // them.
-    void add(const char* month_and_day, const char* description) {
-        auto* dtpHol = control<QDateEdit>("dtpHol");
-        dtpHol->setFocus();
-        dtpHol->setSelectedSection(QDateTimeEdit::MonthSection);
-        QTest::keyClicks(dtpHol, month_and_day);
+    void type_date(const char* date) {
+        auto* dtpHol = control<QLineEdit>("dtpHol");
+        QTest::keyClick(dtpHol, Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClicks(dtpHol, date);
+    }
+    void add(const char* date, const char* description) {
+        type_date(date);
         with_dialogs({[&](QWidget& frmDescr) {
                          QTest::keyClicks(frmDescr.findChild<QLineEdit*>("txtDescr"), description);
                          QTest::keyClick(&frmDescr, Qt::Key_Return);
@@ -94,14 +93,13 @@ TEST_F(FrmHolidays, HasItsControlsByNameAndCaption) {
     EXPECT_EQ(titles->text(1), "Description");
     EXPECT_EQ(control<QPushButton>("cmdAdd")->text(), "&Add");
     EXPECT_EQ(control<QPushButton>("cmdDelete")->text(), "&Delete");
-    EXPECT_EQ(control<QDateEdit>("dtpHol")->date(), QDate(2024, 1, 10));
-    EXPECT_EQ(control<QDateEdit>("dtpHol")->displayFormat(), "M/d/yyyy");
+    EXPECT_EQ(control<QLineEdit>("dtpHol")->text(), "1/10/2024");
 }
 
 TEST_F(FrmHolidays, AddsTypedHolidaysInDateOrder) {
     open("1/1/2024=New Year\r\n12/25/2024=Christmas\r\n");
     show_holidays();
-    add("51", "May Day");
+    add("5/1/2024", "May Day");
     EXPECT_EQ(rows(), (Lines{"1/1/2024=New Year", "5/1/2024=May Day", "12/25/2024=Christmas"}));
     click("cmdOK");
     EXPECT_FALSE(form->isVisible());
@@ -110,11 +108,33 @@ TEST_F(FrmHolidays, AddsTypedHolidaysInDateOrder) {
     EXPECT_EQ(boxes(), Lines{restart_message});
 }
 
+TEST_F(FrmHolidays, TakesADateAsItWasTyped) {
+    open();
+    show_holidays();
+    add("11/26/2027", "Thanksgiving");
+    add("2/29/2028", "Leap day");
+    add("2026-12-31", "New Year's Eve");
+    EXPECT_EQ(rows(), (Lines{"12/31/2026=New Year's Eve", "11/26/2027=Thanksgiving", "2/29/2028=Leap day"}));
+}
+
+TEST_F(FrmHolidays, AddsNothingForATextThatIsNoDate) {
+    open();
+    show_holidays();
+    type_date("2/30/2024");
+    click("cmdAdd");
+    type_date(" ");
+    click("cmdAdd");
+    EXPECT_EQ(boxes(),
+              (Lines{"Error 440: '\"2/30/2024\" is no date.'", "Error 13: 'Give the date of the holiday.'"}));
+    EXPECT_EQ(rows(), Lines{});
+    EXPECT_TRUE(form->isVisible());
+}
+
 TEST_F(FrmHolidays, KeepsThePreviousDescriptionWhenTheNextIsCancelled) {
     open();
     show_holidays();
-    add("51", "May Day");
-    QTest::keyClick(control<QDateEdit>("dtpHol"), Qt::Key_Up);
+    add("5/1/2024", "May Day");
+    QTest::keyClick(control<QLineEdit>("dtpHol"), Qt::Key_Up);
     with_dialogs({[](QWidget& frmDescr) { QTest::keyClick(&frmDescr, Qt::Key_Escape); }},
                  [&] { click("cmdAdd"); });
     ASSERT_EQ(rows().size(), 2U);
@@ -145,7 +165,7 @@ TEST_F(FrmHolidays, ShowsTheFailureBoxForADeletionInAnEmptyList) {
     click("cmdDelete");
     ASSERT_EQ(box.shown.size(), 1U);
     EXPECT_TRUE(box.shown[0].text.starts_with("Error 91: "));
-    add("51", "May Day");
+    add("5/1/2024", "May Day");
     click("cmdDelete"); // the only one there is
     EXPECT_EQ(rows(), Lines{});
 }

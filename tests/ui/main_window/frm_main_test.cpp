@@ -258,6 +258,21 @@ TEST_F(FrmMain, TakesUpItsPlaceAndState) {
     EXPECT_EQ(window.size(), QSize(800, 500));
 }
 
+// The end of a box makes the window the active one again.
+TEST_F(FrmMain, TellsOnceOfAStoredStateThatIsNone) {
+    store("WindowState", "7");
+    box.while_shown = [&] {
+        ASSERT_LT(box.shown.size(), 10U);
+        QEvent activation(QEvent::WindowActivate);
+        QCoreApplication::sendEvent(&window, &activation);
+    };
+    load();
+    EXPECT_EQ(boxes(), std::vector<std::string>{"Error 380: 'Invalid property value'"});
+    window.resize(1000, 600);
+    settle();
+    EXPECT_FALSE(window.calendar().grid.bLoading);
+}
+
 TEST_F(FrmMain, ComesUpWithRoomForItsControlsBesideAStoredWidthThatIsTooSmall) {
     store("Width", "3000");
     store("Height", "6000");

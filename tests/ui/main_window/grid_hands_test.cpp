@@ -47,6 +47,15 @@ TEST_F(GridHands, MoveAnActivityByCtrlAndTheMouse) {
     EXPECT_EQ(at(9), "");
 }
 
+TEST_F(GridHands, MinimiseTheWindowForALookup) {
+    send(QEvent::MouseButtonPress, middle(2, 5), Qt::LeftButton, Qt::LeftButton);
+    send(QEvent::MouseButtonRelease, middle(2, 5), Qt::LeftButton, Qt::NoButton);
+    EXPECT_FALSE(window.isMinimized());
+    window.calendar().interaction.lookups.mnupopGoto_Click();
+    EXPECT_TRUE(window.isMinimized());
+    EXPECT_EQ(server.application().lookup, chris);
+}
+
 TEST_F(GridHands, ShowOnARightClickWhatCanBeDoneWithAnActivity) {
     QStringList entries;
     QTimer::singleShot(0, &window, [&] {

@@ -4,7 +4,9 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QEventLoop>
 #include <QScreen>
+#include <QTimer>
 #include <gtest/gtest.h>
 
 namespace {
@@ -53,6 +55,24 @@ TEST_F(WindowFace, OfAMaximisedOrMinimisedWindowTellsWhatItGoesBackTo) {
         settle();
         EXPECT_EQ(face().window_state(), shell::WindowState::normal);
     }
+}
+
+TEST_F(WindowFace, CountsTheEventLoopsThatRunInsideOneAnother) {
+    std::vector<int> loops = {face().event_loops()};
+    QEventLoop outer;
+    QTimer::singleShot(0, &window, [&] {
+        loops.push_back(face().event_loops());
+        QEventLoop inner;
+        QTimer::singleShot(0, &window, [&] {
+            loops.push_back(face().event_loops());
+            inner.quit();
+        });
+        inner.exec();
+        outer.quit();
+    });
+    outer.exec();
+    loops.push_back(face().event_loops());
+    EXPECT_EQ(loops, (std::vector{loops[0], loops[0] + 1, loops[0] + 2, loops[0]}));
 }
 
 TEST_F(WindowFace, FillsTheJumpListWithItsFirstEntrySelected) {

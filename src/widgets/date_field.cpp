@@ -1,8 +1,7 @@
-#include "desk/windows/date_field.h"
+#include "widgets/date_field.h"
 
+#include "core/values/failure.h"
 #include "core/values/text_forms.h"
-#include "desk/model/refusal.h"
-#include "desk/windows/conversions.h"
 
 #include <QAction>
 #include <QCalendarWidget>
@@ -10,28 +9,38 @@
 
 #include <algorithm>
 
-namespace windows {
+namespace widgets {
 namespace {
 
 const QDate first_date(100, 1, 1), last_date(9999, 12, 31); // that a record can have
 
+QDate date_of(values::DateTime value) { return {value.year(), value.month(), value.day()}; }
+values::DateTime date_of(QDate value) { return values::DateTime::of(value.year(), value.month(), value.day()); }
+
 } // namespace
 
 DateField::DateField(QWidget* parent) : QLineEdit(parent), locale_(&values::english_us()) {
-    QAction* calendar = addAction(QIcon(QStringLiteral(":/desk/calendar.svg")), TrailingPosition);
+    QAction* calendar = addAction(QIcon(QStringLiteral(":/widgets/calendar.svg")), TrailingPosition);
     calendar->setToolTip(tr("Show a calendar"));
     connect(calendar, &QAction::triggered, this, &DateField::show_calendar);
     connect(this, &QLineEdit::editingFinished, this, &DateField::take_typed);
     setMinimumWidth(fontMetrics().averageCharWidth() * 16);
 }
 
-void DateField::set_date(std::optional<values::DateTime> date) {
-    known_ = date ? std::optional(date->date()) : std::nullopt;
-    setText(date ? date_text(*date, *locale_) : QString());
+QString DateField::shown(values::DateTime date) const {
+    return QString::fromStdString(values::short_date(date, *locale_));
 }
 
+void DateField::set_date(std::optional<values::DateTime> date) {
+    known_ = date ? std::optional(date->date()) : std::nullopt;
+    setText(date ? shown(*date) : QString());
+}
+
+// What stands there untouched is the date that it shows, whether its text could be read or not.
 std::optional<values::DateTime> DateField::read() const {
-    const auto moment = values::parse_date(stored(text().trimmed()), *locale_);
+    if (known_ && text() == shown(*known_))
+        return known_;
+    const auto moment = values::parse_date(text().trimmed().toStdString(), *locale_);
     if (!moment || moment->date() == values::DateTime())
         return std::nullopt;
     return moment->date();
@@ -42,7 +51,7 @@ std::optional<values::DateTime> DateField::date() const {
         return std::nullopt;
     const auto date = read();
     if (!date)
-        model::refuse("\"" + stored(text()) + "\" is no date.");
+        throw values::Failure(values::FailureNumber::automation, "\"" + text().toStdString() + "\" is no date.");
     return date;
 }
 
@@ -62,7 +71,7 @@ void DateField::keyPressEvent(QKeyEvent* event) {
     const int days = event->key() == Qt::Key_Up ? 1 : event->key() == Qt::Key_Down ? -1 : 0;
     const auto date = read();
     if (days != 0 && date)
-        take(joined(std::clamp(date_of(*date).addDays(days), first_date, last_date)));
+        take(date_of(std::clamp(date_of(*date).addDays(days), first_date, last_date)));
     else
         QLineEdit::keyPressEvent(event);
 }
@@ -76,7 +85,7 @@ void DateField::show_calendar() {
     if (const auto date = read())
         calendar->setSelectedDate(date_of(*date));
     const auto pick = [this, calendar](QDate date) {
-        take(joined(date));
+        take(date_of(date));
         calendar->close();
     };
     connect(calendar, &QCalendarWidget::clicked, this, pick);
@@ -85,4 +94,4 @@ void DateField::show_calendar() {
     calendar->show();
 }
 
-} // namespace windows
+} // namespace widgets

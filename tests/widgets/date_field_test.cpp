@@ -1,13 +1,15 @@
-#include "desk/windows/date_field.h"
+#include "widgets/date_field.h"
 
 #include "core/values/failure.h"
-#include "desk_fixture.h"
 #include "support/locales.h"
 
+#include <QAction>
 #include <QCalendarWidget>
+#include <QTest>
+#include <gtest/gtest.h>
 
 using values::DateTime;
-using windows::DateField;
+using widgets::DateField;
 
 namespace {
 
@@ -81,6 +83,7 @@ TEST_F(DateFieldTest, TheKeysStepByDaysAcrossTheMonth) {
 }
 
 TEST_F(DateFieldTest, ADayIsPickedFromTheCalendar) {
+    EXPECT_FALSE(field.actions().front()->icon().pixmap(16).isNull());
     field.actions().front()->trigger();
     auto* calendar = field.findChild<QCalendarWidget*>();
     ASSERT_NE(calendar, nullptr);
@@ -107,4 +110,13 @@ TEST_F(DateFieldTest, TheCalendarOffersNoDateThatThereIsNot) {
     const auto* calendar = field.findChild<QCalendarWidget*>();
     EXPECT_EQ(calendar->minimumDate(), QDate(100, 1, 1));
     EXPECT_EQ(calendar->maximumDate(), QDate(9999, 12, 31));
+}
+
+// In a locale of two digits for the year, its text alone is another century's.
+TEST_F(DateFieldTest, TheDateThatItWasGivenStaysItsOwnUntilAnotherIsTyped) {
+    values::Locale two_digits = values::english_us();
+    two_digits.short_date = "M/d/yy";
+    field.set_locale(two_digits);
+    field.set_date(DateTime::of(1905, 3, 6));
+    EXPECT_EQ(field.date(), DateTime::of(1905, 3, 6));
 }

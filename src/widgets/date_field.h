@@ -7,7 +7,7 @@
 
 #include <optional>
 
-namespace windows {
+namespace widgets {
 
 // A line for a date, typed in any common form or picked from a calendar. The up and down keys step by days.
 class DateField : public QLineEdit {
@@ -30,6 +30,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    QString shown(values::DateTime date) const;
     std::optional<values::DateTime> read() const; // absent also when it is no date
     void take_typed();
     void take(values::DateTime date);
@@ -39,4 +40,4 @@ private:
     std::optional<values::DateTime> known_;
 };
 
-} // namespace windows
+} // namespace widgets

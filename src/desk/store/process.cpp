@@ -1,0 +1,65 @@
+#include "desk/store/process.h"
+
+#include <unistd.h>
+
+#include <algorithm>
+#include <fstream>
+#include <iterator>
+
+namespace store {
+
+namespace {
+
+// As the kernel tells them; empty where it doesn't.
+std::string first_line(const std::string& path) {
+    std::ifstream file(path);
+    std::string line;
+    std::getline(file, line);
+    return line;
+}
+
+std::string machine() { return first_line("/etc/machine-id"); }
+std::string boot() { return first_line("/proc/sys/kernel/random/boot_id"); }
+
+// The tick of its start: a number of a process is given again, together with the tick it isn't. Empty for a
+// process that has ended.
+std::string start_of(const std::string& number) {
+    constexpr int fields_between = 19; // the state, the 3rd field, to the start, the 22nd
+    const std::string line = first_line("/proc/" + number + "/stat");
+    const std::size_t name_end = line.rfind(") ");
+    if (name_end == line.npos || line.compare(name_end + 2, 1, "Z") == 0)
+        return {};
+    std::size_t begin = name_end + 2;
+    for (int field = 0; field < fields_between && begin != 0; ++field)
+        begin = line.find(' ', begin) + 1;
+    return line.substr(begin, line.find(' ', begin) - begin);
+}
+
+// The next part of a text of parts between blanks.
+std::string next_part(std::string& rest) {
+    const std::size_t end = std::min(rest.find(' '), rest.size());
+    std::string part = rest.substr(0, end);
+    rest.erase(0, end + 1);
+    return part;
+}
+
+} // namespace
+
+std::string this_process() {
+    const std::string number = std::to_string(::getpid());
+    return machine() + " " + boot() + " " + number + " " + start_of(number);
+}
+
+bool is_running(const std::string& process) {
+    std::string rest = process;
+    if (next_part(rest) != machine())
+        return true;
+    if (next_part(rest) != boot())
+        return false;
+    const std::string number = next_part(rest);
+    const bool is_number =
+        !number.empty() && std::ranges::all_of(number, [](char c) { return c >= '0' && c <= '9'; });
+    return is_number && !rest.empty() && start_of(number) == rest;
+}
+
+} // namespace store

@@ -16,7 +16,9 @@ namespace {
 constexpr int tick_milliseconds = 2;
 constexpr int mail_takes_it = 60; // of 100 times
 
-windows::Taken import_nothing(store::Store&, const windows::Taking&) { return {.report = "Nothing to import."}; }
+windows::Taken import_nothing(store::Store&, const windows::Taking&, const windows::Progress&) {
+    return {.report = "Nothing to import."};
+}
 
 } // namespace
 

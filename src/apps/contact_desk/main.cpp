@@ -1,6 +1,7 @@
 #include "adapters/qt/appearance.h"
 #include "adapters/qt/end_requests.h"
 #include "adapters/qt/qt_locale.h"
+#include "adapters/qt/zone_names.h"
 #include "apps/contact_desk/options.h"
 #include "core/values/failure.h"
 #include "desk/export/export_file.h"
@@ -21,11 +22,13 @@
 
 namespace {
 
-importing::Report take(store::Store& store, const std::string& file, const std::string& user, bool with_deleted) {
-    importing::Options options{.user = user};
-    if (with_deleted)
+importing::Report take(store::Store& store, const windows::Taking& taking,
+                       const windows::Progress& progress = {}) {
+    importing::Options options{
+        .user = taking.user, .other_zone_names = qt::zone_name_from_windows, .progress = progress};
+    if (taking.with_deleted)
         options.deleted = importing::Deleted::come_back;
-    return importing::import_file(store, file, options);
+    return importing::import_file(store, taking.file, options);
 }
 
 exporting::Report write(store::Store& store, const std::string& file, const std::string& user) {
@@ -50,7 +53,8 @@ int run(const apps::NewSample& task, int, char**) {
 
 int run(const apps::ImportFile& task, int, char**) {
     const auto store = store::Store::open(task.database);
-    std::cout << take(*store, task.file, task.user, task.with_deleted).text();
+    const windows::Taking taking{.file = task.file, .user = task.user, .with_deleted = task.with_deleted};
+    std::cout << take(*store, taking).text();
     return 0;
 }
 
@@ -63,8 +67,9 @@ int run(const apps::ExportFile& task, int, char**) {
 constexpr std::size_t most_remarks_in_a_box = 12;
 
 windows::Exchange exchange() {
-    return {.take = [](store::Store& store, const windows::Taking& taking) -> windows::Taken {
-                const auto report = take(store, taking.file, taking.user, taking.with_deleted);
+    return {.take = [](store::Store& store, const windows::Taking& taking,
+                       const windows::Progress& progress) -> windows::Taken {
+                const auto report = take(store, taking, progress);
                 return {.report = report.text(most_remarks_in_a_box), .left_deleted = report.left_deleted};
             },
             .names_users = importing::names_users,

@@ -97,9 +97,9 @@ bool InRange(DateTime date, const ShownDates& shown) {
 }
 
 bool InMonth(DateTime date, const ShownDates& shown) {
-    const int year = shown.StartDate.year();
-    return date >= DateTime::of(year, shown.StartDate.month(), 1) &&
-           date < DateTime::of(year, shown.EndDate.month() + 1, 1);
+    const int month = month_number(date);
+    const int first = month_number(shown.StartDate);
+    return month >= first && month <= first - first % 12 + shown.EndDate.month() - 1;
 }
 
 std::array<bool, 8> GetDays(int days_of_week_bits) { return flags_of<8>(days_of_week_bits); }

@@ -4,6 +4,8 @@
 #include "desk/import/entry.h"
 #include "desk/import/own_lines.h"
 
+#include <limits>
+
 namespace exporting {
 namespace {
 
@@ -49,8 +51,12 @@ std::string series_lines(const store::Activity& activity) {
 // What an import makes of an entry without own lines, which says nothing more about texts than the format does.
 store::Activity read_back(const std::string& entry) {
     const importing::Content content = importing::content_of(entry);
-    importing::Zones zones{importing::Component()};
-    importing::Times times(zones, importing::system_local_time);
+    importing::Work work(std::numeric_limits<std::size_t>::max()); // an entry has no more than the record
+    importing::MachineZones machine_zones({}, work);
+    const importing::Component calendar;
+    importing::Zones zones(calendar, machine_zones, work);
+    const importing::LocalTime local_time = importing::system_local_time;
+    importing::Times times(zones, local_time, work);
     return importing::read_entry(content.components.front(), times).found.activity;
 }
 

@@ -4,7 +4,8 @@
 #include "desk/import/own_lines.h"
 #include "desk/import/shown_hours.h"
 
-#include <algorithm>
+#include <string>
+#include <utility>
 
 namespace importing {
 namespace {
@@ -28,6 +29,15 @@ ActivityTaking::ActivityTaking(store::Store& store, People& people, Groups& grou
     : store_(store), people_(people), groups_(groups), identity_(store.identity()), deleted_(deleted),
       report_(report) {}
 
+// An entry can have many activities, so its records are read once.
+ActivityTaking::Known& ActivityTaking::known(const std::string& uid, const std::string& user) {
+    const auto [place, is_new] = known_.try_emplace({uid, user});
+    if (is_new)
+        for (ImportedRecord& imported : store_.imported_records().of(RecordKind::activity, user, uid))
+            place->second.before.emplace(imported.occurrence, std::move(imported));
+    return place->second;
+}
+
 void ActivityTaking::take(const FoundActivity& found, const std::string& user) {
     ImportedRecord imported{.kind = RecordKind::activity,
                             .user = user,
@@ -40,13 +50,14 @@ void ActivityTaking::take(const FoundActivity& found, const std::string& user) {
     if (imported.uid.empty())
         imported.uid = "#" + imported.told;
     // Of several under one name, as two calendars of a file can have them, each is known by its place.
-    auto& there = occurrences_[{imported.uid, user}];
-    for (int place = 2; !there.insert(imported.occurrence).second; ++place)
-        imported.occurrence = found.occurrence + "#" + std::to_string(place);
-    const auto all = store_.imported_records().of(imported.kind, user, imported.uid);
-    const auto before = std::ranges::find(all, imported.occurrence, &ImportedRecord::occurrence);
-    if (before != all.end())
-        take_again(found, imported, *before);
+    Known& there = known(imported.uid, user);
+    int& place = there.places[found.occurrence];
+    do
+        imported.occurrence = found.occurrence + (++place == 1 ? "" : "#" + std::to_string(place));
+    while (!there.there.insert(imported.occurrence).second);
+    const auto before = there.before.find(imported.occurrence);
+    if (before != there.before.end())
+        take_again(found, imported, before->second);
     else if (!take_back(found, imported))
         add(found, std::move(imported));
 }
@@ -132,11 +143,11 @@ void ActivityTaking::count_hours(const store::Activity& activity) {
 }
 
 void ActivityTaking::remove_gone(const std::string& uid, const std::string& user) {
-    auto place = occurrences_.lower_bound({uid, std::string()});
-    if (place == occurrences_.end() || place->first.first != uid)
+    auto place = known_.lower_bound({uid, std::string()});
+    if (place == known_.end() || place->first.first != uid)
         return remove_gone(uid, user, {});
-    for (; place != occurrences_.end() && place->first.first == uid; ++place)
-        remove_gone(uid, place->first.second, place->second);
+    for (; place != known_.end() && place->first.first == uid; ++place)
+        remove_gone(uid, place->first.second, place->second.there);
 }
 
 void ActivityTaking::remove_gone(const std::string& uid, const std::string& user,

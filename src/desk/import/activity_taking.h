@@ -27,6 +27,14 @@ public:
     void remove_gone(const std::string& uid, const std::string& user);
 
 private:
+    // What there is under one name for one user.
+    struct Known {
+        std::map<std::string, store::ImportedRecord> before{}; // from earlier imports, by occurrence
+        std::set<std::string> there{};                         // the occurrences that this one has
+        std::map<std::string, int> places{};                   // how many of them bear the same name
+    };
+
+    Known& known(const std::string& uid, const std::string& user);
     void add(const FoundActivity& found, store::ImportedRecord imported);
     void update(const FoundActivity& found, store::ImportedRecord imported, const store::Activity& current);
     void take_again(const FoundActivity& found, const store::ImportedRecord& imported,
@@ -44,8 +52,8 @@ private:
     const std::string identity_;
     const Deleted deleted_;
     Report& report_;
-    std::set<std::string> left_own_;
-    std::map<std::pair<std::string, std::string>, std::set<std::string>> occurrences_; // by uid and user
+    std::set<std::string> left_own_{};
+    std::map<std::pair<std::string, std::string>, Known> known_{}; // by uid and user
 };
 
 } // namespace importing

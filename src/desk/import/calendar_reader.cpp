@@ -1,32 +1,24 @@
 #include "desk/import/calendar_reader.h"
 
 #include "desk/import/activity_text.h"
-#include "desk/import/import_file.h"
-#include "desk/import/occurrences.h"
+#include "desk/import/recurring.h"
+#include "desk/import/uid.h"
 
 #include <algorithm>
 #include <charconv>
+#include <iterator>
+#include <map>
 #include <utility>
 
 namespace importing {
 namespace {
 
-using store::DateTime;
+constexpr std::size_t share_of_an_entry = 4; // it may take a fourth of the work that is left
 
 // All that the calendar has under one UID.
 struct Group {
     const Component* main = nullptr;
     std::map<std::string, const Component*> overrides{}; // by the occurrence that each stands for
-};
-
-// Dates of a series on which it doesn't take place.
-struct Excluded {
-    std::set<DateTime> starts{};
-    std::set<DateTime> days{};
-
-    bool has(const icaltimetype& time, DateTime local) const {
-        return starts.contains(local) || days.contains(DateTime::of(time.year, time.month, time.day));
-    }
 };
 
 int sequence_of(const Component& component) {
@@ -36,22 +28,17 @@ int sequence_of(const Component& component) {
     return sequence;
 }
 
-std::string date_text(DateTime date) {
-    const auto two = [](int number) { return (number < 10 ? "0" : "") + std::to_string(number); };
-    return std::to_string(date.year()) + "-" + two(date.month()) + "-" + two(date.day());
-}
-
-// Names one of several activities of an entry. It stays the same as long as the date does.
-std::string name_of_occurrence(DateTime start) { return std::to_string(start.seconds()); }
-
 class Reader {
 public:
     Reader(const Component& calendar, const Here& here, Report& report)
-        : zones_(calendar), times_(zones_, here.local_time), today_(here.today.date()), report_(report) {
+        : zones_(calendar, here.zones, here.work), times_(zones_, here.local_time, here.work),
+          today_(here.today.date()), work_(here.work), report_(report) {
         for (const Component& part : calendar.parts)
             sort_in(part);
-        for (const Group& group : groups_)
-            read(group);
+        for (const Group& group : groups_) {
+            read_if_possible(group);
+            work_.step(entries_of(group).size());
+        }
     }
     FoundCalendar found() { return std::move(found_); }
 
@@ -87,16 +74,6 @@ private:
         keep_newer(replaced.empty() ? group.main : group.overrides[replaced], part);
     }
 
-    void take(const FoundActivity& activity) { found_.activities.push_back(activity); }
-
-    void take_at(const FoundActivity& activity, DateTime start) {
-        FoundActivity single = activity;
-        single.occurrence = name_of_occurrence(start);
-        single.activity.start = start;
-        single.activity.end = start.plus_minutes(single.activity.duration);
-        take(single);
-    }
-
     void tell_changes(Entry& entry) {
         for (const std::string& name : zones_.take_unknown())
             entry.changes.push_back("Its time zone \"" + single_line(name) +
@@ -105,151 +82,139 @@ private:
             report_.changed.push_back({entry.source, change});
     }
 
-    void exclude(Excluded& excluded, const Entry& entry, icalproperty* property) {
-        for (const icaltimetype& time : times_.all(property))
-            if (time.is_date || entry.start.is_date)
-                excluded.days.insert(DateTime::of(time.year, time.month, time.day));
-            else
-                excluded.starts.insert(times_.local(time));
+    static std::vector<const Component*> entries_of(const Group& group) {
+        std::vector<const Component*> entries;
+        for (const auto& [replaced, component] : group.overrides)
+            entries.push_back(component);
+        if (group.main)
+            entries.push_back(group.main);
+        return entries;
     }
 
+    // Whole or not at all.
+    void read_if_possible(const Group& group) {
+        const std::size_t found = found_.activities.size();
+        const std::size_t changed = report_.changed.size();
+        const std::size_t skipped = report_.skipped.size();
+        bool is_possible = false;
+        try {
+            is_possible = work_.within(work_.left() / share_of_an_entry, [&] { read(group); });
+        } catch (const Work::Exhausted&) { // nothing is left for the entries after it either
+        }
+        if (!is_possible) {
+            found_.activities.erase(found_.activities.begin() + static_cast<std::ptrdiff_t>(found),
+                                    found_.activities.end());
+            report_.changed.resize(changed);
+            report_.skipped.resize(skipped);
+            zones_.take_unknown();
+            for (const Component* component : entries_of(group))
+                skip(*component, "It would take too long to read.");
+            is_cut_ = true;
+        }
+        remember_whether_whole(group);
+    }
+
+    void remember_whether_whole(const Group& group) {
+        if (is_cut_)
+            for (const Component* component : entries_of(group))
+                found_.cut_entries.insert(uid_of(*component));
+        else if (group.main)
+            found_.whole_entries.insert(uid_of(*group.main));
+        for (std::set<std::string>* entries : {&found_.cut_entries, &found_.whole_entries})
+            entries->erase(std::string()); // one without a name isn't known again
+    }
+
+    Entry entry_of(const Component& component) {
+        work_.spend(units_to_parse(component));
+        return read_entry(component, times_);
+    }
+
+    // Where an entry changes occurrences of a series that the file doesn't have, one with a rule of its own stands
+    // for all of that rule's dates.
     void read(const Group& group) {
         is_cut_ = false;
-        Excluded excluded;
-        std::optional<Entry> main;
-        if (group.main)
-            main = read_entry(*group.main, times_);
-        for (const auto& [replaced, component] : group.overrides)
-            read_override(*component, main, excluded);
-        if (!main)
-            return;
-        if (!main->skipped.empty())
-            report_.skipped.push_back({main->source, main->skipped});
-        else
-            read_main(*main, excluded);
-        if (!main->found.uid.empty() && !is_cut_ && (main->skipped.empty() || main->is_cancelled))
-            found_.whole_entries.insert(main->found.uid);
-    }
-
-    void read_override(const Component& component, const std::optional<Entry>& main, Excluded& excluded) {
-        Entry entry = read_entry(component, times_);
-        icalproperty* replaced =
-            entry.component ? icalcomponent_get_first_property(entry.component.get(), ICAL_RECURRENCEID_PROPERTY)
-                            : nullptr;
-        if (replaced && main && main->skipped.empty())
-            exclude(excluded, *main, replaced);
-        if (!entry.skipped.empty()) {
-            is_cut_ = is_cut_ || !entry.is_cancelled;
-            report_.skipped.push_back({entry.source, entry.skipped});
-            return;
+        std::map<const Component*, std::vector<ZonedTime>> replaced;
+        std::vector<const Component*> leaders;
+        for (const auto& [name, component] : group.overrides) {
+            Entry entry = entry_of(*component);
+            replaced[component] = times_of(entry, ICAL_RECURRENCEID_PROPERTY, times_);
+            if (group.main || !has_own_dates(*component)) {
+                take_override(entry, *component, replaced[component]);
+            } else {
+                leaders.push_back(component);
+                zones_.take_unknown(); // told when it is read again
+            }
         }
-        if (replaced && icalproperty_get_first_parameter(replaced, ICAL_RANGE_PARAMETER))
-            entry.changes.push_back("It changes all later occurrences too; only this one was changed.");
-        tell_changes(entry);
-        const auto times = replaced ? times_.all(replaced) : std::vector<icaltimetype>();
-        entry.found.occurrence = times.empty() ? std::string(value_in(component, "RECURRENCE-ID"))
-                                               : name_of_occurrence(times_.local(times.front()));
-        take(entry.found);
+        if (group.main)
+            leaders.push_back(group.main);
+        for (const Component* leader : leaders) {
+            Entry entry = entry_of(*leader);
+            if (is_skipped(entry))
+                continue;
+            entry.found.occurrence = occurrence_of(*leader, replaced[leader]);
+            std::vector<ZonedTime> others;
+            for (const auto& [component, times] : replaced)
+                if (component != leader)
+                    others.insert(others.end(), times.begin(), times.end());
+            work_.spend(replaced.size() * 10);
+            take_all(entry, *leader, others);
+        }
     }
 
-    void read_main(Entry& entry, Excluded& excluded) {
+    bool is_skipped(const Entry& entry) {
+        if (entry.skipped.empty())
+            return false;
+        is_cut_ = is_cut_ || !entry.is_cancelled;
+        report_.skipped.push_back({entry.source, entry.skipped});
+        return true;
+    }
+
+    // Empty for an entry that stands for no occurrence of another.
+    std::string occurrence_of(const Component& component, const std::vector<ZonedTime>& replaced) const {
+        return replaced.empty() ? std::string(value_in(component, "RECURRENCE-ID"))
+                                : name_of_occurrence(times_.local(replaced.front()));
+    }
+
+    void take(const FoundActivity& activity) {
+        work_.spend(units_to_write(activity));
+        found_.activities.push_back(activity);
+    }
+
+    void take_all(Entry& entry, const Component& told, const std::vector<ZonedTime>& replaced) {
         if (entry.is_settled) {
             tell_changes(entry);
             return take(entry.found);
         }
-        icalcomponent* component = entry.component.get();
-        for (icalproperty* property = icalcomponent_get_first_property(component, ICAL_EXDATE_PROPERTY); property;
-             property = icalcomponent_get_next_property(component, ICAL_EXDATE_PROPERTY))
-            exclude(excluded, entry, property);
-        std::set<DateTime> taken;
-        icalproperty* rule = icalcomponent_get_first_property(component, ICAL_RRULE_PROPERTY);
-        if (rule && icalcomponent_get_next_property(component, ICAL_RRULE_PROPERTY))
-            entry.changes.push_back("It has several rules of recurrence; only the first was taken.");
-        icalcomponent_get_first_property(component, ICAL_RRULE_PROPERTY);
-        auto followed = rule ? follow(rule, entry.start, times_, today_) : std::nullopt;
-        is_cut_ = is_cut_ || (rule && !followed);
-        if (rule && !followed)
-            entry.changes.push_back("The calendar can't follow its rule of recurrence; only the first was taken.");
-        if (followed) {
-            take_rule(entry, *followed, excluded);
-            taken.insert(followed->dates.starts.begin(), followed->dates.starts.end());
-        } else if (!excluded.has(entry.start, *entry.found.activity.start)) {
-            take(entry.found);
-            taken.insert(*entry.found.activity.start);
-        }
-        take_further_dates(entry, excluded, taken);
+        std::vector<FoundActivity> activities = activities_of(entry, told, replaced, {times_, today_, work_});
+        if (activities.empty() && replaced.empty())
+            report_.skipped.push_back({entry.source, "Its exceptions leave out all of its occurrences."});
+        std::ranges::move(activities, std::back_inserter(found_.activities));
+        is_cut_ = is_cut_ || entry.is_cut;
         tell_changes(entry);
     }
 
-    void take_further_dates(Entry& entry, const Excluded& excluded, std::set<DateTime>& taken) {
-        icalcomponent* component = entry.component.get();
-        for (icalproperty* property = icalcomponent_get_first_property(component, ICAL_RDATE_PROPERTY); property;
-             property = icalcomponent_get_next_property(component, ICAL_RDATE_PROPERTY))
-            for (const icaltimetype& time : times_.all(property))
-                if (const DateTime start = times_.local(time);
-                    !excluded.has(time, start) && taken.insert(start).second)
-                    take_at(entry.found, start);
+    static bool has_own_dates(const Component& component) {
+        return !value_in(component, "RRULE").empty() || !value_in(component, "RDATE").empty();
     }
 
-    void take_rule(Entry& entry, const FollowedRule& followed, const Excluded& excluded) {
-        const RuleDates& dates = followed.dates;
-        const bool is_one = dates.ended && dates.starts.size() == 1;
-        const auto series = is_one || followed.is_too_long ? std::nullopt : series_on(dates);
-        if (!series)
-            return take_single(entry, followed, excluded, is_one);
-        FoundActivity recurring = entry.found;
-        recurring.activity.recurrence = *series;
-        std::vector<DateTime>& exceptions = recurring.activity.exceptions;
-        for (std::size_t i = 0; i < dates.starts.size(); ++i)
-            if (excluded.has(followed.times[i], dates.starts[i]))
-                exceptions.push_back(dates.starts[i].date());
-        for (const auto& beyond : {excluded.starts, excluded.days})
-            for (const DateTime date : beyond)
-                if (!dates.ended && date.date() > dates.known_to)
-                    exceptions.push_back(date.date());
-        take(recurring);
-    }
-
-    void take_single(Entry& entry, const FollowedRule& followed, const Excluded& excluded, bool is_one) {
-        std::vector<DateTime> starts;
-        const bool goes_on = !followed.dates.ended && !followed.is_too_long;
-        const DateTime last = today_.plus_months(12 * years_of_a_rule);
-        for (std::size_t i = 0; i < followed.times.size(); ++i) {
-            const DateTime start = followed.dates.starts[i];
-            if (!excluded.has(followed.times[i], start) && (i == 0 || !goes_on || start.date() <= last))
-                starts.push_back(start);
-        }
-        const std::size_t all = starts.size();
-        keep_nearest(starts);
-        const bool has_more = starts.size() < all || followed.is_too_long;
-        is_cut_ = is_cut_ || has_more;
-        for (const DateTime start : starts)
-            take_at(entry.found, start);
-        if (is_one)
+    void take_override(Entry& entry, const Component& component, const std::vector<ZonedTime>& replaced) {
+        if (is_skipped(entry))
             return;
-        std::string change = "The calendar shows no series on its dates, so it became single activities (" +
-                             std::to_string(starts.size()) + ")";
-        if (has_more)
-            change += ", no more, of its many dates";
-        if (goes_on)
-            change += ", up to " + date_text(std::max(last, starts.empty() ? last : starts.back()));
-        entry.changes.push_back(change + ".");
-    }
-
-    // Of too many dates those from today on, and before them as many as there is room for.
-    void keep_nearest(std::vector<DateTime>& starts) const {
-        if (starts.size() <= most_of_a_rule)
-            return;
-        const auto coming = std::lower_bound(starts.begin(), starts.end(), today_.date());
-        const std::ptrdiff_t first =
-            std::min(coming - starts.begin(), static_cast<std::ptrdiff_t>(starts.size() - most_of_a_rule));
-        starts.erase(starts.begin(), starts.begin() + first);
-        starts.resize(most_of_a_rule);
+        icalproperty* property =
+            icalcomponent_get_first_property(entry.component.get(), ICAL_RECURRENCEID_PROPERTY);
+        if (property && icalproperty_get_first_parameter(property, ICAL_RANGE_PARAMETER))
+            entry.changes.push_back("It changes all later occurrences too; only this one was changed.");
+        if (has_own_dates(component))
+            entry.changes.push_back("It changes one occurrence, so its own further dates were left out.");
+        entry.found.occurrence = occurrence_of(component, replaced);
+        take(entry.found);
+        tell_changes(entry);
     }
 
     Zones zones_;
     Times times_;
-    const DateTime today_;
+    const values::DateTime today_;
+    Work& work_;
     Report& report_;
     FoundCalendar found_;
     bool is_cut_ = false; // the entry that is being read has more than is taken

@@ -8,10 +8,12 @@
 
 namespace importing {
 
-// When and where an import takes place.
+// When and where an import takes place, and how much work it may be.
 struct Here {
     values::DateTime today;
     const LocalTime& local_time;
+    MachineZones& zones;
+    Work& work;
 };
 
 struct FoundCalendar {
@@ -19,6 +21,9 @@ struct FoundCalendar {
     // The names (FoundActivity::uid) of the entries of which these are all activities that there are: what was
     // taken of one before and isn't here any more is gone. One that is cancelled has none.
     std::set<std::string> whole_entries{};
+    // The names of those of which there are more than these activities. One name can be in both, as two entries
+    // may bear it.
+    std::set<std::string> cut_entries{};
 };
 
 // The activities of a VCALENDAR. What can't be taken, or not as it stands, goes into the report.

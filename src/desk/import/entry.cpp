@@ -36,13 +36,6 @@ int minutes_between(DateTime from, DateTime to) {
     return static_cast<int>(std::clamp<std::int64_t>((to.seconds() - from.seconds()) / 60, -longest, longest));
 }
 
-std::int64_t seconds_of(const icaldurationtype& duration) {
-    const std::int64_t days = std::int64_t{duration.weeks} * 7 + duration.days;
-    const std::int64_t seconds =
-        ((days * 24 + duration.hours) * 60 + duration.minutes) * 60 + std::int64_t{duration.seconds};
-    return duration.is_neg ? -seconds : seconds;
-}
-
 bool reads_start(Entry& entry, bool is_to_do, Times& times) {
     const auto start = times.first(entry.component.get(), ICAL_DTSTART_PROPERTY);
     const auto due = is_to_do ? times.first(entry.component.get(), ICAL_DUE_PROPERTY) : std::nullopt;
@@ -79,14 +72,8 @@ std::int64_t told_duration(Entry& entry, const Component& told, Times& times) {
 }
 
 void read_duration(Entry& entry, const Component& component, Times& times) {
-    const std::int64_t told = told_duration(entry, component, times);
-    if (told < 0)
-        entry.changes.push_back("It ends before it starts, so it was taken without a duration.");
-    if (told > longest)
-        entry.changes.push_back("It lasts " + std::to_string(told / minutes_of_day) +
-                                " days; the calendar can hold 22 days and 18 hours, so it was cut to that.");
     Activity& activity = entry.found.activity;
-    activity.duration = static_cast<int>(std::clamp<std::int64_t>(told, 0, longest));
+    activity.duration = duration_of(told_duration(entry, component, times), entry.changes);
     activity.end = activity.start->plus_minutes(activity.duration);
 }
 
@@ -198,8 +185,6 @@ void tell_lines_left_out(Entry& entry, const Component& component) {
             entry.changes.push_back("Line " + std::to_string(line.number) + " can't be read and was left out.");
         else if (is_too_long(line))
             entry.changes.push_back("Line " + std::to_string(line.number) + " is too long and was left out.");
-    if (!value_in(component, "RRULE").empty() && !property_of(entry, ICAL_RRULE_PROPERTY))
-        entry.changes.push_back("Its RRULE can't be read and was left out.");
 }
 
 void read_texts_and_state(Entry& entry, const Component& component) {
@@ -220,6 +205,19 @@ void read_texts_and_state(Entry& entry, const Component& component) {
 Source source_of(const Component& component) {
     return {component.line, single_line(unescaped(value_in(component, "SUMMARY"))),
             single_line(value_in(component, "UID"))};
+}
+
+int duration_of(std::int64_t minutes, std::vector<std::string>& changes) {
+    const auto tell = [&](const std::string& change) {
+        if (std::ranges::find(changes, change) == changes.end())
+            changes.push_back(change);
+    };
+    if (minutes < 0)
+        tell("It ends before it starts, so it was taken without a duration.");
+    if (minutes > longest)
+        tell("It lasts " + std::to_string(minutes / minutes_of_day) +
+             " days; the calendar can hold 22 days and 18 hours, so it was cut to that.");
+    return static_cast<int>(std::clamp<std::int64_t>(minutes, 0, longest));
 }
 
 Entry read_entry(const Component& component, Times& times) {

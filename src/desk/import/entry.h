@@ -33,12 +33,16 @@ struct Entry {
     Source source{};
     ParsedComponent component{};
     FoundActivity found{};
-    icaltimetype start{};               // in its own zone
+    ZonedTime start{};                  // as it stands
     std::vector<std::string> changes{}; // what is taken otherwise than it stands, in sentences
     std::string skipped{};              // why it can't be taken; empty when it can
     bool is_cancelled = false;          // which is then why
     bool is_settled = false;            // its recurrence is known already
+    bool is_cut = false;                // it has more activities than were taken
 };
+
+// A duration as an activity can have it, in minutes. Where that is another one, the changes say so.
+int duration_of(std::int64_t minutes, std::vector<std::string>& changes);
 
 Entry read_entry(const Component& component, Times& times);
 

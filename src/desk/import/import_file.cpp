@@ -40,9 +40,12 @@ std::string bytes_of(const std::string& path) {
     return bytes;
 }
 
+constexpr double part_of_reading = 0.5; // of an import; the rest is writing
+
 struct Found {
     std::vector<FoundActivity> activities;
-    std::set<std::string> whole_entries;
+    std::set<std::string> whole_entries; // in each of the calendars that name them
+    std::set<std::string> cut_entries;
     std::vector<FoundCard> cards;
     std::vector<store::User> users; // of a desk's own file, as are the groups
     std::vector<FoundGroup> groups;
@@ -84,6 +87,7 @@ void read_calendar_into(Found& found, const Component& calendar, const Here& her
         found.groups.push_back({.uid = group.text(0), .name = group.text(1)});
     FoundCalendar read = read_calendar(calendar, here, report);
     found.whole_entries.merge(read.whole_entries);
+    found.cut_entries.merge(read.cut_entries);
     for (FoundActivity& activity : read.activities) {
         activity.calendar = name;
         found.activities.push_back(std::move(activity));
@@ -98,7 +102,7 @@ void tell_stray_lines(const std::vector<int>& lines, Report& report) {
     report.skipped.push_back({{.line = lines.front()}, "It stands in no entry" + more + "."});
 }
 
-Found read(std::string_view bytes, const Options& options, Report& report) {
+Found read(std::string_view bytes, const Options& options, Work& work, Report& report) {
     // The library would end the process at an entry that it can't read.
     icalerror_set_errors_are_fatal(0);
     Content content = content_of(bytes);
@@ -106,8 +110,13 @@ Found read(std::string_view bytes, const Options& options, Report& report) {
     const auto is_known = [](const Component& c) { return c.name == "VCALENDAR" || c.name == "VCARD"; };
     if (std::ranges::none_of(content.components, is_known))
         fail("it has no calendar and no address card");
+    std::size_t entries = 0;
+    for (const Component& component : content.components)
+        entries += component.parts.size();
+    work.expect(entries, part_of_reading);
     Found found;
-    const Here here{.today = options.now, .local_time = options.local_time};
+    MachineZones zones(options.other_zone_names, work);
+    const Here here{.today = options.now, .local_time = options.local_time, .zones = zones, .work = work};
     for (const Component& component : content.components)
         if (component.name == "VCALENDAR")
             read_calendar_into(found, component, here, report);
@@ -116,12 +125,16 @@ Found read(std::string_view bytes, const Options& options, Report& report) {
         else
             report.skipped.push_back(
                 {source_of(component), "It is a " + single_line(component.name) + ", not an appointment."});
+    for (const std::string& entry : found.cut_entries)
+        found.whole_entries.erase(entry);
     tell_stray_lines(content.stray_lines, report);
     report.mended_lines = content.mended_lines;
     return found;
 }
 
-void write(store::Store& store, const Found& found, Users& users, const Options& options, Report& report) {
+void write(store::Store& store, const Found& found, Users& users, const Options& options, Work& work,
+           Report& report) {
+    work.expect(found.cards.size() + found.activities.size() + found.whole_entries.size(), 1);
     for (const store::User& user : found.users)
         users.tell(user);
     People people(store, users.name());
@@ -129,14 +142,20 @@ void write(store::Store& store, const Found& found, Users& users, const Options&
     for (const FoundGroup& group : found.groups)
         groups.id_of(group.uid, group.name);
     CardTaking cards(store, people, groups, options.now, report);
-    for (const FoundCard& card : found.cards)
+    for (const FoundCard& card : found.cards) {
+        work.step();
         cards.take(card);
+    }
     groups.fill();
     ActivityTaking activities(store, people, groups, options.deleted, report);
-    for (const FoundActivity& activity : found.activities)
+    for (const FoundActivity& activity : found.activities) {
+        work.step();
         activities.take(activity, users.id_for(activity.user));
-    for (const std::string& entry : found.whole_entries)
+    }
+    for (const std::string& entry : found.whole_entries) {
+        work.step();
         activities.remove_gone(entry, users.usual_id());
+    }
     report.contacts = people.added();
     report.user = users.summary();
 }
@@ -146,13 +165,18 @@ void write(store::Store& store, const Found& found, Users& users, const Options&
 Report import_bytes(store::Store& store, std::string_view bytes, const std::string& name, const Options& options) {
     Users users(store, options.user);
     Report report{.file = name, .user = {}};
+    Work work(least_work + bytes.size() * work_for_a_byte, options.progress);
     Found found;
     try {
-        found = read(bytes, options, report);
-    } catch (const values::Failure& failure) {
-        fail("Nothing was taken from \"" + name + "\": " + failure.description() + ".");
+        try {
+            found = read(bytes, options, work, report);
+        } catch (const values::Failure& failure) {
+            fail("Nothing was taken from \"" + name + "\": " + failure.description() + ".");
+        }
+        store.together([&] { write(store, found, users, options, work, report); });
+    } catch (const Work::Cancelled&) {
+        fail("Nothing was taken from \"" + name + "\": the import was cancelled.");
     }
-    store.together([&] { write(store, found, users, options, report); });
     for (std::vector<Remark>* remarks : {&report.changed, &report.skipped})
         std::ranges::stable_sort(*remarks, {}, [](const Remark& remark) { return remark.source.line; });
     return report;

@@ -3,6 +3,8 @@
 #include "desk/import/activity_taking.h"
 #include "desk/import/local_zone.h"
 #include "desk/import/report.h"
+#include "desk/import/work.h"
+#include "desk/import/zones.h"
 #include "desk/store/store.h"
 
 #include <string>
@@ -24,9 +26,15 @@
 // A rule of recurrence becomes a series when the calendar shows that series on exactly the rule's dates; any other
 // becomes single activities: at most `most_of_a_rule` of them, and of a rule without an end those up to
 // `years_of_a_rule` years from today.
+//
+// How much work an import may be follows from the size of its file; an entry that would take a fourth of what is
+// left, or more, is skipped.
 namespace importing {
 
 inline constexpr std::size_t largest_file = 64 * 1024 * 1024; // bytes
+// Units of work (work.h).
+inline constexpr std::size_t least_work = 100'000'000;
+inline constexpr std::size_t work_for_a_byte = 200;
 inline constexpr std::size_t most_of_a_rule = 1000;
 inline constexpr int years_of_a_rule = 2;
 
@@ -37,11 +45,13 @@ struct Options {
     store::DateTime now = store::wall_clock();
     LocalTime local_time = system_local_time;
     Deleted deleted = Deleted::stay_deleted;
+    ZoneNames other_zone_names{}; // of zones that the machine doesn't know by the file's name
+    Progress progress{};          // told often; false cancels the import
 };
 
 // All or nothing: a failure (values::Failure, with a sentence for the user) leaves the database as it was. It
-// comes when the file can't be read or is no whole file of these kinds, when the user isn't there, and from the
-// store. An entry that can't be taken though the file is sound is told in the report.
+// comes when the file can't be read or is no whole file of these kinds, when the user isn't there, when the import
+// is cancelled, and from the store. An entry that can't be taken though the file is sound is told in the report.
 Report import_file(store::Store& store, const std::string& path, const Options& options = {});
 
 // The same for what such a file holds; the name is for messages alone.

@@ -1,91 +1,128 @@
 #include "desk/import/occurrences.h"
 
+#include "core/recurrence/calendar_walk.h"
+
 #include <algorithm>
 
 namespace importing {
 namespace {
 
-constexpr std::size_t most_followed = 50000;
+using recurrence::CalendarRule;
+using recurrence::CalendarWalk;
+using recurrence::Step;
+using values::DateTime;
 
-struct FreeRule {
-    void operator()(icalrecur_iterator* rule) const { icalrecur_iterator_free(rule); }
-};
+constexpr std::size_t most_followed = 50000;
+constexpr std::size_t units_of_a_date = 10;
+
+DateTime end_of_time() { return DateTime::of(2501, 1, 1); }
 
 // How many years of a rule without an end tell what it does later on.
-int years_to_know(icalrecurrencetype_frequency step) {
+int years_to_know(Step step) {
     switch (step) {
-    case ICAL_YEARLY_RECURRENCE:
+    case Step::yearly:
         return 30;
-    case ICAL_MONTHLY_RECURRENCE:
+    case Step::monthly:
         return 10;
     default:
         return 3;
     }
 }
 
-bool has_list(const short* list) { return list[0] != ICAL_RECURRENCE_ARRAY_MAX; }
-
-// The library searches a rule's next date step by step, so one of small steps that never meets its conditions
-// would keep it busy for very long.
-bool can_be_followed(const icalrecurrencetype& rule) {
-    if (rule.freq == ICAL_HOURLY_RECURRENCE)
-        return !has_list(rule.by_month) && !has_list(rule.by_month_day) && !has_list(rule.by_year_day) &&
-               !has_list(rule.by_day) && !has_list(rule.by_week_no) && !has_list(rule.by_set_pos);
-    return rule.freq >= ICAL_DAILY_RECURRENCE && rule.freq <= ICAL_YEARLY_RECURRENCE;
+void set_steps(RuleDates& dates, const CalendarRule& rule) {
+    const int interval = static_cast<int>(std::min<std::int64_t>(rule.interval, 100000));
+    if (rule.step == Step::daily)
+        dates.days = interval;
+    if (rule.step == Step::weekly)
+        dates.weeks = interval;
+    if (rule.step == Step::monthly)
+        dates.months = interval;
+    if (rule.step == Step::yearly)
+        dates.months = interval * 12;
 }
 
-void set_steps(RuleDates& dates, const icalrecurrencetype& rule) {
-    if (rule.freq == ICAL_DAILY_RECURRENCE)
-        dates.days = rule.interval;
-    if (rule.freq == ICAL_WEEKLY_RECURRENCE)
-        dates.weeks = rule.interval;
-    if (rule.freq == ICAL_MONTHLY_RECURRENCE)
-        dates.months = rule.interval;
-    if (rule.freq == ICAL_YEARLY_RECURRENCE)
-        dates.months = rule.interval * 12;
+// The rule's last moment by the clocks of the entry's zone.
+DateTime last_moment(const CalendarRule& rule, const Surroundings& around) {
+    if (!rule.until || rule.until->time >= end_of_time())
+        return end_of_time();
+    if (rule.until->is_date)
+        return rule.until->time.plus_minutes(24 * 60 - 1);
+    return rule.until->is_utc ? around.times.wall_clock(rule.until->time, around.start.zone) : rule.until->time;
 }
+
+CalendarWalk walk_of(const CalendarRule& rule, const Surroundings& around, DateTime end) {
+    return {rule,
+            {.start = around.start.wall_clock, .end = end, .until = last_moment(rule, around)},
+            [&work = around.work](std::size_t units) { work.spend(units); }};
+}
+
+ZonedTime at(DateTime wall_clock, const ZonedTime& start) { return {wall_clock, start.is_date, start.zone}; }
+
+DateTime moment_of(const ZonedTime& time) { return time.zone ? time.zone->utc(time.wall_clock) : time.wall_clock; }
 
 } // namespace
 
-std::optional<FollowedRule> follow(icalproperty* property, const icaltimetype& start, const Times& times,
-                                   values::DateTime today) {
-    const icalrecurrencetype rule = icalproperty_get_rrule(property);
-    if (!can_be_followed(rule) || rule.interval < 1)
-        return std::nullopt;
-    const std::unique_ptr<icalrecur_iterator, FreeRule> dates(icalrecur_iterator_new(rule, start));
-    if (!dates)
+bool has_end(const CalendarRule& rule) { return rule.count || (rule.until && rule.until->time < end_of_time()); }
+
+std::optional<FollowedRule> follow(const CalendarRule& rule, const Surroundings& around) {
+    if (rule.step == Step::secondly)
         return std::nullopt;
     FollowedRule followed;
-    set_steps(followed.dates, rule);
-    const values::DateTime first = times.local(start);
-    const bool has_end = rule.count > 0 || !icaltime_is_null_time(rule.until);
-    followed.dates.known_to = std::max(first, today).date().plus_months(12 * years_to_know(rule.freq));
-    const auto take = [&](const icaltimetype& time) {
+    RuleDates& dates = followed.dates;
+    set_steps(dates, rule);
+    const auto take = [&](const ZonedTime& time) {
         followed.times.push_back(time);
-        followed.dates.starts.push_back(times.local(time));
+        dates.starts.push_back(around.times.local(time));
     };
-    // The start is an occurrence also where the rule doesn't meet it.
-    take(start);
-    while (true) {
-        icaltimetype time = icalrecur_iterator_next(dates.get());
-        if (icaltime_is_null_time(time) || time.year > 2500) {
-            followed.dates.ended = true;
-            break;
-        }
-        time.zone = start.zone;
-        const values::DateTime local = times.local(time);
-        if (local <= followed.dates.starts.back())
+    take(around.start);
+    const DateTime end =
+        std::max(dates.starts.front(), around.today).date().plus_months(12 * years_to_know(rule.step));
+    dates.known_to = end.plus_days(-1);
+    CalendarWalk walk = walk_of(rule, around, has_end(rule) ? end_of_time() : end.plus_days(2));
+    bool comes_about = false;
+    DateTime moment = moment_of(around.start);
+    while (const auto date = walk.next()) {
+        comes_about = true;
+        const ZonedTime time = at(*date, around.start);
+        const DateTime local = around.times.local(time);
+        if (!has_end(rule) && local >= end)
+            return followed;
+        // Of two times that the missing hour of spring makes one, one is taken.
+        around.work.spend(units_of_a_date);
+        const DateTime next = moment_of(time);
+        if (next <= moment)
             continue;
-        if (!has_end && local >= followed.dates.known_to)
-            break;
+        moment = next;
         if (followed.times.size() == most_followed) {
             followed.is_too_long = true;
-            break;
+            return followed;
         }
         take(time);
     }
-    followed.dates.known_to = followed.dates.known_to.plus_days(-1);
-    return followed;
+    dates.ended = has_end(rule);
+    return comes_about || rule.until ? std::optional(followed) : std::nullopt;
+}
+
+std::vector<DateTime> starts_of(const CalendarRule& rule, const Surroundings& around, DateTime up_to) {
+    std::vector<DateTime> starts;
+    CalendarWalk walk = walk_of(rule, around, has_end(rule) ? end_of_time() : up_to.date().plus_days(2));
+    while (const auto date = walk.next()) {
+        around.work.spend(units_of_a_date);
+        starts.push_back(around.times.local(at(*date, around.start)));
+    }
+    std::ranges::sort(starts);
+    return starts;
+}
+
+void take_out(const std::vector<DateTime>& starts, FollowedRule& rule) {
+    FollowedRule left{.is_too_long = rule.is_too_long};
+    for (std::size_t i = 0; i < rule.times.size(); ++i)
+        if (!std::ranges::binary_search(starts, rule.dates.starts[i])) {
+            left.times.push_back(rule.times[i]);
+            left.dates.starts.push_back(rule.dates.starts[i]);
+        }
+    rule.dates.starts = std::move(left.dates.starts);
+    rule.times = std::move(left.times);
 }
 
 } // namespace importing

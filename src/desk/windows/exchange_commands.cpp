@@ -63,18 +63,25 @@ void ExchangeCommands::import_file() {
             return;
         taking.user = *user;
     }
-    attempt(&window_, [&] { take(taking); });
+    attempt(&window_, [&] { take(*database_.kept_store(), taking); });
 }
 
-void ExchangeCommands::take(const Taking& taking) {
-    const Taken taken = exchange_.take(database_.store(), taking);
+void ExchangeCommands::take(store::Store& store, const Taking& taking) {
+    store.together([] {}); // fails where the file at its path is another one
+    Taken taken;
+    const bool is_done = run_long_task(&window_, tr("Importing"), [&](const Progress& progress) {
+        const auto own = store::Store::open(store.path()); // a store is used by one thread
+        taken = exchange_.take(*own, taking, progress);
+    });
+    if (!is_done)
+        return;
     database_.refresh();
     const bool again =
         taken.left_deleted > 0 && confirm(&window_, tr("Import"),
                                           shown(taken.report) + tr("\nTake in again what was deleted here (%n)?",
                                                                    static_cast<int>(taken.left_deleted)));
     if (again)
-        take({.file = taking.file, .user = taking.user, .with_deleted = true});
+        take(store, {.file = taking.file, .user = taking.user, .with_deleted = true});
     else if (taken.left_deleted == 0)
         tell(&window_, tr("Import"), shown(taken.report));
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "desk/windows/long_task.h"
 #include "desk/windows/open_database.h"
 
 #include <QWidget>
@@ -27,7 +28,8 @@ struct Taken {
 
 // What the desk exchanges with other programs by files. An unset member can't be done.
 struct Exchange {
-    std::function<Taken(store::Store& store, const Taking& taking)> take{};
+    // Runs on a thread of its own.
+    std::function<Taken(store::Store& store, const Taking& taking, const Progress& progress)> take{};
     std::function<bool(const std::string& file)> names_users{};
     // Writes the activities of the user of that name, or of everybody without one, to a file that ends in ".ics",
     // or all contacts to one that ends in ".vcf", and tells what came of it.
@@ -55,7 +57,7 @@ private:
     // The user chosen last, else whoever sits here, where the database has them by their login name.
     QString user_here() const;
     std::string ask_file_to_write();
-    void take(const Taking& taking);
+    void take(store::Store& store, const Taking& taking);
 
     OpenDatabase& database_;
     QWidget& window_;

@@ -194,6 +194,44 @@ TEST_F(ImportAgain, DatesOfARuleThatCantBeFollowedAnyMoreAreNotRemoved) {
     EXPECT_GE(activities().size(), before);
 }
 
+TEST_F(ImportAgain, AnEntryThatTakesTooMuchWorkIsntRemoved) {
+    take(event("a", "12T090000", "RDATE:20240313T090000\r\n"));
+    const Report report = take(event("a", "12T090000", "RRULE:FREQ=DAILY\r\nEXRULE:FREQ=SECONDLY\r\n"));
+    EXPECT_EQ(report.skipped.size(), 1u);
+    EXPECT_EQ(report.removed, 0u);
+    EXPECT_EQ(activities().size(), 2u);
+}
+
+TEST_F(ImportAgain, NothingIsRemovedOnTheWordOfOneOfTwoEntriesUnderAName) {
+    const std::string first = event("a", "12T090000");
+    world.take(calendar(first) + calendar(event("a", "13T090000")));
+    ASSERT_EQ(activities().size(), 2u);
+    EXPECT_EQ(world.take(calendar(first) + calendar(event("a", "99T990000"))).removed, 0u);
+    EXPECT_EQ(activities().size(), 2u);
+}
+
+TEST_F(ImportAgain, AnOccurrenceWithARuleOfItsOwnIsKnownAgainWhenItsSeriesComes) {
+    const std::string occurrence = event("a", "14T150000", "RECURRENCE-ID:20240314T090000\r\n");
+    take(event("a", "14T150000", "RECURRENCE-ID:20240314T090000\r\nRRULE:FREQ=WEEKLY\r\n"));
+    const std::string id = activities().at(0).id;
+    const Report report = take(event("a", "12T090000", "RRULE:FREQ=DAILY\r\n") + occurrence);
+    EXPECT_EQ(report.activities, 1u);
+    EXPECT_EQ(report.updated, 1u);
+    ASSERT_EQ(activities().size(), 2u);
+    EXPECT_EQ(activities()[1].id, id);
+    EXPECT_EQ(activities()[1].recurrence.kind, store::RecurrenceKind::none);
+}
+
+TEST_F(ImportAgain, ASeriesWhoseFirstDateItsExceptionRulesLeaveOutIsKnownAgain) {
+    const std::string series = event("a", "12T090000", "RRULE:FREQ=DAILY\r\n");
+    take(series);
+    const Report report =
+        take(event("a", "12T090000", "RRULE:FREQ=DAILY\r\nEXRULE:FREQ=DAILY;UNTIL=20240312T090000\r\n"));
+    EXPECT_EQ(report.updated, 1u);
+    EXPECT_EQ(activities().size(), 1u);
+    EXPECT_EQ(take(series).updated, 1u);
+}
+
 TEST_F(ImportAgain, EntriesWithoutANameAreKnownByWhatTheySay) {
     const std::string entries = event("", "12T090000") + event("", "12T090000") + event("", "13T090000");
     EXPECT_EQ(take(entries).activities, 3u);

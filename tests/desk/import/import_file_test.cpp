@@ -109,6 +109,33 @@ TEST(ImportFile, TakesThousandDatesOfARuleThatHasMore) {
     EXPECT_NE(report.changed[0].text.find("single activities (1000), no more"), std::string::npos);
 }
 
+TEST(ImportFile, TellsHowFarItIsAndTakesNothingWhenItIsCancelledAtAnyTime) {
+    const std::string calendar =
+        "BEGIN:VCALENDAR\nBEGIN:VEVENT\nDTSTART:20240312T090000\nATTENDEE:mailto:a@x.org\n"
+        "RRULE:FREQ=HOURLY;COUNT=30\nEND:VEVENT\nEND:VCALENDAR\n";
+    ImportWorld world;
+    importing::Options options = world.options();
+    std::vector<double> parts;
+    const auto import = [&] { importing::import_bytes(world.store(), calendar, "file", options); };
+    const auto give_up = [&] {
+        import();
+        throw std::runtime_error("undone");
+    };
+    options.progress = [&](double part) {
+        parts.push_back(part);
+        return true;
+    };
+    EXPECT_THROW(world.store().together(give_up), std::runtime_error);
+    EXPECT_TRUE(std::ranges::is_sorted(parts));
+    EXPECT_NEAR(parts.back(), 1, 1e-9);
+    for (std::size_t last = 0; last < parts.size(); ++last) {
+        std::size_t told = 0;
+        options.progress = [&](double) { return told++ < last; };
+        EXPECT_EQ(failure_of(import), "Nothing was taken from \"file\": the import was cancelled.");
+        EXPECT_EQ(world.records(), "");
+    }
+}
+
 TEST(ImportFile, TakesNothingWhenTheDatabaseFailsInTheMiddle) {
     ImportWorld world;
     std::string calendar = "BEGIN:VCALENDAR\r\n";

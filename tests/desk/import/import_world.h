@@ -51,7 +51,12 @@ public:
 
     store::Store& store() { return database_.store(); }
     importing::Options options() const {
-        return {.user = "", .now = values::DateTime::of(2024, 3, 11, 9), .local_time = berlin};
+        return {.user = "",
+                .now = values::DateTime::of(2024, 3, 11, 9),
+                .local_time = berlin,
+                .other_zone_names = [](const std::string& name) {
+                    return name == "Tokyo Standard Time" ? "Asia/Tokyo" : "";
+                }};
     }
     importing::Report take(const std::string& bytes) {
         return importing::import_bytes(store(), bytes, "file", options());

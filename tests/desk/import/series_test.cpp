@@ -5,9 +5,13 @@
 namespace {
 
 using importing::RuleDates;
-using importing::series_on;
 using store::DateTime;
 using store::RecurrenceKind;
+
+std::optional<store::Recurrence> series_on(const RuleDates& dates) {
+    importing::Work work(10'000'000);
+    return importing::series_on(dates, work);
+}
 
 TEST(SeriesOn, TakesADayOfTheMonthThatNoWeekHidesEver) {
     RuleDates dates{.known_to = DateTime::of(2027, 1, 1), .months = 1};

@@ -283,7 +283,7 @@ TEST_F(DeskWindowTest, ImportsAndExportsOnlyWhereThatCanBeDone) {
     EXPECT_FALSE(action("file_import")->isEnabled());
     EXPECT_FALSE(action("file_export")->isEnabled());
     std::string written;
-    DeskWindow other(database, {.take = [](store::Store&, const Taking&) { return Taken(); },
+    DeskWindow other(database, {.take = [](store::Store&, const Taking&, const Progress&) { return Taken(); },
                                 .write =
                                     [&](store::Store&, const std::string& file, const std::string&) {
                                         written = file;

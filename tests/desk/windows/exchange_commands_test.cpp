@@ -9,6 +9,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 
+#include <filesystem>
 #include <fstream>
 
 using namespace windows;
@@ -25,11 +26,17 @@ protected:
             std::ofstream(in_folder(name)) << "x";
     }
 
-    Taken take(store::Store& store, const Taking& taking) {
+    // A long file is taken until it is cancelled.
+    Taken take(store::Store& store, const Taking& taking, const Progress& progress) {
         taken.push_back(taking);
         if (taking.file.ends_with(".bad"))
             throw values::Failure(values::FailureNumber::automation, "That file can't be read.");
-        contact(store, "Elm House", "Vera Upton");
+        store.together([&] {
+            contact(store, "Elm House", "Vera Upton");
+            while (taking.file.ends_with(".long"))
+                if (!progress(0.5))
+                    throw values::Failure(values::FailureNumber::automation, "The import was cancelled.");
+        });
         return {.report = "One contact was taken.", .left_deleted = taking.with_deleted ? 0 : left_deleted};
     }
     std::string write(const std::string& file, const std::string& user) {
@@ -59,6 +66,10 @@ protected:
         };
     }
     static void cancel(QWidget& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); }
+    static void cancel_under_way(QWidget& box) {
+        click(box.findChild<QPushButton*>());
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !box.isVisible(); }));
+    }
     std::function<void(QWidget&)> confirm() {
         return [this](QWidget& box) {
             told = box.findChild<QLabel*>("qt_msgbox_label")->text();
@@ -67,13 +78,13 @@ protected:
     }
 
     QWidget window;
-    ExchangeCommands commands{
-        database,
-        window,
-        {.take = [this](store::Store& store, const Taking& taking) { return take(store, taking); },
-         .names_users = [](const std::string& file) { return file.ends_with("team.ics"); },
-         .write = [this](store::Store&, const std::string& file,
-                         const std::string& user) { return write(file, user); }}};
+    ExchangeCommands commands{database,
+                              window,
+                              {.take = [this](store::Store& store, const Taking& taking,
+                                              const Progress& progress) { return take(store, taking, progress); },
+                               .names_users = [](const std::string& file) { return file.ends_with("team.ics"); },
+                               .write = [this](store::Store&, const std::string& file,
+                                               const std::string& user) { return write(file, user); }}};
     std::vector<Taking> taken;
     std::vector<std::string> written;
     std::size_t left_deleted = 0;
@@ -131,6 +142,35 @@ TEST_F(ExchangeCommandsTest, AnImportThatFailsTellsWhy) {
     with_dialogs({choose("people.bad"), choose_user("Anna Berg"), confirm()}, [&] { commands.import_file(); });
     EXPECT_EQ(told, "That file can't be read.");
     EXPECT_EQ(database.directory().contacts().size(), 4u);
+}
+
+TEST_F(ExchangeCommandsTest, AnImportThatIsCancelledUnderWayTakesNothing) {
+    std::ofstream(in_folder("plan.long")) << "x";
+    with_dialogs({choose("plan.long"), choose_user("Anna Berg"), cancel_under_way},
+                 [&] { commands.import_file(); });
+    EXPECT_EQ(taken.size(), 1u);
+    EXPECT_EQ(elsewhere()->contacts().size(), 4u);
+    EXPECT_TRUE(database.is_open());
+}
+
+TEST_F(ExchangeCommandsTest, TheDatabaseCanBeClosedWhileAnImportIsUnderWay) {
+    std::ofstream(in_folder("plan.long")) << "x";
+    const auto close = [this](QWidget& box) {
+        database.close();
+        cancel_under_way(box);
+    };
+    with_dialogs({choose("plan.long"), choose_user("Anna Berg"), close}, [&] { commands.import_file(); });
+    EXPECT_FALSE(database.is_open());
+    EXPECT_EQ(elsewhere()->contacts().size(), 4u);
+}
+
+TEST_F(ExchangeCommandsTest, NothingIsTakenIntoAnotherDatabaseThatStandsInThePlaceOfTheOpenOne) {
+    std::filesystem::rename(path, in_folder("moved.desk"));
+    store::Store::create(path);
+    with_dialogs({choose("people.vcf"), confirm()}, [&] { commands.import_file(); });
+    EXPECT_TRUE(told.contains("was moved, deleted or replaced")) << told.toStdString();
+    EXPECT_TRUE(taken.empty());
+    EXPECT_TRUE(elsewhere()->contacts().empty());
 }
 
 TEST_F(ExchangeCommandsTest, AFileThatNamesItsUsersGoesToThemUnlessAnotherIsChosen) {

@@ -1,7 +1,7 @@
 #include "desk/import/calendar_reader.h"
 
 #include "desk/import/activity_text.h"
-#include "desk/import/recurring.h"
+#include "desk/import/recurring_entry.h"
 #include "desk/import/uid.h"
 
 #include <algorithm>

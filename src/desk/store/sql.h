@@ -7,8 +7,8 @@
 #include <vector>
 
 // Every SQL text of the store, so that another engine can take the data over by these files alone (sql.h for the
-// statements, sql.cpp for the tables and the texts that are put together). Times are seconds since 1899-12-30
-// 00:00, dates likewise; absent ids are NULL.
+// statements, sql.cpp for those that are put together, schema_scripts.cpp for the tables). Times are seconds since
+// 1899-12-30 00:00, dates likewise; absent ids are NULL.
 namespace store::sql {
 
 // The state of a new connection, and of a new database's file.

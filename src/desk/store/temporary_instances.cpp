@@ -1,6 +1,6 @@
 #include "desk/store/temporary_instances.h"
 
-#include "desk/store/process.h"
+#include "desk/store/running_process.h"
 #include "desk/store/sql.h"
 #include "desk/store/sqlite_store.h"
 

@@ -1,6 +1,6 @@
 #include "core/act/left_instances.h"
 #include "core/shell/shell_world.h"
-#include "desk/store/process.h"
+#include "desk/store/running_process.h"
 #include "desk/store/sqlite_connection.h"
 #include "support/half_real_server.h"
 #include "support/temporary_database.h"

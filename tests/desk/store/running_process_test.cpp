@@ -1,4 +1,4 @@
-#include "desk/store/process.h"
+#include "desk/store/running_process.h"
 
 #include "desk/store/child_process.h"
 

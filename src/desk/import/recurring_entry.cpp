@@ -1,4 +1,4 @@
-#include "desk/import/recurring.h"
+#include "desk/import/recurring_entry.h"
 
 #include "core/recurrence/calendar_rule.h"
 #include "desk/import/import_file.h"

@@ -13,6 +13,11 @@ else()
         # GCC 12 sees overlaps in optimised std::string code that can't happen.
         target_compile_options(orvanta_flags INTERFACE -Wno-restrict)
     endif()
+    if(ORVANTA_FUZZ)
+        target_compile_options(orvanta_flags INTERFACE -fsanitize=fuzzer-no-link,address,undefined
+            -fno-sanitize-recover=undefined -Wno-error)
+        target_link_options(orvanta_flags INTERFACE -fsanitize=address,undefined)
+    endif()
     if(ORVANTA_SANITIZE)
         target_compile_options(orvanta_flags INTERFACE -fsanitize=address,undefined -fno-omit-frame-pointer
             -fno-sanitize-recover=undefined)

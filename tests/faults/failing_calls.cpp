@@ -19,6 +19,7 @@ namespace {
 
 std::string folder, failed;
 int counted = 0, failing = 0;
+faults::Fault fault = faults::Fault::once;
 bool counts = false;
 
 std::string path_of(int file) {
@@ -31,9 +32,12 @@ std::string path_of(int file) {
 bool fails(const char* call, const std::string& path, int error) {
     if (!counts || !path.starts_with(folder))
         return false;
-    if (++counted != failing)
+    const bool is_reached =
+        fault == faults::Fault::once ? ++counted == failing : ++counted >= failing && error == ENOSPC;
+    if (!is_reached)
         return false;
-    failed = std::string(call) + " " + path;
+    if (failed.empty())
+        failed = std::string(call) + " " + path;
     errno = error;
     return true;
 }
@@ -65,8 +69,9 @@ mode_t mode_in(int flags, va_list arguments) {
 
 namespace faults {
 
-void begin(const std::string& below, int number) {
+void begin(const std::string& below, Fault kind, int number) {
     folder = below;
+    fault = kind;
     failed.clear();
     counted = 0;
     failing = number;

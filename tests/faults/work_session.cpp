@@ -164,29 +164,40 @@ void WorkSession::add_files() {
         {"a copy", [this] { database().save_copy(in_folder("copy.desk"), [](int, int) { return true; }); }});
 }
 
+calendar::Calendar& WorkSession::started() {
+    if (!calendar_) {
+        calendar_ = std::make_unique<calendar::Calendar>(outside_of_files(),
+                                                         calendar::Face{window_, dialogs_, presenter_, question_});
+        calendar_->start_up.Form_Load();
+    }
+    return *calendar_;
+}
+
+void WorkSession::start_again() {
+    calendar_.reset();
+    store_.reset();
+}
+
 void WorkSession::add_calendar() {
     steps_.push_back({"a change in the calendar", [this] {
-                          if (!calendar_) {
-                              calendar_ = std::make_unique<calendar::Calendar>(
-                                  outside_of_files(), calendar::Face{window_, dialogs_, presenter_, question_});
-                              calendar_->start_up.Form_Load();
-                          }
-                          act::Activity& activity = *calendar_->act.session.ActActivity;
+                          act::Activity& activity = *started().act.session.ActActivity;
                           activity.Goto(call);
                           activity.Edit();
                           activity.Data(act::activity_field::regarding, std::string("From the calendar"));
                           activity.Update();
                       }});
-    steps_.push_back({"an occurrence of its own", [this] {
-                          act::Activity& activity = *calendar_->act.session.ActActivity;
+    steps_.push_back({"an occurrence of its own",
+                      [this] {
+                          act::Activity& activity = *started().act.session.ActActivity;
                           activity.Goto(series);
-                          const grid::clsMsgSchedCell& cell = calendar_->grid.layout.Cells(2, 6);
-                          calendar_->interaction.instances.Change_Instance(cell, cell, 60);
-                      }});
+                          const grid::clsMsgSchedCell& cell = started().grid.layout.Cells(2, 6);
+                          started().interaction.instances.Change_Instance(cell, cell, 60);
+                      },
+                      false});
     steps_.push_back({"days off", [this] {
                           support::FakeHolidaysForm form;
-                          forms::DaysOff dialog(here_, calendar_->settings, form,
-                                                calendar_->grid.background.holidays, calendar_->grid.layout);
+                          forms::DaysOff dialog(here_, started().settings, form,
+                                                started().grid.background.holidays, started().grid.layout);
                           form.Form_Unload = [&] { dialog.Form_Unload(); };
                           dialog.Form_Load();
                           form.set_chkday(1, true);
@@ -195,7 +206,7 @@ void WorkSession::add_calendar() {
                           dialog.cmdAdd_Click();
                           dialog.cmdOK_Click();
                       }});
-    steps_.push_back({"the calendar's end", [this] { calendar_->closing.Form_Unload(); }});
+    steps_.push_back({"the calendar's end", [this] { started().closing.Form_Unload(); }});
 }
 
 std::string WorkSession::run(const Step& step) {

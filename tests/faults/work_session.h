@@ -3,8 +3,10 @@
 #include "adapters/qt/qt_files.h"
 #include "core/forms/days_off_world.h"
 #include "core/settings/file_user_store.h"
+#include "desk/store/store.h"
 #include "support/half_real_server.h"
 #include "support/platform_world.h"
+#include "support/temporary_folder.h"
 
 #include <functional>
 #include <memory>
@@ -21,18 +23,22 @@ public:
 
     struct Step {
         std::string name;
-        std::function<void()> work; // throws or shows a box where it fails
+        std::function<void()> work;  // throws or shows a box where it fails
+        bool can_be_repeated = true; // a second time it changes nothing, or is refused
     };
     const std::vector<Step>& steps() const { return steps_; }
 
     // Carries a step out. Gives what the user was told of its failure; empty when it went well.
     std::string run(const Step& step);
+    // Both programs end, and start when they are used again.
+    void start_again();
     // All that the files hold, as a program would read them that starts now.
     std::string state();
 
 private:
     std::string in_folder(const char* name) const { return folder_ + "/" + name; }
     store::Store& database();
+    calendar::Calendar& started();
     void add_settings();
     void add_records();
     void add_files();

@@ -7,8 +7,8 @@
 
 namespace fuzz {
 
-// Starts a calendar with these settings and holidays, and pages through it. What it can't read may end in boxes; it
-// must come up all the same.
+// Starts a calendar with these settings and holidays, and pages through it. What it can't read may end in boxes;
+// it must come up all the same.
 inline void start_calendar(const std::string& settings, const std::string& holidays) {
     class World : public support::ShellWorld {
     public:

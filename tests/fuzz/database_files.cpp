@@ -1,5 +1,6 @@
 #include "adapters/records/desk_database.h"
 #include "core/values/failure.h"
+#include "desk/store/store.h"
 #include "desk/store/temporary_instances.h"
 #include "fuzz/target.h"
 #include "support/temporary_folder.h"

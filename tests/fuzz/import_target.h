@@ -16,9 +16,9 @@ inline void import_and_forget(std::string_view input, const std::string& name) {
     struct Forget {};
     try {
         database.store().together([&] {
-            importing::import_bytes(database.store(), input, name,
-                                    {.now = values::DateTime::of(2024, 1, 10),
-                                     .local_time = importing::system_local_time});
+            importing::import_bytes(
+                database.store(), input, name,
+                {.now = values::DateTime::of(2024, 1, 10), .local_time = importing::system_local_time});
             throw Forget();
         });
     } catch (const Forget&) {

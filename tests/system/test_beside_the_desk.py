@@ -216,6 +216,9 @@ class Importing(BothPrograms):
         self.desktop.focus(dialog)
         self.desktop.type(file_name)
         self.desktop.keys("Return")
+        wait_to_see(self.desk, Atspi.Role.LABEL, "Schedule the activities for:")
+        self.desktop.focus(self.desktop.windows("^Import$", self.desk)[0])
+        self.desktop.keys("Return")
         wait_to_see(self.desk, Atspi.Role.LABEL, "Taken from from elsewhere.ics: 1 activity for "
                     f"{self.users[0]}, 1 new contact, 0 notes.\n")
         self.desktop.focus(self.desktop.windows("^Import$", self.desk)[0])

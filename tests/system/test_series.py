@@ -4,7 +4,7 @@ database."""
 import unittest
 
 from both_programs import CHANGE_OF_DATE, CHANGE_OF_USER, DAY, SERIES_MENU, WHICH, BothPrograms, us_date
-from desktop import Atspi, wait_for, wait_to_see
+from desktop import Atspi, Grid, wait_for, wait_to_see
 
 REFUSED = ("In Orvanta, changes made under the RECURRING TAB are not allowed unless you use the Edit recurring "
            "settings command. See the user's manual for more on Editing recurring activities.\nAll changes are ignored.")
@@ -187,6 +187,47 @@ class Clearing(Series):
         self.wait_to_see(self.contact, 3, 10)
         self.expect_series()
         self.expect_no_instance()
+
+
+class KilledCalendar(Series):
+    """The calendar is killed while Wednesday's occurrence is edited in the desk's dialog; then it starts again."""
+
+    def setUp(self):
+        super().setUp()
+        self.double_click(3, 10)
+        self.dialog = self.wait_for_dialog("Edit Activity")
+        self.calendar.kill()
+        self.calendar.wait(10)
+        self.assertEqual(len(self.database.activities()), 2)
+
+    def start_again(self):
+        self.calendar = self.desktop.start("orvanta")
+
+    def end_dialog(self, key):
+        self.desktop.focus(self.dialog)
+        self.desktop.keys(key)
+        wait_for(lambda: not self.desktop.windows("^Edit Activity$", self.desk), "the end of the dialog")
+
+    def test_the_series_has_its_occurrence_again(self):
+        self.end_dialog("Escape")
+        self.start_again()
+        self.desktop.wait_for_window("^Orvanta$", self.calendar)
+        wait_for(lambda: len(self.database.activities()) == 1, "the end of the instance")
+        self.assertEqual(self.database.exceptions(self.series), [])
+
+    def test_an_occurrence_that_was_changed_stays_and_is_told(self):
+        self.desktop.focus(self.dialog)
+        self.desktop.keys("alt+r")
+        self.desktop.type("Prices of nails")
+        self.end_dialog("Return")
+        self.start_again()
+        self.answer(self.calendar, f'The calendar ended while the occurrence of "Prices of nails" on '
+                    f'{us_date(self.date(3))} was edited. It was changed, or its series was deleted, so it stays as an '
+                    'activity of its own.', "OK")
+        self.desktop.wait_for_window("^Orvanta$", self.calendar)
+        self.grid = Grid(self.calendar)
+        self.expect_series(exceptions=[3])
+        self.expect_instance(regarding="Prices of nails")
 
 
 if __name__ == "__main__":

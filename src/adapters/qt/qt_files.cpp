@@ -77,8 +77,10 @@ public:
         QSaveFile file(target);
         if (!file.open(QIODevice::WriteOnly))
             return info.exists() && overwrite(target, bytes);
-        // What is still in the buffer when it commits, the class writes without looking whether that worked.
-        return file.write(bytes.data(), static_cast<qint64>(bytes.size())) >= 0 && file.flush() && file.commit();
+        // Neither what is still in the buffer when it commits nor its own flush to the disk is looked after by the
+        // class.
+        return file.write(bytes.data(), static_cast<qint64>(bytes.size())) >= 0 && file.flush() &&
+               sync_to_disk(file) && file.commit();
     }
 
     std::unique_ptr<host::FileLock> lock(const std::string& path) override {

@@ -7,8 +7,8 @@ namespace store {
 
 // A command that another program adds to the contact manager.
 struct ToolbarCommand {
-    std::string name; // unique
-    std::string program, folder, title, caption, icon, large_icon;
+    std::string name{}; // unique
+    std::string program{}, folder{}, title{}, caption{}, icon{}, large_icon{};
     int flag = 1;
 };
 

@@ -23,6 +23,7 @@ namespace windows {
 namespace {
 
 constexpr int poll_milliseconds = 1000;
+constexpr int put_back_milliseconds = 1000;
 
 QIcon picture(const char* name) { return QIcon(QStringLiteral(":/desk/%1.svg").arg(QLatin1String(name))); }
 
@@ -303,9 +304,16 @@ void DeskWindow::end(const std::function<void()>& stays) {
             this, [this, stays] { end(stays); }, Qt::QueuedConnection);
         return;
     }
-    const bool is_settled = !typed_in || settle(*typed_in);
-    if (!is_settled || !close())
+    const bool is_awaited = activity_commands_.awaited_dialog() != nullptr;
+    if (typed_in && !settle(*typed_in)) {
         stays();
+        return;
+    }
+    // Who waited for the dialog puts the views back as they were.
+    QTimer::singleShot(is_awaited ? put_back_milliseconds : 0, this, [this, stays] {
+        if (!close())
+            stays();
+    });
 }
 
 bool DeskWindow::settle(QDialog& dialog) {

@@ -279,11 +279,31 @@ TEST_F(DeskWindowTest, SeesWhatAnotherProcessWroteWithinASecondOrTwo) {
     EXPECT_TRUE(QTest::qWaitFor([this] { return count() == "5 of 5 contacts"; }, 10000));
 }
 
-TEST_F(DeskWindowTest, ImportsOnlyWhereThereIsAnImport) {
+TEST_F(DeskWindowTest, ImportsAndExportsOnlyWhereThatCanBeDone) {
     window->open(path);
     EXPECT_FALSE(action("file_import")->isEnabled());
-    DeskWindow other(database, {.take = [](store::Store&, const Taking&, const Progress&) { return Taken(); }});
+    EXPECT_FALSE(action("file_export")->isEnabled());
+    std::string written;
+    DeskWindow other(database, {.take = [](store::Store&, const Taking&, const Progress&) { return Taken(); },
+                                .write =
+                                    [&](store::Store&, const std::string& file, const std::string&) {
+                                        written = file;
+                                        return std::string("Written.");
+                                    }});
     EXPECT_TRUE(other.findChild<QAction*>("file_import")->isEnabled());
+    auto* exporting = other.findChild<QAction*>("file_export");
+    EXPECT_TRUE(exporting->isEnabled());
+    QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+    const auto name_file = [this](QWidget& dialog) {
+        auto* line = dialog.findChild<QLineEdit*>("fileNameEdit");
+        line->setText(QString::fromStdString(in_folder("all.vcf")));
+        QTest::keyClick(line, Qt::Key_Return);
+    };
+    const auto confirm = [](QWidget& box) { QTest::keyClick(&box, Qt::Key_Return); };
+    with_dialogs({name_file, confirm}, [&] { exporting->trigger(); });
+    EXPECT_EQ(written, in_folder("all.vcf"));
+    database.close();
+    EXPECT_FALSE(exporting->isEnabled());
 }
 
 // The desk, asked to end while an activity is edited and something typed for it.
@@ -303,6 +323,7 @@ protected:
                          click(dynamic_cast<QMessageBox&>(box).button(answer));
                      }},
                      [&] { window->end([this] { ++stays; }); });
+        EXPECT_TRUE(QTest::qWaitFor([this] { return stays > 0 || !window->isVisible(); }, 5000));
     }
     std::string regarding() { return elsewhere()->activity(meeting)->regarding; }
 

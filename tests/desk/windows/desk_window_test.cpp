@@ -13,6 +13,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QStackedWidget>
+#include <QThread>
 
 #include <filesystem>
 #include <fstream>
@@ -358,4 +359,31 @@ TEST_F(DeskWindowTest, AskedToEndCancelsAQuestionThatIsOpenFirst) {
     action("file_open")->trigger(); // returns when its dialog has closed
     EXPECT_TRUE(QTest::qWaitFor([this] { return !window->isVisible(); }, 5000));
     EXPECT_EQ(events, (Events{"wants to close", "closed"}));
+}
+
+TEST_F(DeskWindowTest, AskedToEndCancelsAnImportThatIsUnderWayFirst) {
+    QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+    database.open(path);
+    std::ofstream(in_folder("people.vcf")) << "x";
+    const auto take_for_ever = [](store::Store& store, const Taking&, const Progress& progress) -> Taken {
+        store.together([&] {
+            contact(store, "Elm House", "Vera Upton");
+            while (progress(0.5))
+                QThread::msleep(1);
+            throw values::Failure(values::FailureNumber::automation, "The import was cancelled.");
+        });
+        return {};
+    };
+    DeskWindow other(database, {.take = take_for_ever});
+    other.show();
+    const auto choose = [&](QWidget& dialog) {
+        auto* line = child<QLineEdit>(dialog, "fileNameEdit");
+        line->setText(QString::fromStdString(in_folder("people.vcf")));
+        QTest::keyClick(line, Qt::Key_Return);
+    };
+    const auto end = [&](QWidget&) { other.end([] { FAIL(); }); };
+    with_dialogs({choose, end}, [&] { other.findChild<QAction*>("file_import")->trigger(); });
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !other.isVisible(); }, 5000));
+    EXPECT_FALSE(database.is_open());
+    EXPECT_EQ(elsewhere()->contacts().size(), 4u);
 }

@@ -15,7 +15,7 @@ else()
     endif()
     if(ORVANTA_FUZZ)
         target_compile_options(orvanta_flags INTERFACE -fsanitize=fuzzer-no-link,address,undefined
-            -fno-sanitize-recover=undefined -Wno-error)
+            -fno-sanitize-recover=undefined -Wno-error -Wno-unknown-warning-option)
         target_link_options(orvanta_flags INTERFACE -fsanitize=address,undefined)
     endif()
     if(ORVANTA_SANITIZE)

@@ -58,16 +58,16 @@ bool is_of_calendar(const Component& component) {
 
 // Entries that stand outside of any calendar make one of their own, which knows the zones of the others.
 void gather_entries(std::vector<Component>& components) {
-    const auto entries = std::ranges::stable_partition(components, std::not_fn(is_of_calendar));
-    if (entries.empty())
+    const auto entries = std::stable_partition(components.begin(), components.end(), std::not_fn(is_of_calendar));
+    if (entries == components.end())
         return;
-    Component calendar{.name = "VCALENDAR", .line = entries.front().line};
+    Component calendar{.name = "VCALENDAR", .line = entries->line};
     for (const Component& component : components)
         if (component.name == "VCALENDAR")
             std::ranges::copy_if(component.parts, std::back_inserter(calendar.parts),
                                  [](const Component& part) { return part.name == "VTIMEZONE"; });
-    std::ranges::move(entries, std::back_inserter(calendar.parts));
-    components.erase(entries.begin(), entries.end());
+    std::move(entries, components.end(), std::back_inserter(calendar.parts));
+    components.erase(entries, components.end());
     components.push_back(std::move(calendar));
 }
 

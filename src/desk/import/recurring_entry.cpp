@@ -162,7 +162,7 @@ private:
                 if (!dates.ended && date.date() > dates.known_to)
                     exceptions.push_back(date.date());
         std::ranges::sort(exceptions);
-        exceptions.erase(std::ranges::unique(exceptions).begin(), exceptions.end());
+        exceptions.erase(std::unique(exceptions.begin(), exceptions.end()), exceptions.end());
         take_at(recurring, dates.starts.front());
     }
 

@@ -318,6 +318,7 @@ void DeskWindow::end(const std::function<void()>& stays) {
 
 bool DeskWindow::settle(QDialog& dialog) {
     come_forward();
+    dialog.raise(); // what is asked about is in sight
     const QPointer<QDialog> open = &dialog;
     const auto answer = QMessageBox::question(
         &dialog, tr("Contact Desk"), tr("The contact desk was asked to end. Store what is typed in this dialog?"),

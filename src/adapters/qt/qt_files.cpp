@@ -27,7 +27,7 @@ bool is_read_only(const QFileInfo& file) {
     return (file.permissions() & (QFile::WriteOwner | QFile::WriteGroup | QFile::WriteOther)) == 0;
 }
 
-bool append(QFile& file, const char* bytes, qint64 count) {
+bool write_to_disk(QFile& file, const char* bytes, qint64 count) {
     return file.write(bytes, count) == count && file.flush() && sync_to_disk(file);
 }
 
@@ -38,13 +38,22 @@ bool overwrite(const QString& path, const std::string& bytes) {
     if (!file.open(QIODevice::ReadWrite | QIODevice::ExistingOnly | QIODevice::Unbuffered))
         return false;
     const auto size = static_cast<qint64>(bytes.size());
+    const QByteArray old = file.readAll();
     const qint64 old_size = file.size();
+    if (old.size() != old_size)
+        return false;
     const qint64 kept = std::min(size, old_size);
-    if (!file.seek(old_size) || !append(file, bytes.data() + kept, size - kept)) {
+    if (!file.seek(old_size) || !write_to_disk(file, bytes.data() + kept, size - kept)) {
         file.resize(old_size);
         return false;
     }
-    return file.seek(0) && append(file, bytes.data(), kept) && file.resize(size);
+    if (file.seek(0) && write_to_disk(file, bytes.data(), kept) && file.resize(size))
+        return true;
+    // Some file systems need room for what is written over as well.
+    file.seek(0);
+    write_to_disk(file, old.data(), old_size);
+    file.resize(old_size);
+    return false;
 }
 
 class QtFiles : public host::Files {

@@ -1,10 +1,14 @@
 #include "desk/store/running_process.h"
 
+#include <sys/types.h>
+
 #include <unistd.h>
 
 #include <algorithm>
+#include <cerrno>
+#include <csignal>
+#include <cstdlib>
 #include <fstream>
-#include <iterator>
 
 namespace store {
 
@@ -22,7 +26,7 @@ std::string machine() { return first_line("/etc/machine-id"); }
 std::string boot() { return first_line("/proc/sys/kernel/random/boot_id"); }
 
 // The tick of its start: a number of a process is given again, together with the tick it isn't. Empty for a
-// process that has ended.
+// process that has ended, and for one that the kernel doesn't tell us of.
 std::string start_of(const std::string& number) {
     constexpr int fields_between = 19; // the state, the 3rd field, to the start, the 22nd
     const std::string line = first_line("/proc/" + number + "/stat");
@@ -33,6 +37,11 @@ std::string start_of(const std::string& number) {
     for (int field = 0; field < fields_between && begin != 0; ++field)
         begin = line.find(' ', begin) + 1;
     return line.substr(begin, line.find(' ', begin) - begin);
+}
+
+// A process of another user, where the machine shows each user their own alone.
+bool is_hidden(const std::string& number) {
+    return ::kill(static_cast<pid_t>(std::atol(number.c_str())), 0) != 0 && errno == EPERM;
 }
 
 // The next part of a text of parts between blanks.
@@ -59,7 +68,10 @@ bool is_running(const std::string& process) {
     const std::string number = next_part(rest);
     const bool is_number =
         !number.empty() && std::ranges::all_of(number, [](char c) { return c >= '0' && c <= '9'; });
-    return is_number && !rest.empty() && start_of(number) == rest;
+    if (!is_number || rest.empty())
+        return false;
+    const std::string start = start_of(number);
+    return start == rest || (start.empty() && is_hidden(number));
 }
 
 } // namespace store
